@@ -1,0 +1,22 @@
+# libzuk_platform.so: the plain functions of include/zu/platform, one folder per library.
+
+find_package(PkgConfig REQUIRED)
+pkg_check_modules(GDAL REQUIRED IMPORTED_TARGET gdal)
+pkg_check_modules(PROJ REQUIRED IMPORTED_TARGET proj)
+pkg_check_modules(CAIRO REQUIRED IMPORTED_TARGET cairo)
+pkg_check_modules(ICU REQUIRED IMPORTED_TARGET icu-i18n icu-uc)
+pkg_check_modules(PUGIXML REQUIRED IMPORTED_TARGET pugixml)
+find_package(nlohmann_json 3 REQUIRED)
+find_package(Threads REQUIRED)
+
+zu_sources(platform_sources platform)
+add_library(zuk_platform_objects OBJECT ${platform_sources})
+target_link_libraries(zuk_platform_objects PUBLIC zu_house PkgConfig::GDAL PkgConfig::PROJ PkgConfig::CAIRO
+                      PkgConfig::ICU PkgConfig::PUGIXML nlohmann_json::nlohmann_json Threads::Threads)
+target_precompile_headers(zuk_platform_objects PRIVATE <algorithm> <cmath> <cstdint> <cstring> <map> <memory>
+                          <string> <vector>)
+
+add_library(zuk_platform SHARED)
+target_link_libraries(zuk_platform PRIVATE zuk_platform_objects)
+target_include_directories(zuk_platform INTERFACE ${CMAKE_SOURCE_DIR}/include)
+install(TARGETS zuk_platform LIBRARY DESTINATION lib)

@@ -1,0 +1,40 @@
+# Four test programs. Tests stand in the same folders as the code they look at.
+
+find_package(GTest REQUIRED)
+
+# Runs every test of a program in one process, and again under a decimal-comma locale.
+function(zu_test name)
+  add_test(NAME ${name} COMMAND ${name})
+  set_tests_properties(${name} PROPERTIES ENVIRONMENT "${ZU_TEST_ENVIRONMENT}")
+endfunction()
+set(ZU_TEST_ENVIRONMENT
+    "ZU_BUILD_DIR=${CMAKE_BINARY_DIR};ZU_SOURCE_DIR=${CMAKE_SOURCE_DIR};LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/leaks.supp;ASAN_OPTIONS=detect_odr_violation=0"
+)
+
+# The bundle's own code, on the real platform.
+file(GLOB_RECURSE bundle_tests CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/unit/src/*.cpp)
+add_executable(unit_bundle ${bundle_tests})
+target_link_libraries(unit_bundle PRIVATE zuk_bundle_objects zuk_platform PkgConfig::GDAL GTest::gtest_main)
+
+# The platform's own code, with its insides in reach.
+file(GLOB_RECURSE platform_tests CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/unit/platform/*.cpp
+                                                    ${CMAKE_SOURCE_DIR}/tests/unit/platform/*.c)
+add_executable(unit_platform ${platform_tests})
+target_link_libraries(unit_platform PRIVATE zuk_platform_objects GTest::gtest_main)
+
+# The border alone, and the rules of the house.
+file(GLOB_RECURSE abi_tests CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/abi/*.cpp)
+add_executable(abi ${abi_tests})
+target_link_libraries(abi PRIVATE zu_house zuk_platform GTest::gtest_main ${CMAKE_DL_LIBS})
+add_dependencies(abi zuk_grid_layer2d)
+
+# The command line on real files, and the host's core.
+file(GLOB_RECURSE e2e_tests CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/e2e/*.cpp
+                                               ${CMAKE_SOURCE_DIR}/tests/unit/host/*.cpp)
+add_executable(e2e ${e2e_tests})
+target_link_libraries(e2e PRIVATE zu_host_cli PkgConfig::GDAL GTest::gtest_main)
+add_dependencies(e2e zugrid)
+
+foreach(program unit_bundle unit_platform abi e2e)
+  zu_test(${program})
+endforeach()

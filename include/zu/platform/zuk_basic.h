@@ -1,0 +1,98 @@
+#pragma once
+// Texts through adapters, options, colours and channels, and the reasons why something failed.
+
+#include "zu/platform/zuk_api.h"
+
+// --- Texts
+
+/// Takes texts on behalf of whoever made it.
+typedef struct Tzu_string_adp Tzu_string_adp;
+typedef void (*Tzu_narrow_sink)(const char* text, void* user);
+typedef void (*Tzu_wide_sink)(const wchar_t* text, void* user);
+
+/// An adapter that calls one of the sinks, with `user`, for each text delivered; null if out of
+/// memory.
+ZU_API Tzu_string_adp* zu_string_adp_create(Tzu_narrow_sink narrow, Tzu_wide_sink wide, void* user);
+ZU_API void zu_string_adp_destroy(Tzu_string_adp* adapter);  ///< null is ignored
+/// Delivers a wide text; it lives only during the call. Null adapters are ignored.
+ZU_API void zu_string_adp_feed(Tzu_string_adp* adapter, const wchar_t* text);
+/// Delivers a text in the system's code page (UTF-8).
+ZU_API void zu_string_adp_feed_narrow(Tzu_string_adp* adapter, const char* text);
+
+// --- Options of the running program
+
+/// Path of the host's program; the text is never null.
+ZU_API const wchar_t* zu_options_get_main_module_path(void);
+/// Overrides the above; null goes back to the program's own path.
+ZU_API void zu_options_set_main_module_path(const wchar_t* path);
+
+// --- Colours
+
+/// A colour; `a` is a transparency, 0 opaque. As a 32-bit word red is the low byte.
+typedef struct Tzu_color {
+  uint8_t r, g, b, a;
+} Tzu_color;
+
+/// A colour that may be unset. Five bytes, no gap.
+typedef struct Tzu_optional_color {
+  Tzu_color color;
+  uint8_t is_set;
+} Tzu_optional_color;
+
+/// A channel: a field's name and the limits between which its values spread over 0..255.
+typedef struct Tzu_clr_channel {
+  double minimum, scale, offset;  ///< prepared: value * scale + offset is the unrounded byte
+  double maximum;
+  void* body;
+} Tzu_clr_channel;
+typedef struct Tzu_rgb_channels Tzu_rgb_channels;
+
+ZU_API Tzu_rgb_channels* zu_rgb_channels_create(void);
+ZU_API void zu_rgb_channels_destroy(Tzu_rgb_channels* channels);
+ZU_API void zu_rgb_channels_assign(Tzu_rgb_channels* channels, const Tzu_rgb_channels* from);
+// Channels of a set, never null for a set that is not; owned by the set.
+ZU_API Tzu_clr_channel* zu_rgb_channels_get_red(Tzu_rgb_channels* channels);
+ZU_API Tzu_clr_channel* zu_rgb_channels_get_green(Tzu_rgb_channels* channels);
+ZU_API Tzu_clr_channel* zu_rgb_channels_get_blue(Tzu_rgb_channels* channels);
+ZU_API Tzu_clr_channel* zu_rgb_channels_get_gray(Tzu_rgb_channels* channels);
+ZU_API void zu_clr_channel_get_prop_name_w(const Tzu_clr_channel* channel, Tzu_string_adp* adapter);
+ZU_API void zu_clr_channel_set_prop_name_w(Tzu_clr_channel* channel, const wchar_t* name);
+/// Limits in the unit of the field. A new channel has 0 and 255.
+ZU_API double zu_clr_channel_get_minimum(const Tzu_clr_channel* channel);
+ZU_API double zu_clr_channel_get_maximum(const Tzu_clr_channel* channel);
+/// Equal limits make a step: at or below them 0, above 255.
+ZU_API void zu_clr_channel_set_limits(Tzu_clr_channel* channel, double minimum, double maximum);
+
+#ifdef __cplusplus
+/// (value - minimum) / (maximum - minimum) * 255, rounded half up, cut to 0..255; NaN gives 0.
+ZU_HOT uint8_t zu_clr_channel_get255value(const Tzu_clr_channel* channel, double value) {
+  double byte = (value - channel->minimum) * channel->scale + channel->offset + 0.5;
+  return byte >= 255.0 ? 255 : byte > 0.0 ? static_cast<uint8_t>(byte) : 0;
+}
+#else
+ZU_API uint8_t zu_clr_channel_get255value(const Tzu_clr_channel* channel, double value);
+#endif
+
+/// Packs a colour word: red in the low byte.
+ZU_API uint32_t zu_clr_init_rgba(uint8_t r, uint8_t g, uint8_t b, uint8_t a);
+/// Fills `count` colours of a numbered array; `flag` 0 spreads it as a ramp, 1 takes its colours in
+/// turn. Transparencies of `colors` are kept. False if there is no such array.
+ZU_API bool zu_clr_arrays_generate_ex(int32_t id, uint64_t count, Tzu_color* colors, int32_t flag);
+
+// --- Reasons
+
+/// Why something about a source or layer did not work. The bundle stays silent; the platform keeps
+/// the last reasons by source name for the host to say.
+enum Tzu_problem_kind {
+  zu_problem_open = 0,
+  zu_problem_read = 1,
+  zu_problem_projection = 2,
+  zu_problem_field = 3,
+  zu_problem_write = 4,
+};
+/// Keeps a reason; the same text of the same source is kept once, at most 16 a source.
+ZU_API void zu_problems_add(const wchar_t* source, int32_t kind, const wchar_t* text);
+ZU_API int32_t zu_problems_get_count(const wchar_t* source);
+/// Text and kind of reason `index`, oldest first; -1 and no text if there is none.
+ZU_API int32_t zu_problems_get(const wchar_t* source, int32_t index, Tzu_string_adp* text);
+ZU_API void zu_problems_clear(const wchar_t* source);  ///< null clears all

@@ -1,0 +1,49 @@
+#pragma once
+// Opening of data sources, and statistics of their fields. The interfaces of a source are in
+// zu/data_source.h.
+
+#include "zu/platform/zuk_basic.h"
+
+/// Opens a source by name: a path (also /vsi…), or a connection text of a driver. Fills `out` with
+/// a handle on "zu_data_source_interface_23", which answers to the stat and grid sources too; the
+/// caller releases it. `out` stays empty on failure, with the reason kept for the name.
+/// Nothing is written beside the file. `argument` is not used by this opener.
+ZU_API void zu_datasource_open(const wchar_t* name, int32_t read_only, void* argument,
+                               Tzu_handle* out);
+typedef void (*Tzu_datasource_opener)(const wchar_t* name, int32_t read_only, void* argument,
+                                      Tzu_handle* out);
+/// How many files the pool keeps open for the next call; 0 closes them all.
+ZU_API void zu_datasource_set_pool_size(uint32_t files);
+
+/// What the driver says of an open source beyond its interfaces.
+typedef struct Tzu_field_info {
+  int32_t type;  ///< element type, 1 to 10
+  bool has_nodata;
+  double nodata;
+  bool has_stat;  ///< the file stores exact statistics
+  double minimum, maximum, mean, stddev;
+} Tzu_field_info;
+ZU_API bool zu_datasource_get_field_info(Tzu_handle source, int64_t field, Tzu_field_info* out);
+/// Short name of the driver ("GTiff"), and whether the file's rows run south (they are presented
+/// from the south all the same).
+ZU_API void zu_datasource_get_driver_w(Tzu_handle source, Tzu_string_adp* adapter);
+ZU_API bool zu_datasource_rows_run_south(Tzu_handle source);
+/// Where the georeference comes from: "geotransform", "ground control points" or "none".
+ZU_API void zu_datasource_get_georeference_w(Tzu_handle source, Tzu_string_adp* adapter);
+/// Names of what is inside a container (subdatasets), to open by name; and a word on each.
+ZU_API uint32_t zu_datasource_get_part_count(Tzu_handle source);
+ZU_API void zu_datasource_get_part_w(Tzu_handle source, uint32_t index, Tzu_string_adp* name,
+                                     Tzu_string_adp* description);
+
+/// Statistics of the valid cells of a field.
+typedef struct Tzu_field_stat {
+  double minimum, maximum, mean, stddev;  ///< 0 if there are none; stddev with n - 1
+  uint64_t count;                         ///< valid cells read
+  bool estimate;                          ///< from a decimated read
+} Tzu_field_stat;
+/// Reads the field, all of it, or, if it has more than `most` cells (0: no limit), a nearest sample
+/// of at most that many. `progress` may be null; returning false from it stops. False if stopped or
+/// nothing could be read.
+ZU_API bool zu_datasource_compute_stat(Tzu_handle source, int64_t field, uint64_t most,
+                                       bool (*progress)(double share, void* user), void* user,
+                                       Tzu_field_stat* out);

@@ -1,0 +1,47 @@
+#pragma once
+// Drawing contexts: a page in millimetres, x to the right and y upwards, origin at the lower left.
+
+#include "zu/platform/zuk_basic.h"
+#include "zu/platform/zuk_dib.h"
+#include "zu/platform/zuk_prg.h"
+
+typedef struct Tzu_drwc Tzu_drwc;
+
+/// How a DIB is drawn.
+typedef struct Tzu_dib_draw_record {
+  Tzu_box_d2 box;  ///< millimetres
+  uint32_t kind;   ///< 0 the picture of a layer, 1 its selection overlay
+  uint8_t alpha;   ///< opacity of the whole, 255 opaque
+  uint8_t zero[3];
+} Tzu_dib_draw_record;
+
+/// A picture of nx by ny pixels, transparent all over; null if out of memory or a side is 0 or over
+/// 32,767. An accurate context asks for full precision: what it shows is drawn in tiles.
+ZU_API Tzu_drwc* zu_drwc_create_image(uint64_t nx, uint64_t ny, double dots_per_inch,
+                                      bool accurate);
+ZU_API void zu_drwc_destroy(Tzu_drwc* drwc);
+ZU_API void zu_drwc_fill(Tzu_drwc* drwc,
+                         Tzu_color color);  ///< the whole page, replacing what is there
+ZU_API bool zu_drwc_is_accurate(const Tzu_drwc* drwc);
+ZU_API void zu_drwc_get_page(const Tzu_drwc* drwc, Tzu_box_d2* millimetres);
+/// Size in pixels of a DIB for a box. The box's sides are rounded to whole pixels of the page, a
+/// box with area has at least one pixel; zero in either side means that nothing can be drawn.
+ZU_API void zu_drwc_get_dib_size(const Tzu_drwc* drwc, const Tzu_box_d2* box, uint64_t* nx,
+                                 uint64_t* ny);
+/// Draws over what is there. A DIB of the size that `zu_drwc_get_dib_size` gives is copied pixel by
+/// pixel; any other is sampled at the nearest pixel.
+ZU_API void zu_drwc_draw_dib(Tzu_drwc* drwc, const Tzu_dib_draw_record* record, const Tzu_dib* dib);
+/// Clips what follows to a polygon in millimetres (even-odd); `mode` is 0.
+ZU_API void zu_drwc_set_clip_pgn(Tzu_drwc* drwc, int32_t mode, const Tzu_ov_d2* polygon);
+ZU_API void zu_drwc_set_clip_none(Tzu_drwc* drwc);
+
+/// Pixels of the picture, top row first, four bytes red, green, blue, opacity, not premultiplied,
+/// into nx * ny * 4 bytes.
+ZU_API void zu_drwc_get_pixels(Tzu_drwc* drwc, uint8_t* rgba);
+/// Whether any pixel is not wholly transparent.
+ZU_API bool zu_drwc_has_ink(Tzu_drwc* drwc);
+/// Writes PNG or TIFF by the name's ending, whole or not at all: an older file stays until the new
+/// one is complete. `georeference` may be null: the box of the page in coordinates of `projection`
+/// (EPSG:n, PROJ text or WKT; may be null), stored where the format can. False, with the reason.
+ZU_API bool zu_drwc_save_w(Tzu_drwc* drwc, const wchar_t* path, const Tzu_box_d2* georeference,
+                           const wchar_t* projection, Tzu_string_adp* reason);

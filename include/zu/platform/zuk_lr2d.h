@@ -1,0 +1,64 @@
+#pragma once
+// Layer entities and scenes: what the host knows of a layer, apart from its plug-in object.
+
+#include "zu/platform/zuk_attr_data.h"
+#include "zu/platform/zuk_basic.h"
+#include "zu/platform/zuk_prg.h"
+
+typedef struct Izu_layer Izu_layer;
+typedef struct Tzu_scn_2d Tzu_scn_2d;
+
+// --- Entities. A null entity gives empty texts, false and null.
+
+/// A new entity of a type such as "grid_lr2d"; null if out of memory. Its plug-in object is the
+/// host's to end, before the entity.
+ZU_API Izu_layer* zu_lr2d_create(const char* type);
+ZU_API void zu_lr2d_destroy(Izu_layer* layer);
+ZU_API const char* zu_lr2d_get_lr_type(const Izu_layer* layer);  ///< owned by the entity
+/// Where the plug-in handle of the layer stands; null if there is none.
+ZU_API const Tzu_handle* zu_lr2d_get_plugin_interface(const Izu_layer* layer);
+ZU_API void zu_lr2d_set_plugin_interface(Izu_layer* layer, Tzu_handle plugin);
+
+/// Name of the data source: a path, or a reference that the drivers understand.
+ZU_API void zu_lr2d_get_wsource(const Izu_layer* layer, Tzu_string_adp* adapter);
+ZU_API void zu_lr2d_set_wsource(Izu_layer* layer, const wchar_t* source);
+ZU_API void zu_lr2d_get_wcaption(const Izu_layer* layer, Tzu_string_adp* adapter);
+ZU_API void zu_lr_set_wcaption(Izu_layer* layer, const wchar_t* caption);
+/// The file that the source lives in; begins with "*" if it lives in none.
+ZU_API void zu_lr2d_get_wfilename(const Izu_layer* layer, Tzu_string_adp* adapter);
+
+/// `missing` true marks the layer's file as missing.
+ZU_API void zu_lr2d_set_valid(Izu_layer* layer, bool missing);
+ZU_API bool zu_lr2d_is_missing(const Izu_layer* layer);
+ZU_API void zu_lr2d_data_changed(Izu_layer* layer);
+ZU_API uint64_t zu_lr2d_get_change_count(const Izu_layer* layer);  ///< calls of the above
+/// Box in scene coordinates; `ok` false means that it is not known.
+ZU_API void zu_lr2d_set_box(Izu_layer* layer, bool ok, const Tzu_box_d2* box);
+ZU_API bool zu_lr2d_get_box(const Izu_layer* layer, Tzu_box_d2* box);
+
+/// Projection of the layer's data, which its plug-in object knows; empty if it takes no part in
+/// reprojection.
+ZU_API void zu_lr2d_get_pj4wstr(const Izu_layer* layer, Tzu_string_adp* adapter);
+/// Projection of the layer's scene; empty without one.
+ZU_API void zu_lr2d_get_dst_pj4wstr(const Izu_layer* layer, Tzu_string_adp* adapter);
+
+ZU_API void zu_plugin_lr2d_bind_entity(Izu_layer* layer, Tzu_attr_data* data);  ///< data not owned
+ZU_API Tzu_table_data* zu_lr2d_get_data_ptr(const Izu_layer* layer);
+ZU_API bool zu_lr_get_own_selected_style_flag(const Izu_layer* layer);
+ZU_API void zu_lr_set_own_selected_style_flag(Izu_layer* layer, bool own);
+
+// --- Scenes. A scene holds its layers in order, the lowest first, and does not own them.
+
+ZU_API Tzu_scn_2d* zu_scn_2d_create(void);
+ZU_API void zu_scn_2d_destroy(Tzu_scn_2d* scene);
+ZU_API void zu_scn_2d_add_layer(Tzu_scn_2d* scene, Izu_layer* layer);     ///< on top
+ZU_API void zu_scn_2d_remove_layer(Tzu_scn_2d* scene, Izu_layer* layer);  ///< the entity lives on
+ZU_API uint64_t zu_scn_2d_get_layer_count(const Tzu_scn_2d* scene);
+ZU_API Izu_layer* zu_scn_2d_get_layer(const Tzu_scn_2d* scene, uint64_t index);
+ZU_API void zu_scn_2d_set_pj4wstr(Tzu_scn_2d* scene, const wchar_t* projection);
+ZU_API void zu_scn_2d_get_pj4wstr(const Tzu_scn_2d* scene, Tzu_string_adp* adapter);
+/// Colour in which selected cells show; a new scene has none set.
+ZU_API Tzu_optional_color zu_scn_2d_get_selected_style_clr(const Tzu_scn_2d* scene);
+ZU_API void zu_scn_2d_set_selected_style_clr(Tzu_scn_2d* scene, Tzu_optional_color color);
+ZU_API Tzu_scn_2d* zu_lr_get_scene(const Izu_layer* layer);  ///< null if it stands in none
+ZU_API Tzu_scn_2d* zu_lr2d_get_scn_2d(const Izu_layer* layer);

@@ -1,0 +1,19 @@
+#pragma once
+// What the system is asked for: comparison, case, code pages, files, language.
+
+#include "zu/platform/zuk_basic.h"
+
+/// Negative, 0, positive: ICU's root collation, secondary strength (case ignored). Null counts as
+/// empty.
+ZU_API int32_t zu_os_compare_ignoring_case(const wchar_t* a, const wchar_t* b);
+ZU_API void zu_os_lower(const wchar_t* text, Tzu_string_adp* adapter);
+ZU_API void zu_os_upper(const wchar_t* text, Tzu_string_adp* adapter);
+/// Converts `bytes` bytes (-1: up to the NUL) of a code page: 65001, 1250 to 1258, 866, 20127, or 0
+/// for the system's. A byte without a meaning becomes U+FFFD. False, and no call, for another page.
+ZU_API bool zu_os_multibyte_to_wide(uint32_t code_page, const char* text, int64_t bytes,
+                                    Tzu_string_adp* adapter);
+/// Whether attributes of that path can be had: there is such a file or folder, /vsi paths too.
+ZU_API bool zu_os_file_exists(const wchar_t* path);
+/// Offset of the texts in the language in force: 0 Russian, 50000 English.
+ZU_API int32_t zu_res_get_lng(void);
+ZU_API void zu_res_set_lng(int32_t offset);

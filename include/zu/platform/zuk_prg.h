@@ -1,0 +1,131 @@
+#pragma once
+// Plane geometry: matrices, boxes, vertices, polylines, polygons and the triangle mesh.
+
+#include "zu/platform/zuk_api.h"
+
+// --- Records
+
+typedef struct Tzu_vtx_d2 {
+  double x, y;
+} Tzu_vtx_d2;
+
+typedef struct Tzu_box_d2 {
+  double x0, y0, x1, y1;
+} Tzu_box_d2;
+
+/// Row-major, applied to column vectors: x' = m[0][0] x + m[0][1] y + m[0][2].
+typedef struct Tzu_matrix3x3 {
+  double m[3][3];
+} Tzu_matrix3x3;
+
+typedef struct Tzu_matrix4x4 {
+  double m[4][4];
+} Tzu_matrix4x4;
+
+/// Placement of a local system: origin, spacing and a turn.
+typedef struct Tzu_affine_2d {
+  double x0, y0, dx, dy;
+  double angle;  ///< radians, counter-clockwise
+} Tzu_affine_2d;
+
+// --- Matrices
+
+ZU_API void zu_affine_2d_init_x0y0dxdy_angle(Tzu_affine_2d* out, double x0, double y0, double dx,
+                                             double dy, double angle);
+ZU_API void zu_matrix3x3_init_affine(Tzu_matrix3x3* out, const Tzu_affine_2d* affine);
+ZU_API void zu_matrix3x3_init_single(Tzu_matrix3x3* out);  ///< the identity
+/// Maps box to box, corner to corner. A side of `from` without length maps to the low side of `to`.
+ZU_API void zu_matrix3x3_init_box2box(Tzu_matrix3x3* out, const Tzu_box_d2* from,
+                                      const Tzu_box_d2* to);
+/// a after b: `a` is applied to the result of `b`. `out` may be one of them.
+ZU_API void zu_matrix3x3_mult(Tzu_matrix3x3* out, const Tzu_matrix3x3* a, const Tzu_matrix3x3* b);
+/// False, and nothing changed, if the matrix has no inverse.
+ZU_API bool zu_matrix3x3_invert_inplace(Tzu_matrix3x3* matrix);
+ZU_API double zu_matrix3x3_determinant(const Tzu_matrix3x3* matrix);
+ZU_API void zu_matrix4x4_init_matrix3x3(Tzu_matrix4x4* out, const Tzu_matrix3x3* matrix);
+
+#ifdef __cplusplus
+/// Transforms one point in place. The last row of the matrix is taken as 0 0 1.
+ZU_HOT void zu_xy_apply_matrix3x3(double* x, double* y, const Tzu_matrix3x3* matrix) {
+  const double(&m)[3][3] = matrix->m;
+  double px = *x, py = *y;
+  *x = m[0][0] * px + m[0][1] * py + m[0][2];
+  *y = m[1][0] * px + m[1][1] * py + m[1][2];
+}
+#else
+ZU_API void zu_xy_apply_matrix3x3(double* x, double* y, const Tzu_matrix3x3* matrix);
+#endif
+
+// --- Vertices and boxes
+
+ZU_API void zu_vtx_d2_init_xy(Tzu_vtx_d2* out, double x, double y);
+ZU_API void zu_vtx_d2_apply_matrix3x3(Tzu_vtx_d2* vertex, const Tzu_matrix3x3* matrix);
+/// Keeps the corners in the order of the arguments.
+ZU_API void zu_box_d2_init_xy(Tzu_box_d2* out, double x0, double y0, double x1, double y1);
+/// Orders them: x0 <= x1, y0 <= y1.
+ZU_API void zu_box_d2_make_xy(Tzu_box_d2* out, double x0, double y0, double x1, double y1);
+/// Intersection of ordered boxes; false when it is empty. Boxes that only touch have an
+/// intersection without area, which is empty.
+ZU_API bool zu_box_d2_cross(const Tzu_box_d2* a, const Tzu_box_d2* b, Tzu_box_d2* out);
+/// All four corners, ordered again.
+ZU_API void zu_box_d2_apply_matrix3x3(Tzu_box_d2* box, const Tzu_matrix3x3* matrix);
+
+// --- Vertex lists (pv) and sets of them (ov)
+
+typedef struct Tzu_pv_d2 Tzu_pv_d2;
+ZU_API Tzu_pv_d2* zu_pv_d2_create(void);
+ZU_API void zu_pv_d2_destroy(Tzu_pv_d2* list);
+ZU_API void zu_pv_d2_assign(Tzu_pv_d2* list, const Tzu_pv_d2* from);
+ZU_API void zu_pv_d2_add_vtx(Tzu_pv_d2* list, const Tzu_vtx_d2* vertex);
+ZU_API uint64_t zu_pv_d2_get_size(const Tzu_pv_d2* list);
+/// The vertices, not owned, until the list changes.
+ZU_API Tzu_vtx_d2* zu_pv_d2_get_arr(Tzu_pv_d2* list);
+ZU_API void zu_pv_d2_apply_matrix3x3(Tzu_pv_d2* list, const Tzu_matrix3x3* matrix);
+
+/// Polylines or polygon rings.
+typedef struct Tzu_ov_d2 Tzu_ov_d2;
+ZU_API Tzu_ov_d2* zu_ov_d2_create(void);
+ZU_API void zu_ov_d2_destroy(Tzu_ov_d2* set);
+ZU_API void zu_ov_d2_assign(Tzu_ov_d2* set, const Tzu_ov_d2* from);
+ZU_API Tzu_pv_d2* zu_ov_d2_add(Tzu_ov_d2* set);  ///< adds an empty list and gives it
+ZU_API void zu_ov_d2_clear(Tzu_ov_d2* set);
+ZU_API uint64_t zu_ov_d2_get_size(const Tzu_ov_d2* set);                ///< lists in the set
+ZU_API Tzu_pv_d2* zu_ov_d2_get_pv_ptr(Tzu_ov_d2* set, uint64_t index);  ///< null if there is none
+ZU_API void zu_ov_d2_apply_matrix3x3(Tzu_ov_d2* set, const Tzu_matrix3x3* matrix);
+
+// --- Triangle mesh
+
+/// A map from a regular lattice of source vertices to target vertices, linear in each triangle.
+/// The head holds the run of pixels that the scan is in.
+typedef struct Tzu_trimesh_d2 {
+  double x, y;    ///< target point of the run's first pixel
+  double dx, dy;  ///< target step of one pixel
+  int64_t done;   ///< pixels of the run given so far
+  int64_t count;  ///< pixels of the run
+  bool covered;   ///< a triangle covers the run
+} Tzu_trimesh_d2;
+
+/// Both lists run over the same lattice, columns outermost, both rising; at least 2 by 2 vertices
+/// with equal steps. A triangle with a target vertex that is not finite is missing. Null if the
+/// lists are no lattice. The lists are copied.
+ZU_API Tzu_trimesh_d2* zu_trimesh_d2_create(const Tzu_pv_d2* target, const Tzu_pv_d2* source);
+ZU_API void zu_trimesh_d2_destroy(Tzu_trimesh_d2* mesh);
+/// Starts a scan at source point (x, -y): the row is given negated.
+ZU_API void zu_trimesh_d2_init(Tzu_trimesh_d2* mesh, double x, double y);
+/// Goes to the next run of the row: sets the head with done 0 and count at least 1.
+ZU_API void zu_trimesh_d2_next_run(Tzu_trimesh_d2* mesh);
+
+#ifdef __cplusplus
+/// Target point of the next pixel of the row, one source unit further each time; false, and the
+/// outputs as they were, where no triangle covers it.
+ZU_HOT bool zu_trimesh_d2_scan(Tzu_trimesh_d2* mesh, double* x, double* y) {
+  if (mesh->done == mesh->count) zu_trimesh_d2_next_run(mesh);
+  double step = static_cast<double>(mesh->done++);
+  if (!mesh->covered) return false;
+  *x = mesh->x + step * mesh->dx;
+  *y = mesh->y + step * mesh->dy;
+  return true;
+}
+#else
+ZU_API bool zu_trimesh_d2_scan(Tzu_trimesh_d2* mesh, double* x, double* y);
+#endif

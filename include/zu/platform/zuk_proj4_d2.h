@@ -1,0 +1,34 @@
+#pragma once
+// Reprojection between two coordinate systems, both ways. x is always east.
+
+#include "zu/platform/zuk_basic.h"
+#include "zu/platform/zuk_prg.h"
+
+typedef struct Tzu_rpj_fb_d2 Tzu_rpj_fb_d2;
+
+ZU_API Tzu_rpj_fb_d2* zu_rpj_fb_d2_create(void);
+ZU_API void zu_rpj_fb_d2_destroy(Tzu_rpj_fb_d2* rpj);
+/// Texts are "EPSG:n", PROJ texts or WKT. False, and nothing to reproject, if either is empty or
+/// not understood, or no way leads from one to the other.
+ZU_API bool zu_rpj_fb_d2_init_w(Tzu_rpj_fb_d2* rpj, const wchar_t* source, const wchar_t* target);
+/// True after a successful init between systems that differ.
+ZU_API bool zu_rpj_fb_d2_rpj_is_needed(const Tzu_rpj_fb_d2* rpj);
+/// An affine step after the projection (before it on the way back).
+ZU_API void zu_rpj_fb_d2_set_use_affine_after(Tzu_rpj_fb_d2* rpj, bool use);
+ZU_API void zu_rpj_fb_d2_set_affine_after(Tzu_rpj_fb_d2* rpj, const Tzu_matrix3x3* matrix);
+// Direction 1 is source to target, 0 the way back.
+/// The box that holds the transformed edges: 84 points of them, those without an image left out;
+/// also the poles' and date line's effect where PROJ tells it. False if no point has an image.
+ZU_API bool zu_rpj_fb_d2_apply_box(Tzu_rpj_fb_d2* rpj, Tzu_box_d2* box, int32_t direction);
+ZU_API bool zu_rpj_fb_d2_apply_box_approx(Tzu_rpj_fb_d2* rpj, Tzu_box_d2* box, int32_t direction);
+/// Transforms in place; a vertex without an image becomes infinite. False if none has one.
+ZU_API bool zu_rpj_fb_d2_apply_pv(Tzu_rpj_fb_d2* rpj, Tzu_pv_d2* list, int32_t direction);
+ZU_API bool zu_rpj_fb_d2_apply_ov(Tzu_rpj_fb_d2* rpj, Tzu_ov_d2* set, int32_t direction);
+/// Whether a text names a coordinate system; if not, why goes to `reason`.
+ZU_API bool zu_pj_check_w(const wchar_t* text, Tzu_string_adp* reason);
+/// A name for people ("WGS 84 / UTM zone 37N"), or the text itself.
+ZU_API void zu_pj_get_name_w(const wchar_t* text, Tzu_string_adp* name);
+/// "EPSG:n" if the system is one of the registry, else no text.
+ZU_API void zu_pj_get_authority_w(const wchar_t* text, Tzu_string_adp* code);
+/// The system as WKT; false if the text is not understood.
+ZU_API bool zu_pj_get_wkt_w(const wchar_t* text, Tzu_string_adp* wkt);

@@ -1,0 +1,20 @@
+#pragma once
+// A render: one picture of one scene box on a drawing context.
+
+#include "zu/platform/zuk_drwc.h"
+
+typedef struct Izu_render Izu_render;
+
+/// A render onto a context (not owned), whose page shows `map_box` of render coordinates (cr).
+ZU_API Izu_render* zu_render_create(Tzu_drwc* drwc, const Tzu_box_d2* map_box);
+ZU_API void zu_render_destroy(Izu_render* render);
+ZU_API Tzu_drwc* zu_render_get_drwc(const Izu_render* render);
+ZU_API const Tzu_box_d2* zu_render_get_map_box_cr(const Izu_render* render);
+/// Render coordinates to millimetres of the page.
+ZU_API const Tzu_matrix3x3* zu_render_get_matrix_cr2mm(const Izu_render* render);
+ZU_API void zu_render_get_pj4wstr(const Izu_render* render, Tzu_string_adp* adapter);
+ZU_API void zu_render_set_pj4wstr(Izu_render* render, const wchar_t* projection);
+/// An affine step applied after the projection; null switches it off.
+ZU_API void zu_render_set_affine_matrix(Izu_render* render, const Tzu_matrix3x3* matrix);
+ZU_API bool zu_render_has_affine_transform(const Izu_render* render);
+ZU_API const Tzu_matrix3x3* zu_render_get_affine_matrix(const Izu_render* render);

@@ -1,0 +1,177 @@
+#pragma once
+// Style managers: a simple style, a value scale, a range scale and a rule scale side by side, one
+// of them in use; and the styles of hillshade and isolines.
+
+#include "zu/platform/zuk_basic.h"
+
+enum Tzu_style_mode {
+  zu_style_simple = 0,
+  zu_style_value = 1,
+  zu_style_range = 2,
+  zu_style_rule = 3,
+};
+
+// --- Parameters
+
+/// Two colours: index 0 draws, index 1 draws what is selected.
+typedef struct Tzu_stl_prm {
+  Tzu_color colors[2];
+} Tzu_stl_prm;
+
+/// What a row of a scale owns.
+typedef struct Tzu_scale_prm {
+  Tzu_stl_prm style;
+  bool visible;
+} Tzu_scale_prm;
+
+ZU_API void zu_scale_prm_set_visible(Tzu_scale_prm* prm, bool visible);
+/// Sets one colour (index 0 or 1).
+ZU_API void zu_stl_prm_clr_set_all(Tzu_stl_prm* prm, Tzu_color color, int32_t index);
+
+#ifdef __cplusplus
+ZU_HOT bool zu_scale_prm_get_visible(const Tzu_scale_prm* prm) { return prm->visible; }
+/// Style of a row, owned by the row; null for a null row.
+ZU_HOT Tzu_stl_prm* zu_scale_prm_get_stl_prm_ptr(Tzu_scale_prm* prm) {
+  return prm != nullptr ? &prm->style : nullptr;
+}
+/// Colour `index` (0 or 1) of a style, owned by it.
+ZU_HOT Tzu_color* zu_stl_prm_get_clr_style_ptr(Tzu_stl_prm* prm, int32_t index) {
+  return &prm->colors[index != 0];
+}
+#else
+ZU_API bool zu_scale_prm_get_visible(const Tzu_scale_prm* prm);
+ZU_API Tzu_stl_prm* zu_scale_prm_get_stl_prm_ptr(Tzu_scale_prm* prm);
+ZU_API Tzu_color* zu_stl_prm_get_clr_style_ptr(Tzu_stl_prm* prm, int32_t index);
+#endif
+
+// --- Prepared look-ups
+
+/// What both scales prepare between begin and end: sorted keys cut into equal buckets.
+typedef struct Tzu_scale_lookup {
+  double low, per_unit;        ///< bucket of v: (v - low) * per_unit, cut to the buckets
+  double last_bucket;          ///< number of buckets minus 1
+  const uint32_t* first_key;   ///< of each bucket: the first key that can be the answer
+  const double* keys;          ///< rising; closed by +infinity
+  Tzu_scale_prm* const* rows;  ///< of each key
+  Tzu_scale_prm* other;        ///< for NaN and for what no row holds
+} Tzu_scale_lookup;
+
+// --- Range scale
+
+/// Classes between two tails, values in the unit of the field. Lower tail v <= minimum value, class
+/// i minimum_i < v <= maximum_i (the first class that holds v), upper tail v > maximum value; what
+/// none holds is "other".
+typedef struct Tzu_rng_scale {
+  Tzu_scale_lookup lookup;
+} Tzu_rng_scale;
+
+ZU_API uint64_t zu_rng_scale_get_size(const Tzu_rng_scale* scale);
+ZU_API void zu_rng_scale_set_size(Tzu_rng_scale* scale, uint64_t size);
+ZU_API double zu_rng_scale_get_min(const Tzu_rng_scale* scale, uint64_t index);  ///< NaN if none
+ZU_API double zu_rng_scale_get_max(const Tzu_rng_scale* scale, uint64_t index);  ///< NaN if none
+ZU_API void zu_rng_scale_set_min(Tzu_rng_scale* scale, uint64_t index, double value);
+ZU_API void zu_rng_scale_set_max(Tzu_rng_scale* scale, uint64_t index, double value);
+ZU_API double zu_rng_scale_get_min_value(const Tzu_rng_scale* scale);
+ZU_API double zu_rng_scale_get_max_value(const Tzu_rng_scale* scale);
+ZU_API void zu_rng_scale_set_min_value(Tzu_rng_scale* scale, double value);
+ZU_API void zu_rng_scale_set_max_value(Tzu_rng_scale* scale, double value);
+// Rows; not owned; null if there is no such class.
+ZU_API Tzu_scale_prm* zu_rng_scale_get_scale_prm_ptr(Tzu_rng_scale* scale, uint64_t index);
+ZU_API Tzu_scale_prm* zu_rng_scale_get_min_prm_ptr(Tzu_rng_scale* scale);
+ZU_API Tzu_scale_prm* zu_rng_scale_get_max_prm_ptr(Tzu_rng_scale* scale);
+ZU_API Tzu_scale_prm* zu_rng_scale_get_other_prm_ptr(Tzu_rng_scale* scale);
+/// Between these two the scale must not change and values can be looked up. Calls nest.
+ZU_API void zu_rng_scale_beg_find(Tzu_rng_scale* scale);
+ZU_API void zu_rng_scale_end_find(Tzu_rng_scale* scale);
+
+// --- Value scale
+
+/// Rows with a text each. A number matches a row whose text is a number within 1e-9 of the larger
+/// magnitude, else a row whose text is exactly "%.15lg" of it; the first row wins. Else "other".
+typedef struct Tzu_val_scale {
+  Tzu_scale_lookup lookup;
+} Tzu_val_scale;
+
+ZU_API uint64_t zu_val_scale_get_size(const Tzu_val_scale* scale);
+ZU_API void zu_val_scale_set_size(Tzu_val_scale* scale, uint64_t size);
+ZU_API uint64_t zu_val_scale_add(Tzu_val_scale* scale);  ///< the new size
+ZU_API void zu_val_scale_get_text_w(const Tzu_val_scale* scale, uint64_t index,
+                                    Tzu_string_adp* adp);
+ZU_API void zu_val_scale_set_text_w(Tzu_val_scale* scale, uint64_t index, const wchar_t* text);
+ZU_API Tzu_scale_prm* zu_val_scale_get_scale_prm_ptr(Tzu_val_scale* scale, uint64_t index);
+ZU_API Tzu_scale_prm* zu_val_scale_get_other_prm_ptr(Tzu_val_scale* scale);
+ZU_API void zu_val_scale_beg_find(Tzu_val_scale* scale);
+ZU_API void zu_val_scale_end_find(Tzu_val_scale* scale);
+
+#ifdef __cplusplus
+/// Row of a value in a range scale, between begin and end.
+ZU_HOT Tzu_scale_prm* zu_rng_scale_find_scale_prm_ptr(Tzu_rng_scale* scale, double value) {
+  const Tzu_scale_lookup& l = scale->lookup;
+  double bucket = (value - l.low) * l.per_unit;
+  if (!(bucket > 0.0)) {
+    if (value != value) return l.other;
+    bucket = 0.0;
+  }
+  if (bucket > l.last_bucket) bucket = l.last_bucket;
+  const double* key = l.keys + l.first_key[static_cast<uint32_t>(bucket)];
+  while (value > *key) ++key;  // the first key that is not below the value
+  return l.rows[key - l.keys];
+}
+/// Row of a number in a value scale, between begin and end. The keys are the upper ends of the
+/// intervals of equal answer.
+ZU_HOT Tzu_scale_prm* zu_val_scale_find_scale_prm_ptr_d(Tzu_val_scale* scale, double value) {
+  const Tzu_scale_lookup& l = scale->lookup;
+  double bucket = (value - l.low) * l.per_unit;
+  if (!(bucket > 0.0)) {
+    if (value != value) return l.other;
+    bucket = 0.0;
+  }
+  if (bucket > l.last_bucket) bucket = l.last_bucket;
+  const double* key = l.keys + l.first_key[static_cast<uint32_t>(bucket)];
+  while (value > *key) ++key;
+  return l.rows[key - l.keys];
+}
+#else
+ZU_API Tzu_scale_prm* zu_rng_scale_find_scale_prm_ptr(Tzu_rng_scale* scale, double value);
+ZU_API Tzu_scale_prm* zu_val_scale_find_scale_prm_ptr_d(Tzu_val_scale* scale, double value);
+#endif
+
+// --- Managers
+
+typedef struct Tzu_stl_mngr Tzu_stl_mngr;
+ZU_API Tzu_stl_mngr* zu_clr_stl_mngr_create(void);  ///< simple mode, one gray
+ZU_API void zu_stl_mngr_destroy(Tzu_stl_mngr* manager);
+ZU_API void zu_stl_mngr_assign(Tzu_stl_mngr* manager, const Tzu_stl_mngr* from);
+ZU_API int32_t zu_stl_mngr_get_mode(const Tzu_stl_mngr* manager);
+ZU_API void zu_stl_mngr_set_mode(Tzu_stl_mngr* manager, int32_t mode);
+/// Field of the scale in use; empty in simple mode.
+ZU_API void zu_stl_mngr_get_prop_name_w(const Tzu_stl_mngr* manager, Tzu_string_adp* adapter);
+ZU_API void zu_stl_mngr_get_val_prop_name_w(const Tzu_stl_mngr* manager, Tzu_string_adp* adapter);
+ZU_API void zu_stl_mngr_set_val_prop_name_w(Tzu_stl_mngr* manager, const wchar_t* name);
+ZU_API void zu_stl_mngr_get_rng_prop_name_w(const Tzu_stl_mngr* manager, Tzu_string_adp* adapter);
+ZU_API void zu_stl_mngr_set_rng_prop_name_w(Tzu_stl_mngr* manager, const wchar_t* name);
+// Parts of a manager, owned by it.
+ZU_API Tzu_stl_prm* zu_stl_mngr_get_simple_sp_ptr(Tzu_stl_mngr* manager);
+ZU_API Tzu_val_scale* zu_stl_mngr_get_val_scale_ptr(Tzu_stl_mngr* manager);
+ZU_API Tzu_rng_scale* zu_stl_mngr_get_rng_scale_ptr(Tzu_stl_mngr* manager);
+
+/// How markers turn with a field; of no effect on a raster.
+typedef struct Tzu_rotate_params Tzu_rotate_params;
+ZU_API bool zu_stl_mngr_get_rotate_flag(const Tzu_stl_mngr* manager);
+ZU_API bool zu_stl_mngr_get_rotate_hatch_flag(const Tzu_stl_mngr* manager);
+ZU_API bool zu_stl_mngr_get_rotate_spot_flag(const Tzu_stl_mngr* manager);
+ZU_API const Tzu_rotate_params* zu_stl_mngr_get_rotate_params(const Tzu_stl_mngr* manager);
+
+// --- Hillshade and isolines
+
+typedef struct Tzu_hillshade_style Tzu_hillshade_style;
+ZU_API Tzu_hillshade_style* zu_hillshade_style_create(void);
+ZU_API void zu_hillshade_style_destroy(Tzu_hillshade_style* style);
+ZU_API void zu_hillshade_style_assign(Tzu_hillshade_style* style, const Tzu_hillshade_style* from);
+ZU_API bool zu_hillshade_style_get_use(const Tzu_hillshade_style* style);
+
+typedef struct Tzu_isoline_style Tzu_isoline_style;
+ZU_API Tzu_isoline_style* zu_isoline_style_create(void);
+ZU_API void zu_isoline_style_destroy(Tzu_isoline_style* style);
+ZU_API void zu_isoline_style_assign(Tzu_isoline_style* style, const Tzu_isoline_style* from);
+ZU_API bool zu_isoline_style_get_use(const Tzu_isoline_style* style);

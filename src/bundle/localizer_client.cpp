@@ -1,16 +1,6 @@
 #include "src/bundle/localizer_client.h"
 
 namespace zu::detail {
-namespace {
-
-local_factory_impl* client = nullptr;
-
-}  // namespace
-
-local_factory_impl::local_factory_impl() : custom_client_factory_impl(L"") { client = this; }
-local_factory_impl::~local_factory_impl() {
-  if (client == this) client = nullptr;
-}
 
 void local_factory_impl::create(handle context, handle) {
   if (context_) return;
@@ -34,5 +24,7 @@ void local_factory_impl::visit(localizer found) { localizer_.reset(found); }
 }  // namespace zu::detail
 
 zu::localizer zu::localizer_of_host() {
-  return detail::client != nullptr ? detail::client->current() : localizer();
+  for (basic_service_factory_impl* factory : service_factories())
+    if (auto* client = dynamic_cast<detail::local_factory_impl*>(factory)) return client->current();
+  return {};
 }

@@ -13,8 +13,7 @@ class local_factory_impl : public custom_client_factory_impl,
                            public localizer_visitor_impl,
                            public localizer_client_impl {
  public:
-  local_factory_impl();
-  ~local_factory_impl() override;
+  local_factory_impl() : custom_client_factory_impl(L"") {}
 
   /// `context` is the host's way to its registry; the first one stays.
   void create(handle context, handle visitor) override;

@@ -181,8 +181,6 @@ TEST(draw_grid, projections_that_cannot_be_brought_together_count_as_one) {
 
 TEST(draw_grid, is_reprojected_into_the_render) {
   scene_bench b(flat_grid("mercator.tif", 400, 400));
-  // Corners of the grid by `cs2cs EPSG:32637 EPSG:3857` of PROJ 9.1: the grid reaches from
-  // x 4341475 to 4348284 and from y 7204110 to 7210920 or so; a box inside is covered wholly.
   zu_scn_2d_set_pj4wstr(b.scene.get(), L"EPSG:3857");
   b.layer->update_box();
   Tzu_box_d2 box;

@@ -46,7 +46,7 @@ struct scene_bench {
   /// Number of DIBs that a draw takes.
   std::uint64_t draw(bool selection = false) {
     std::uint64_t before = zu_dib_get_made_count();
-    render_grid_layer(render.get(), entity.get(), selection);
+    grid_layer2d::render(render.get(), entity.get(), selection);
     return zu_dib_get_made_count() - before;
   }
   std::vector<std::uint8_t> pixel(std::uint64_t x, std::uint64_t y, std::uint64_t nx,
@@ -96,7 +96,7 @@ TEST(draw_grid, a_layer_of_another_type_or_the_selection_pass_draws_nothing) {
   EXPECT_EQ(b.draw(true), 0u);
   owned<zu_lr2d_destroy> other(zu_lr2d_create("rtr_lr2d"));
   zu_lr2d_set_plugin_interface(other.get(), handle_of<layer_2d_impl>(*b.layer));
-  render_grid_layer(b.render.get(), other.get(), false);
+  grid_layer2d::render(b.render.get(), other.get(), false);
   EXPECT_FALSE(zu_drwc_has_ink(b.page.get()));
 }
 

@@ -1,0 +1,72 @@
+// Everything that this bundle offers, in the order in which the host meets it; the localizer client
+// goes to the head by itself. The objects are constructed while the module loads.
+
+#include "src/bundle/dialogs.h"
+#include "src/bundle/localizer_client.h"
+#include "src/bundle/modal_dialog.h"
+#include "src/bundle/service_factory.h"
+#include "src/layer/grid_layer2d.h"
+#include "src/layer/layer_services.h"
+
+namespace zu {
+namespace {
+
+template <class dialog> using dialog_factory = util::detail::modal_dialog_service_factory<dialog>;
+template <class service, class interface, class visitor>
+using factory = util::single_service_factory<service, interface, visitor>;
+using vacant = util::vacant_service_factory;
+
+constexpr wchar_t scene_2d[] = ZU_NAMESPACE(L"/scene/2d");
+constexpr wchar_t layer_2d_path[] = ZU_NAMESPACE(L"/layer/2d");
+constexpr wchar_t tool[] = ZU_NAMESPACE(L"/tool");
+constexpr wchar_t none[] = L"";
+
+vacant grid_editor2d_extension_service(scene_2d);
+vacant grids_editor2d_extension_service(scene_2d);
+dialog_factory<dialog::nameless> nameless_dialog;
+factory<toolkit::layer2d_service<grid_layer2d, c_grid_lr2d>, layer_2d_service_impl,
+        layer_2d_service_visitor_impl>
+    grid_layer_service(layer_2d_path);
+factory<toolkit::layer2d_externalization_service<grid_layer2d, c_grid_lr2d, c_grid_lr2d>,
+        layer_2d_externalization_service_impl, layer_2d_externalization_service_visitor_impl>
+    grid_externalization_service(layer_2d_path);
+factory<toolkit::layer2d_render_service<grid_layer2d, c_grid_lr2d>,
+        layer_2d_renderer_extension_service_impl, layer_2d_renderer_extension_service_visitor_impl>
+    grid_render_service(none);
+vacant grid_layer2d_editor(layer_2d_path);
+vacant grid_layer2d_hillshade(layer_2d_path);
+vacant grid_layer2d_isoline(layer_2d_path);
+vacant grid2d_objinfo_service(none);
+vacant grid2d_tools_service(tool);
+vacant grid2d_table_view_service(none);
+vacant rastr_lr2d_render_service(none);
+dialog_factory<dialog::segy_params> segy_params;
+vacant tos4_coord_xy_layer2d_editor(layer_2d_path);
+vacant tos4_grid1d_layer2d_editor(layer_2d_path);
+vacant tos4_grid1d_lr2d_render_service(none);
+vacant tos4_grid2d_lr2d_render_service(none);
+vacant tos4_grid3d_lr2d_render_service(none);
+dialog_factory<dialog::clr_palettes> clr_palettes;
+dialog_factory<dialog::style_adavanced_dialog> style_adavanced_dialog;
+dialog_factory<dialog::data_grid_schema_dialog> data_grid_schema_dialog;
+dialog_factory<dialog::segy_preview_dialog> segy_preview_dialog;
+dialog_factory<dialog::figure> figure;
+dialog_factory<dialog::detail::polygon_style> polygon_style;
+dialog_factory<dialog::detail::line_style> line_style;
+dialog_factory<dialog::detail::point_style> point_style;
+dialog_factory<dialog::detail::lib_style> lib_style;
+dialog_factory<dialog::detail::cpx_polygon_style> cpx_polygon_style;
+dialog_factory<dialog::detail::cpx_line_style> cpx_line_style;
+dialog_factory<dialog::detail::cpx_point_style> cpx_point_style;
+dialog_factory<dialog::range_scale> range_scale;
+dialog_factory<dialog::value_scale> value_scale;
+dialog_factory<dialog::data_filter_dialog> data_filter_dialog;
+dialog_factory<dialog::text_effects> text_effects;
+dialog_factory<dialog::txt_common_setting> txt_common_setting;
+dialog_factory<dialog::txt_style> txt_style;
+dialog_factory<dialog::stl_mngr_list_setting> stl_mngr_list_setting;
+dialog_factory<dialog::data_calculator_dialog> data_calculator_dialog;
+detail::local_factory_impl localizer_client;
+
+}  // namespace
+}  // namespace zu

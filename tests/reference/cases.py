@@ -44,7 +44,7 @@ PLACES = {
     "thirty": lambda nx, ny: (399960, 30, 0, 6000000, 0, -30),
     "oblong": lambda nx, ny: (-1000, 2, 0, 300, 0, -0.75),
     "degrees": lambda nx, ny: (37.1 / 3, 1 / 1200, 0, 55.7, 0, -1 / 1200),
-    "tiny": lambda nx, ny: (5e5, 1e-5, 0, 5e5, 0, -1e-5),
+    "tiny": lambda nx, ny: (500000.1, 0.001, 0, 5000000.3, 0, -0.001),
     "south-up": lambda nx, ny: (500000, 10, 0, 6000000, 0, 10),
     "westward": lambda nx, ny: (500000, -10, 0, 6000000, 0, -10),
     "none": lambda nx, ny: None,

@@ -8,8 +8,10 @@ import unittest
 import numpy
 from osgeo import gdal
 
+import geometry
 import reference
-from reference import Look, Nudge, Placement, Scene
+from geometry import Nudge, Placement
+from reference import Look, Scene
 
 RED, GREEN, BLUE, BLACK = (255, 0, 0, 0), (0, 255, 0, 0), (0, 0, 255, 0), (0, 0, 0, 0)
 FOUR = {"breaks": (0, 10, 20), "colors": (RED, GREEN, BLUE, BLACK)}
@@ -77,12 +79,12 @@ class reference_test(unittest.TestCase):
 
     def test_a_window_inside_the_grid_has_a_sample_a_step(self):
         path = self.grid([[0] * 100] * 100, (0, 1, 0, 100, 0, -1))
-        grid = reference.Grid(path)
-        none = reference.Reprojection("", "")
-        whole = reference.window_of(grid, Placement((0, 0, 100, 100), 0, 0, 50, 50), none, False)
-        self.assertEqual(whole, reference.Window(0, 0, 100, 100, 50, 50))
-        inner = reference.window_of(grid, Placement((20, 40, 40, 60), 0, 0, 10, 10), none, True)
-        self.assertEqual(inner, reference.Window(19, 39, 23, 23, 12, 12))
+        grid = geometry.Grid(path)
+        none = geometry.Reprojection("", "")
+        whole = geometry.window_of(grid, Placement((0, 0, 100, 100), 0, 0, 50, 50), none, False)
+        self.assertEqual(whole, geometry.Window(0, 0, 100, 100, 50, 50))
+        inner = geometry.window_of(grid, Placement((20, 40, 40, 60), 0, 0, 10, 10), none, True)
+        self.assertEqual(inner, geometry.Window(19, 39, 23, 23, 12, 12))
 
     def test_the_opacity_of_a_layer_is_cut_to_an_integer(self):
         scene = Scene([(self.grid([[5], [5]]), Look(simple=RED, transparency=1))], (1, 2))
@@ -96,7 +98,7 @@ class reference_test(unittest.TestCase):
 
     def test_a_mesh_is_linear_in_each_triangle(self):
         vertex = numpy.array([[0.0, 10.0], [100.0, 1000.0]])
-        at = lambda u, v: float(reference.in_triangles(vertex, 0, 0, u, v))
+        at = lambda u, v: float(geometry.in_triangles(vertex, 0, 0, u, v))
         self.assertEqual(at(0.5, 0.0), 5)
         self.assertEqual(at(0.0, 0.5), 50)
         self.assertEqual(at(0.5, 0.5), 500)

@@ -262,6 +262,18 @@ def one(maker, title, type_name=None, size=None, factor=None, nodata="none", lay
     return case
 
 
+def in_format(maker, driver, ending, **wanted):
+    """The same as `one` in a file of another format."""
+    case = one(maker, f"format {driver}", **wanted)
+    path, look = case.layers[0]
+    copy = path[: -len("tif")] + ending
+    gdal.GetDriverByName(driver).CreateCopy(copy, gdal.Open(path), strict=False)  # closed again
+    dataset = gdal.Open(copy)
+    look.field = dataset.GetRasterBand(1).GetDescription() or "Band 1"
+    case.layers = [(copy, look)]
+    return case
+
+
 def image(maker, title, roles, type_name="Byte", nodata=None, automatic=False, **options):
     """The bands' own colours."""
     rng = maker.rng
@@ -346,6 +358,18 @@ REPROJECTED = [
     ("EPSG:3857", "EPSG:4326", lambda nx, ny: (4e6, 500, 0, 7e6, 0, -500)),
     ("EPSG:4326", "+proj=laea +lat_0=52 +lon_0=10", lambda nx, ny: (-10, 0.1, 0, 70, 0, -0.1)),
 ]
+FORMATS = {
+    "AAIGrid": "asc",
+    "ENVI": "dat",
+    "HFA": "img",
+    "PNG": "png",
+    "BMP": "bmp",
+    "VRT": "vrt",
+    "netCDF": "nc",
+    "RST": "rst",
+    "GSBG": "grd",
+    "COG": "cog.tif",
+}
 VIEWS = [
     (0.3, (0, 0)),
     (0.5, (0.45, 0.1)),
@@ -378,6 +402,12 @@ def of_one_field():
                 for interpolate in BOTH:
                     yield functools.partial(one, title=f"NoData {how}", type_name=type_name,
                                             nodata=how, interpolate=interpolate)  # fmt: skip
+    for driver, ending in FORMATS.items():
+        if gdal.GetDriverByName(driver):
+            type_name = "Byte" if driver in ("PNG", "BMP") else "Float32"
+            for place in ("whole", "south-up"):
+                yield functools.partial(in_format, driver=driver, ending=ending, place=place,
+                                        type_name=type_name, crs=UTM)  # fmt: skip
     for transparency in (0, 1, 33, 50, 99, 100):
         for kind in ("range", "values", "gray", "simple"):
             yield functools.partial(one, title=f"transparency {transparency} {kind}", kind=kind,

@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "src/bundle/strings.h"
+#include "src/layer/layer_object.h"
 #include "zu/platform/zuk_lr2d.h"
 #include "zu/platform/zuk_os.h"
 
@@ -31,7 +32,7 @@ void grid_layer2d::update_validity() {
 }
 
 void grid_layer2d::copy_from(layer_2d other_handle) {
-  grid_layer2d* other = grid_layer_of_handle(other_handle);
+  grid_layer2d* other = layer_object_of<grid_layer2d>(other_handle);
   if (other == nullptr) return;
   zu_stl_mngr_assign(clr_stl_mngr_.get(), other->clr_stl_mngr_.get());
   zu_rgb_channels_assign(rgb_channels_.get(), other->rgb_channels_.get());
@@ -75,15 +76,9 @@ std::wstring grid_layer2d::wcaption() const {
 
 bool grid_layer2d::has_overview() const { return zu_os_file_exists((wsource() + L".ovr").c_str()); }
 
-grid_layer2d* grid_layer_of_handle(handle layer) {
-  if (!layer || layer.table != detail::table_of<layer_2d_impl>(layer_2d_impl::operations()))
-    return nullptr;
-  return dynamic_cast<grid_layer2d*>(static_cast<layer_2d_impl*>(layer.instance));
-}
-
 grid_layer2d* grid_layer_of_entity(Izu_layer* entity) {
   const handle* plugin = zu_lr2d_get_plugin_interface(entity);
-  return plugin != nullptr ? grid_layer_of_handle(*plugin) : nullptr;
+  return plugin != nullptr ? layer_object_of<grid_layer2d>(*plugin) : nullptr;
 }
 
 bool is_grid_layer(Izu_layer* entity) {

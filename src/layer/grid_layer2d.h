@@ -85,6 +85,10 @@ class grid_layer2d : public layer_2d_impl, public toolkit::with_layer2d {
   std::int64_t field_count() const;                   ///< [0]
   std::wstring field_name(std::int64_t index) const;  ///< [empty]
 
+  /// One repaint of a grid layer. With `selection` set it draws nothing: the overlay of the
+  /// selection comes with the ordinary draw.
+  static void render(Izu_render* render, Izu_layer* entity, bool selection);
+
   // The project tree.
   void save(Tzu_xnode* node, void* context) const;
   void load(Tzu_xnode* node, void* context);
@@ -112,8 +116,7 @@ class grid_layer2d : public layer_2d_impl, public toolkit::with_layer2d {
   std::int64_t slice_axis_ = 2;
 };
 
-/// The layer object behind a handle or an entity; null if that is of another kind.
-grid_layer2d* grid_layer_of_handle(handle layer);
+/// The layer object behind an entity; null if that is of another kind.
 grid_layer2d* grid_layer_of_entity(Izu_layer* entity);
 /// Whether an entity is of type "grid_lr2d"; false for null.
 bool is_grid_layer(Izu_layer* entity);

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "src/bundle/encoding.h"
+#include "src/layer/layer_object.h"
 #include "zu/layer2d.h"
 
 namespace zu {
@@ -12,11 +13,6 @@ bool is_shp_layer(const char* type);
 /// The subtype must end where the name ends.
 bool is_shp_z_subtype(const wchar_t* subtype);
 bool is_vector_layer(const char* type);
-
-class grid_layer2d;
-/// One repaint of a grid layer. With `selection` set it draws nothing: the overlay of the selection
-/// comes with the ordinary draw.
-void render_grid_layer(Izu_render* render, Izu_layer* layer, bool selection);
 
 namespace toolkit {
 
@@ -53,10 +49,10 @@ class layer2d_externalization_service : public referent<layer_2d_externalization
   void get_type(string_visitor visitor) override { give_type(type, visitor); }
   void get_type2(string_visitor visitor) override { give_type(type2, visitor); }
   void save(layer_2d layer, Tzu_xnode* node, void* context) override {
-    if (T* object = grid_layer_of_handle(layer)) object->save(node, context);
+    if (T* object = layer_object_of<T>(layer)) object->save(node, context);
   }
   void load(layer_2d layer, Tzu_xnode* node, void* context) override {
-    if (T* object = grid_layer_of_handle(layer)) object->load(node, context);
+    if (T* object = layer_object_of<T>(layer)) object->load(node, context);
   }
 };
 
@@ -65,11 +61,9 @@ class layer2d_render_service : public referent<layer_2d_renderer_extension_servi
  public:
   using referent::referent;
   void get_type(string_visitor visitor) override { give_type(type, visitor); }
-  void render(Izu_render* render, Izu_layer* layer) override {
-    render_grid_layer(render, layer, false);
-  }
+  void render(Izu_render* render, Izu_layer* layer) override { T::render(render, layer, false); }
   void render_selection(Izu_render* render, Izu_layer* layer) override {
-    render_grid_layer(render, layer, true);
+    T::render(render, layer, true);
   }
 };
 

@@ -2,6 +2,7 @@
 
 #include "src/render/sample_block.h"
 #include "src/render/samplers.h"
+#include "zu/platform/zuk_attr_data.h"
 
 namespace zu {
 namespace {

@@ -1,5 +1,6 @@
 #pragma once
-// A grid source in memory, on the border's classes, that knows only its tiles and counts their reads.
+// A grid source in memory, on the border's classes, that knows only its tiles and counts their
+// reads.
 
 #include <algorithm>
 #include <array>
@@ -145,7 +146,8 @@ class made_source : public zu::polymorphic<zu::data_source_impl>,
     void set_read_mode(std::uint32_t mode) override { source_.read_modes.push_back(mode); }
     std::int32_t read_tile(std::uint64_t column, std::uint64_t row, void* buffer) override {
       ++source_.tile_reads[{column, row}];
-      auto nx = static_cast<std::uint64_t>(source_.nx_), ny = static_cast<std::uint64_t>(source_.ny_);
+      auto nx = static_cast<std::uint64_t>(source_.nx_),
+           ny = static_cast<std::uint64_t>(source_.ny_);
       for (std::uint64_t j = 0; j < source_.tile_height; ++j)
         for (std::uint64_t i = 0; i < source_.tile_width; ++i) {
           std::uint64_t x = std::min(column * source_.tile_width + i, nx - 1);

@@ -244,10 +244,9 @@ TEST(source_changed, gives_the_source_to_the_table_and_leaves_the_rest_if_it_wil
   b.layer->set_draw_type(1);
   call<&layer_2d_impl::source_changed>(b.handle);
   EXPECT_EQ(b.layer->draw_type(), 1u);
-  EXPECT_EQ(text_of([&](Tzu_string_adp* a) {
-              zu_table_data_get_wsource(b.layer->get_table_data(), a);
-            }),
-            L"/no/such/grid.tif");
+  EXPECT_EQ(
+      text_of([&](Tzu_string_adp* a) { zu_table_data_get_wsource(b.layer->get_table_data(), a); }),
+      L"/no/such/grid.tif");
 }
 
 TEST(update_box, gives_the_outer_edge_of_the_cells_and_a_failure_as_such) {

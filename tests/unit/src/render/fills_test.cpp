@@ -26,16 +26,15 @@ class fills : public testing::TestWithParam<bool> {
 INSTANTIATE_TEST_SUITE_P(both_forms, fills, testing::Values(false, true),
                          [](const auto& form) { return form.param ? "mesh" : "matrix"; });
 
-void two_classes(fill_bench& b) {
-  b.range_scale({0, 10, 20}, {blue, red, green, opaque(1, 1, 1)});
-}
+void two_classes(fill_bench& b) { b.range_scale({0, 10, 20}, {blue, red, green, opaque(1, 1, 1)}); }
 
 TEST_P(fills, range_scale_takes_the_class_of_the_nearest_sample) {
   made_source s(3, 2);
   s.add(L"z", {0, 5, 10, 15, 20, 25});
   two_classes(bench);
   ASSERT_TRUE(bench.fill(s, {0, 0, 3, 2}, 3, 2));
-  EXPECT_EQ(bench.main(), (std::vector<std::uint32_t>{blue, red, red, green, green, opaque(1, 1, 1)}));
+  EXPECT_EQ(bench.main(),
+            (std::vector<std::uint32_t>{blue, red, red, green, green, opaque(1, 1, 1)}));
 }
 
 TEST_P(fills, a_pixel_smaller_than_a_cell_shows_the_cell_it_starts_in) {
@@ -162,7 +161,8 @@ TEST_P(fills, gray_goes_through_the_gray_channel) {
   bench.params.draw_type = grid_draw_gray;
   bench.channel(zu_rgb_channels_get_gray(bench.params.rgb_channels), L"z", 0, 100);
   ASSERT_TRUE(bench.fill(s, {0, 0, 3, 1}, 3, 1));
-  EXPECT_EQ(bench.main(), (std::vector<std::uint32_t>{opaque(0, 0, 0), opaque(128, 128, 128), clear}));
+  EXPECT_EQ(bench.main(),
+            (std::vector<std::uint32_t>{opaque(0, 0, 0), opaque(128, 128, 128), clear}));
 }
 
 TEST_P(fills, three_channels_need_a_value_in_each) {
@@ -177,7 +177,8 @@ TEST_P(fills, three_channels_need_a_value_in_each) {
   bench.channel(zu_rgb_channels_get_green(bench.params.rgb_channels), L"b", 0, 30);
   bench.channel(zu_rgb_channels_get_blue(bench.params.rgb_channels), L"c", 0, 255);
   ASSERT_TRUE(bench.fill(s, {0, 0, 3, 1}, 3, 1));
-  EXPECT_EQ(bench.main(), (std::vector<std::uint32_t>{opaque(0, 85, 5), clear, opaque(255, 255, 5)}));
+  EXPECT_EQ(bench.main(),
+            (std::vector<std::uint32_t>{opaque(0, 85, 5), clear, opaque(255, 255, 5)}));
 }
 
 void byte_band(made_source& s, std::int32_t role, std::vector<double> values) {
@@ -195,7 +196,8 @@ TEST_P(fills, a_gray_image_shows_its_bytes_and_nodata_as_nothing) {
   band.nodata = 7;
   bench.params.draw_type = grid_draw_image;
   ASSERT_TRUE(bench.fill(s, {0, 0, 3, 1}, 3, 1));
-  EXPECT_EQ(bench.main(), (std::vector<std::uint32_t>{opaque(0, 0, 0), clear, opaque(255, 255, 255)}));
+  EXPECT_EQ(bench.main(),
+            (std::vector<std::uint32_t>{opaque(0, 0, 0), clear, opaque(255, 255, 255)}));
 }
 
 TEST_P(fills, a_palette_gives_four_bytes_and_knows_no_nodata) {
@@ -267,8 +269,12 @@ TEST_P(fills, the_last_band_of_a_role_counts) {
 TEST(fill_dibs, refuses_an_image_whose_bands_make_none) {
   struct {
     std::vector<std::int32_t> roles;
-  } const cases[] = {{{role_red, role_green, role_alpha}}, {{role_red}}, {{role_alpha}},
-                     {{role_none}},                        {{}},         {{role_palette}}};
+  } const cases[] = {{{role_red, role_green, role_alpha}},
+                     {{role_red}},
+                     {{role_alpha}},
+                     {{role_none}},
+                     {{}},
+                     {{role_palette}}};
   for (const auto& c : cases) {
     made_source s(1, 1);
     for (std::int32_t role : c.roles) byte_band(s, role, {1});

@@ -1,0 +1,173 @@
+#!/usr/bin/python3
+"""Times one piece of work of another program in this process and prints a line of JSON.
+
+  peers.py PEER FILE KIND X0,Y0,X1,Y1 CRS fresh|kept [B0,B1,...]
+
+PEER is qgis, mapnik or gdal; KIND is classes, values or image (pictures of 1920 x 1080), or statistics
+(gdal and qgis). For pictures "gdal" is the floor: a bare nearest read of the same window into doubles (bytes
+for an image) and one copy of the pixels.
+"""
+import json
+import statistics
+import sys
+import time
+
+import numpy as np
+
+WIDTH, HEIGHT, RUNS = 1920, 1080, 7
+UTM = "EPSG:32637"
+RAMP = ["#%02x%02x%02x" % (k * 20, 128, 255 - k * 20) for k in range(12)]
+PROJ = {UTM: "+proj=utm +zone=37 +datum=WGS84 +units=m +no_defs",
+        "EPSG:3857": "+proj=merc +a=6378137 +b=6378137 +lat_ts=0 +lon_0=0 +x_0=0 +y_0=0 +k=1 +units=m "
+                     "+nadgrids=@null +no_defs"}
+
+
+def widened(box):
+    w, h = box[2] - box[0], box[3] - box[1]
+    scale = max(w / WIDTH, h / HEIGHT)
+    mx, my = (box[0] + box[2]) / 2, (box[1] + box[3]) / 2
+    return (mx - scale * WIDTH / 2, my - scale * HEIGHT / 2,
+            mx + scale * WIDTH / 2, my + scale * HEIGHT / 2)
+
+
+def timed(work, runs=RUNS):
+    times = []
+    for run in range(runs + 1):
+        start = time.perf_counter()
+        work()
+        if run:
+            times.append((time.perf_counter() - start) * 1e3)
+    return {"ms": statistics.median(times), "min": min(times), "max": max(times)}
+
+
+def value_colour(v):
+    return "#%02x%02x%02x" % (v * 6 % 256, 255 - v * 5, v * 97 % 256)
+
+
+def qgis(path, kind, box, crs, fresh, breaks):
+    from qgis import core as q
+    from qgis.PyQt.QtCore import QSize
+    from qgis.PyQt.QtGui import QColor
+    application = q.QgsApplication([], False)
+    application.initQgis()
+
+    def layer():
+        options = q.QgsRasterLayer.LayerOptions()
+        options.loadDefaultStyle = False
+        made = q.QgsRasterLayer(path, "layer", "gdal", options)
+        provider = made.dataProvider()
+        if kind == "statistics":
+            return made
+        if kind == "classes":
+            ramp = q.QgsColorRampShader()
+            ramp.setColorRampType(q.QgsColorRampShader.Discrete)
+            ramp.setColorRampItemList([q.QgsColorRampShader.ColorRampItem(v, QColor(c))
+                                       for v, c in zip(breaks + [float("inf")], RAMP)])
+            shader = q.QgsRasterShader()
+            shader.setRasterShaderFunction(ramp)
+            made.setRenderer(q.QgsSingleBandPseudoColorRenderer(provider, 1, shader))
+        elif kind == "values":
+            made.setRenderer(q.QgsPalettedRasterRenderer(
+                provider, 1, [q.QgsPalettedRasterRenderer.Class(v, QColor(value_colour(v)))
+                              for v in range(1, 41)]))
+        else:
+            made.setRenderer(q.QgsMultiBandColorRenderer(provider, 1, 2, 3))
+        return made
+
+    def draw(made):
+        settings = q.QgsMapSettings()
+        settings.setOutputSize(QSize(WIDTH, HEIGHT))
+        settings.setOutputDpi(96)
+        settings.setDestinationCrs(q.QgsCoordinateReferenceSystem(crs))
+        settings.setExtent(q.QgsRectangle(*widened(box)))
+        settings.setLayers([made])
+        job = q.QgsMapRendererSequentialJob(settings)
+        job.start()
+        job.waitForFinished()
+        return job.renderedImage()
+
+    if kind == "statistics":
+        wanted = (q.QgsRasterBandStats.Min | q.QgsRasterBandStats.Max | q.QgsRasterBandStats.Mean
+                  | q.QgsRasterBandStats.StdDev)
+        return timed(lambda: layer().dataProvider().bandStatistics(1, wanted, q.QgsRectangle(), 0), 3)
+    if fresh:
+        return timed(lambda: draw(layer()))
+    made = layer()
+    return timed(lambda: draw(made))
+
+
+def mapnik(path, kind, box, crs, fresh, breaks):
+    import mapnik as m
+    if kind == "image":
+        colorizer, band = "", ""
+    else:
+        stops = (zip([-9000.0] + breaks, RAMP) if kind == "classes"
+                 else ((v, value_colour(v)) for v in range(1, 41)))
+        colorizer = '<RasterColorizer default-mode="%s" default-color="transparent">%s</RasterColorizer>' % (
+            "discrete" if kind == "classes" else "exact",
+            "".join('<stop value="%.9g" color="%s"/>' % stop for stop in stops))
+        band = '<Parameter name="band">1</Parameter>'
+    xml = ('<Map srs="%s" background-color="white"><Style name="s"><Rule><RasterSymbolizer scaling="near">%s'
+           '</RasterSymbolizer></Rule></Style><Layer name="l" srs="%s"><StyleName>s</StyleName><Datasource>'
+           '<Parameter name="type">gdal</Parameter><Parameter name="file">%s</Parameter>%s</Datasource></Layer>'
+           '</Map>') % (PROJ[crs], colorizer, PROJ[UTM], path, band)
+
+    def load():
+        made = m.Map(WIDTH, HEIGHT)
+        m.load_map_from_string(made, xml)
+        made.zoom_to_box(m.Box2d(*widened(box)))
+        return made
+
+    def draw(made):
+        m.render(made, m.Image(WIDTH, HEIGHT))
+
+    if fresh:
+        return timed(lambda: draw(load()))
+    made = load()
+    return timed(lambda: draw(made))
+
+
+def gdal(path, kind, box, crs, fresh, breaks):
+    from osgeo import gdal as g
+    g.UseExceptions()
+    if kind == "statistics":
+        found = []
+        result = timed(lambda: found.append(g.Open(path).GetRasterBand(1).ComputeStatistics(False)), 3)
+        return dict(result, check=found[-1])
+    data = g.Open(path)
+    x0, dx, _, y0, _, dy = data.GetGeoTransform()
+    b = widened(box)
+    low = (max(b[0], x0), max(b[1], y0 + dy * data.RasterYSize))
+    high = (min(b[2], x0 + dx * data.RasterXSize), min(b[3], y0))
+    window = [round((low[0] - x0) / dx), round((high[1] - y0) / dy),
+              round((high[0] - low[0]) / dx), round((low[1] - high[1]) / dy)]
+    scale = (b[2] - b[0]) / WIDTH
+    nx, ny = round((high[0] - low[0]) / scale), round((high[1] - low[1]) / scale)
+    picture, shown = np.zeros(WIDTH * HEIGHT * 4, np.uint8), np.zeros(WIDTH * HEIGHT * 4, np.uint8)
+    if kind == "image":
+        buffer = np.zeros((3, ny, nx), np.uint8)
+    else:
+        buffer = np.zeros((ny, nx))
+
+    def read():
+        source = g.Open(path) if fresh else data
+        if kind == "image":
+            source.ReadAsArray(*window, buf_xsize=nx, buf_ysize=ny, buf_obj=buffer)
+        else:
+            source.GetRasterBand(1).ReadAsArray(*window, nx, ny, buf_obj=buffer)
+        np.copyto(shown, picture)
+    return timed(read)
+
+
+def main(argv):
+    peer, path, kind, box, crs, span = argv[:6]
+    breaks = [float(b) for b in argv[6].split(",")] if len(argv) > 6 else []
+    box = [float(v) for v in box.split(",")]
+    result = {"qgis": qgis, "mapnik": mapnik, "gdal": gdal}[peer](path, kind, box, crs, span == "fresh", breaks)
+    print(json.dumps(result), flush=True)
+    import os
+    os._exit(0)  # the tear-down of a peer is not measured, and may crash
+
+
+if __name__ == "__main__":
+    main(sys.argv[1:])

@@ -1,0 +1,7 @@
+# Programs that bench/run times beside other programs.
+
+foreach(name draw statistics)
+  add_executable(bench_${name} bench/${name}.cpp)
+  target_link_libraries(bench_${name} PRIVATE zu_house zuk_platform ${CMAKE_DL_LIBS})
+endforeach()
+add_dependencies(bench_draw zuk_grid_layer2d)

@@ -332,6 +332,32 @@ TEST(fill_dibs, punches_out_the_colour_whose_four_bytes_agree) {
   EXPECT_EQ(bench.main(), (std::vector<std::uint32_t>{clear, word(255, 0, 0, 255), clear}));
 }
 
+TEST_P(fills, a_pixel_on_the_edge_of_a_cell_is_not_rounded_below_it) {
+  struct {
+    double x0, y0, cell;
+  } places[] = {{399960, 6000000, 30},  // not one of these has an exact inverse
+                {37.1 / 3, 55.7, 1.0 / 1200},
+                {-171.3, -12.9, 1.0 / 3600},
+                {500000.1, 4999999.7, 0.1},
+                {17.9, 3.3, 0.7}};
+  for (auto [x0, y0, cell] : places)
+    for (std::int32_t n = 7; n < 40; n += 3) {
+      made_source s(n, n);
+      s.x0 = x0, s.y0 = y0, s.cell = cell;
+      std::vector<double> values;
+      for (std::int32_t i = 0; i < n * n; ++i) values.push_back((i % n + i / n) % 2 == 0 ? 5 : 15);
+      s.add(L"z", values);
+      two_classes(bench);
+      auto side = static_cast<std::uint64_t>(n);
+      Tzu_box_d2 box;
+      s.extent(&box.x0, true);
+      ASSERT_TRUE(bench.fill(s, box, side, side));
+      std::vector<std::uint32_t> expected;
+      for (double v : values) expected.push_back(v == 5 ? red : green);
+      EXPECT_EQ(bench.main(), expected) << n << " cells of " << cell << " at " << x0;
+    }
+}
+
 TEST(fill_dibs, a_grid_without_matrix_or_outside_the_box_is_not_drawn) {
   made_source s(2, 2);
   s.add(L"z", {5, 5, 5, 5});

@@ -1,0 +1,56 @@
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+#include <span>
+
+#include "zu/platform/zuk_basic.h"
+
+namespace {
+
+struct rgb {
+  double r, g, b;
+};
+
+constexpr rgb white{255, 255, 255};
+constexpr rgb white_gray[] = {white, {64, 64, 64}};
+constexpr rgb white_blue[] = {white, {0, 0, 255}};
+constexpr rgb white_red[] = {white, {255, 0, 0}};
+constexpr rgb white_green[] = {white, {0, 128, 0}};
+constexpr rgb white_yellow[] = {white, {255, 255, 0}};
+constexpr rgb blue_white_red[] = {{0, 0, 255}, white, {255, 0, 0}};
+constexpr rgb red_white_blue[] = {{255, 0, 0}, white, {0, 0, 255}};
+constexpr rgb green_white_brown[] = {{0, 128, 0}, white, {139, 69, 19}};
+constexpr rgb rainbow[] = {{0, 0, 255}, {0, 255, 255}, {0, 255, 0}, {255, 255, 0}, {255, 0, 0}};
+
+/// By id: the stops of a ramp, evenly spread, mixed in linear steps of the bytes.
+constexpr std::span<const rgb> arrays[] = {white_gray,     white_blue,        white_red,
+                                           white_green,    white_yellow,      blue_white_red,
+                                           red_white_blue, green_white_brown, rainbow};
+
+rgb at(std::span<const rgb> stops, double share) {
+  double place = share * static_cast<double>(stops.size() - 1);
+  auto low = std::min(static_cast<std::size_t>(place), stops.size() - 2);
+  double t = place - static_cast<double>(low);
+  const rgb &a = stops[low], &b = stops[low + 1];
+  return {a.r + (b.r - a.r) * t, a.g + (b.g - a.g) * t, a.b + (b.b - a.b) * t};
+}
+
+std::uint8_t byte(double value) { return static_cast<std::uint8_t>(std::floor(value + 0.5)); }
+
+}  // namespace
+
+uint32_t zu_clr_init_rgba(uint8_t r, uint8_t g, uint8_t b, uint8_t a) {
+  return static_cast<uint32_t>(r) | static_cast<uint32_t>(g) << 8 | static_cast<uint32_t>(b) << 16 |
+         static_cast<uint32_t>(a) << 24;
+}
+
+bool zu_clr_arrays_generate_ex(int32_t id, uint64_t count, Tzu_color* colors, int32_t flag) {
+  if (id < 0 || id >= static_cast<int32_t>(std::size(arrays)) || colors == nullptr) return false;
+  std::span<const rgb> stops = arrays[id];
+  for (uint64_t i = 0; i < count; ++i) {
+    double share = count > 1 ? static_cast<double>(i) / static_cast<double>(count - 1) : 0.0;
+    rgb c = flag == 0 ? at(stops, share) : stops[i % stops.size()];
+    colors[i] = {byte(c.r), byte(c.g), byte(c.b), colors[i].a};
+  }
+  return true;
+}

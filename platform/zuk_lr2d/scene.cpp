@@ -1,0 +1,54 @@
+#include "platform/zuk_lr2d/scene.h"
+
+#include <algorithm>
+#include <new>
+
+#include "platform/zuk_basic/guarded.h"
+
+using zu::platform::guarded;
+
+Tzu_scn_2d* zu_scn_2d_create() { return new (std::nothrow) Tzu_scn_2d; }
+
+void zu_scn_2d_destroy(Tzu_scn_2d* scene) {
+  if (scene != nullptr)
+    for (Izu_layer* layer : scene->layers) layer->scene = nullptr;
+  delete scene;
+}
+
+void zu_scn_2d_add_layer(Tzu_scn_2d* scene, Izu_layer* layer) {
+  if (layer == nullptr) return;
+  guarded(scene, [&](Tzu_scn_2d& s) {
+    zu_scn_2d_remove_layer(layer->scene, layer);
+    s.layers.push_back(layer);
+    layer->scene = &s;
+  });
+}
+
+void zu_scn_2d_remove_layer(Tzu_scn_2d* scene, Izu_layer* layer) {
+  if (layer == nullptr) return;
+  guarded(scene, [&](Tzu_scn_2d& s) {
+    auto entry = std::find(s.layers.begin(), s.layers.end(), layer);
+    if (entry == s.layers.end()) return;
+    s.layers.erase(entry);
+    layer->scene = nullptr;
+  });
+}
+
+uint64_t zu_scn_2d_get_layer_count(const Tzu_scn_2d* scene) {
+  return scene != nullptr ? scene->layers.size() : 0;
+}
+Izu_layer* zu_scn_2d_get_layer(const Tzu_scn_2d* scene, uint64_t index) {
+  return index < zu_scn_2d_get_layer_count(scene) ? scene->layers[index] : nullptr;
+}
+void zu_scn_2d_set_pj4wstr(Tzu_scn_2d* scene, const wchar_t* projection) {
+  guarded(scene, [&](Tzu_scn_2d& s) { s.projection = projection != nullptr ? projection : L""; });
+}
+void zu_scn_2d_get_pj4wstr(const Tzu_scn_2d* scene, Tzu_string_adp* adapter) {
+  guarded(scene, [&](const Tzu_scn_2d& s) { zu_string_adp_feed(adapter, s.projection.c_str()); });
+}
+Tzu_optional_color zu_scn_2d_get_selected_style_clr(const Tzu_scn_2d* scene) {
+  return scene != nullptr ? scene->selected : Tzu_optional_color{};
+}
+void zu_scn_2d_set_selected_style_clr(Tzu_scn_2d* scene, Tzu_optional_color color) {
+  guarded(scene, [&](Tzu_scn_2d& s) { s.selected = color; });
+}

@@ -1,0 +1,33 @@
+#pragma once
+// The records of layers and scenes.
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "zu/platform/zuk_lr2d.h"
+
+struct Izu_layer {
+  std::string type;
+  std::wstring source, caption;
+  Tzu_handle plugin;
+  Tzu_scn_2d* scene = nullptr;
+  Tzu_attr_data* data = nullptr;
+  std::optional<Tzu_box_d2> box;
+  bool missing = false, own_selected_style = false;
+  uint64_t changes = 0;
+};
+
+struct Tzu_scn_2d {
+  std::vector<Izu_layer*> layers;  // the lowest first
+  std::wstring projection;
+  Tzu_optional_color selected{};
+};
+
+namespace zu::platform {
+
+/// The file on disk that a source lives in: the path itself, the archive of a /vsi… path, or what
+/// stands between a driver's prefix and its part: NETCDF:"file":variable, GPKG:file:table.
+std::wstring file_of_source(const std::wstring& source);
+
+}  // namespace zu::platform

@@ -1,0 +1,38 @@
+#include <cpl_vsi.h>
+
+#include <cstdlib>
+#include <cstring>
+
+#include "platform/zuk_basic/guarded.h"
+#include "platform/zuk_basic/utf8.h"
+#include "zu/platform/zuk_os.h"
+
+namespace {
+
+constexpr int32_t russian = 0, english = 50000;
+
+int32_t language_of_system() {
+  for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+    const char* value = std::getenv(name);
+    if (value != nullptr && *value != '\0')
+      return std::strncmp(value, "ru", 2) == 0 ? russian : english;
+  }
+  return english;
+}
+
+int32_t& language() {
+  static int32_t offset = language_of_system();
+  return offset;
+}
+
+}  // namespace
+
+bool zu_os_file_exists(const wchar_t* path) {
+  return zu::platform::guarded(path, false, [](const wchar_t& text) {
+    VSIStatBufL attributes;
+    return VSIStatExL(zu::platform::to_utf8(&text).c_str(), &attributes, VSI_STAT_EXISTS_FLAG) == 0;
+  });
+}
+
+int32_t zu_res_get_lng() { return language(); }
+void zu_res_set_lng(int32_t offset) { language() = offset; }

@@ -1,0 +1,50 @@
+#include <new>
+#include <optional>
+#include <string>
+
+#include "platform/zuk_basic/guarded.h"
+#include "zu/platform/zuk_render.h"
+
+using zu::platform::guarded;
+
+struct Izu_render {
+  Tzu_drwc* drwc;
+  Tzu_box_d2 map_box;
+  Tzu_matrix3x3 cr2mm;
+  std::wstring projection;
+  std::optional<Tzu_matrix3x3> affine;
+};
+
+Izu_render* zu_render_create(Tzu_drwc* drwc, const Tzu_box_d2* map_box) {
+  return guarded(map_box, static_cast<Izu_render*>(nullptr), [&](const Tzu_box_d2& box) {
+    Tzu_box_d2 page{};
+    zu_drwc_get_page(drwc, &page);
+    auto* render = new Izu_render{drwc, box, {}, {}, {}};
+    zu_matrix3x3_init_box2box(&render->cr2mm, &box, &page);
+    return render;
+  });
+}
+void zu_render_destroy(Izu_render* render) { delete render; }
+Tzu_drwc* zu_render_get_drwc(const Izu_render* render) {
+  return render != nullptr ? render->drwc : nullptr;
+}
+const Tzu_box_d2* zu_render_get_map_box_cr(const Izu_render* render) { return &render->map_box; }
+const Tzu_matrix3x3* zu_render_get_matrix_cr2mm(const Izu_render* render) { return &render->cr2mm; }
+void zu_render_get_pj4wstr(const Izu_render* render, Tzu_string_adp* adapter) {
+  guarded(render, [&](const Izu_render& r) { zu_string_adp_feed(adapter, r.projection.c_str()); });
+}
+void zu_render_set_pj4wstr(Izu_render* render, const wchar_t* projection) {
+  guarded(render, [&](Izu_render& r) { r.projection = projection != nullptr ? projection : L""; });
+}
+void zu_render_set_affine_matrix(Izu_render* render, const Tzu_matrix3x3* matrix) {
+  guarded(render, [&](Izu_render& r) {
+    r.affine.reset();
+    if (matrix != nullptr) r.affine = *matrix;
+  });
+}
+bool zu_render_has_affine_transform(const Izu_render* render) {
+  return render != nullptr && render->affine.has_value();
+}
+const Tzu_matrix3x3* zu_render_get_affine_matrix(const Izu_render* render) {
+  return zu_render_has_affine_transform(render) ? &*render->affine : nullptr;
+}

@@ -1,0 +1,133 @@
+// The plain functions of styles.
+
+#include <cmath>
+#include <new>
+#include <string>
+
+#include "platform/zuk_basic/guarded.h"
+#include "platform/zuk_styles/scales.h"
+
+using zu::platform::guarded;
+using zu::platform::range_class;
+using zu::platform::range_scale;
+using zu::platform::value_class;
+using zu::platform::value_scale;
+
+namespace {
+
+range_scale& whole(Tzu_rng_scale& head) { return static_cast<range_scale&>(head); }
+const range_scale& whole(const Tzu_rng_scale& head) {
+  return static_cast<const range_scale&>(head);
+}
+value_scale& whole(Tzu_val_scale& head) { return static_cast<value_scale&>(head); }
+const value_scale& whole(const Tzu_val_scale& head) {
+  return static_cast<const value_scale&>(head);
+}
+
+range_class* class_at(Tzu_rng_scale* scale, uint64_t index) {
+  return index < zu_rng_scale_get_size(scale) ? &whole(*scale).classes[index] : nullptr;
+}
+value_class* class_at(Tzu_val_scale* scale, uint64_t index) {
+  return index < zu_val_scale_get_size(scale) ? &whole(*scale).classes[index] : nullptr;
+}
+
+}  // namespace
+
+void zu_scale_prm_set_visible(Tzu_scale_prm* prm, bool visible) {
+  if (prm != nullptr) prm->visible = visible;
+}
+void zu_stl_prm_clr_set_all(Tzu_stl_prm* prm, Tzu_color color, int32_t index) {
+  if (prm != nullptr) prm->colors[index != 0] = color;
+}
+
+// --- Range scale
+
+uint64_t zu_rng_scale_get_size(const Tzu_rng_scale* scale) {
+  return scale != nullptr ? whole(*scale).classes.size() : 0;
+}
+void zu_rng_scale_set_size(Tzu_rng_scale* scale, uint64_t size) {
+  guarded(scale, [&](Tzu_rng_scale& s) { whole(s).resize(size); });
+}
+double zu_rng_scale_get_min(const Tzu_rng_scale* scale, uint64_t index) {
+  return index < zu_rng_scale_get_size(scale) ? whole(*scale).classes[index].minimum : NAN;
+}
+double zu_rng_scale_get_max(const Tzu_rng_scale* scale, uint64_t index) {
+  return index < zu_rng_scale_get_size(scale) ? whole(*scale).classes[index].maximum : NAN;
+}
+void zu_rng_scale_set_min(Tzu_rng_scale* scale, uint64_t index, double value) {
+  if (range_class* c = class_at(scale, index)) c->minimum = value;
+}
+void zu_rng_scale_set_max(Tzu_rng_scale* scale, uint64_t index, double value) {
+  if (range_class* c = class_at(scale, index)) c->maximum = value;
+}
+double zu_rng_scale_get_min_value(const Tzu_rng_scale* scale) {
+  return scale != nullptr ? whole(*scale).minimum : NAN;
+}
+double zu_rng_scale_get_max_value(const Tzu_rng_scale* scale) {
+  return scale != nullptr ? whole(*scale).maximum : NAN;
+}
+void zu_rng_scale_set_min_value(Tzu_rng_scale* scale, double value) {
+  if (scale != nullptr) whole(*scale).minimum = value;
+}
+void zu_rng_scale_set_max_value(Tzu_rng_scale* scale, double value) {
+  if (scale != nullptr) whole(*scale).maximum = value;
+}
+Tzu_scale_prm* zu_rng_scale_get_scale_prm_ptr(Tzu_rng_scale* scale, uint64_t index) {
+  range_class* c = class_at(scale, index);
+  return c != nullptr ? c->row.get() : nullptr;
+}
+Tzu_scale_prm* zu_rng_scale_get_min_prm_ptr(Tzu_rng_scale* scale) {
+  return scale != nullptr ? &whole(*scale).lower : nullptr;
+}
+Tzu_scale_prm* zu_rng_scale_get_max_prm_ptr(Tzu_rng_scale* scale) {
+  return scale != nullptr ? &whole(*scale).upper : nullptr;
+}
+Tzu_scale_prm* zu_rng_scale_get_other_prm_ptr(Tzu_rng_scale* scale) {
+  return scale != nullptr ? &whole(*scale).other : nullptr;
+}
+void zu_rng_scale_beg_find(Tzu_rng_scale* scale) {
+  guarded(scale, [](Tzu_rng_scale& s) { whole(s).begin_find(); });
+}
+void zu_rng_scale_end_find(Tzu_rng_scale* scale) {
+  guarded(scale, [](Tzu_rng_scale& s) { whole(s).end_find(); });
+}
+
+// --- Value scale
+
+uint64_t zu_val_scale_get_size(const Tzu_val_scale* scale) {
+  return scale != nullptr ? whole(*scale).classes.size() : 0;
+}
+void zu_val_scale_set_size(Tzu_val_scale* scale, uint64_t size) {
+  guarded(scale, [&](Tzu_val_scale& s) { whole(s).resize(size); });
+}
+uint64_t zu_val_scale_add(Tzu_val_scale* scale) {
+  zu_val_scale_set_size(scale, zu_val_scale_get_size(scale) + 1);
+  return zu_val_scale_get_size(scale);
+}
+void zu_val_scale_get_text_w(const Tzu_val_scale* scale, uint64_t index, Tzu_string_adp* adapter) {
+  if (index < zu_val_scale_get_size(scale))
+    zu_string_adp_feed(adapter, whole(*scale).classes[index].text.c_str());
+}
+void zu_val_scale_set_text_w(Tzu_val_scale* scale, uint64_t index, const wchar_t* text) {
+  guarded(class_at(scale, index), [&](value_class& c) { c.text = text != nullptr ? text : L""; });
+}
+Tzu_scale_prm* zu_val_scale_get_scale_prm_ptr(Tzu_val_scale* scale, uint64_t index) {
+  value_class* c = class_at(scale, index);
+  return c != nullptr ? c->row.get() : nullptr;
+}
+Tzu_scale_prm* zu_val_scale_get_other_prm_ptr(Tzu_val_scale* scale) {
+  return scale != nullptr ? &whole(*scale).other : nullptr;
+}
+void zu_val_scale_beg_find(Tzu_val_scale* scale) {
+  guarded(scale, [](Tzu_val_scale& s) { whole(s).begin_find(); });
+}
+void zu_val_scale_end_find(Tzu_val_scale* scale) {
+  guarded(scale, [](Tzu_val_scale& s) { whole(s).end_find(); });
+}
+
+// Keep the library's own copies of what the header defines.
+[[gnu::used]] static const auto exported_visible = &zu_scale_prm_get_visible;
+[[gnu::used]] static const auto exported_style = &zu_scale_prm_get_stl_prm_ptr;
+[[gnu::used]] static const auto exported_color = &zu_stl_prm_get_clr_style_ptr;
+[[gnu::used]] static const auto exported_find_range = &zu_rng_scale_find_scale_prm_ptr;
+[[gnu::used]] static const auto exported_find_value = &zu_val_scale_find_scale_prm_ptr_d;

@@ -36,7 +36,7 @@ def read_picture(path):
     return numpy.moveaxis(bands, 0, -1)[::-1].astype(int)
 
 
-def difference(picture, page, loose, blended):
+def difference(picture, page, blended):
     """The worst difference of each pixel beyond what eight premultiplied bits explain."""
     opacity = numpy.round(page[..., 3] * 255)
     off = abs(picture[..., 3] - opacity)
@@ -45,9 +45,7 @@ def difference(picture, page, loose, blended):
     seen = (opacity > 0) & (picture[..., 3] > 0)
     safe = numpy.where(page[..., 3:] > 0, page[..., 3:], 1)
     color_off = abs(picture[..., :3] - numpy.round(page[..., :3] / safe * 255)).max(axis=-1)
-    allowed = numpy.where(loose, 1.0, 0.0)
-    if blended:
-        allowed = allowed + numpy.ceil(2 * 255 / numpy.maximum(opacity, 1))
+    allowed = numpy.ceil(2 * 255 / numpy.maximum(opacity, 1)) if blended else 0
     return numpy.maximum(off, numpy.where(seen & (color_off > allowed), color_off, 0))
 
 
@@ -74,7 +72,7 @@ def judge(case, picture):
     for windows in scene.window_choices():
         least = None
         for nudge in nudges:
-            worst = difference(picture, *scene.draw(windows, nudge), blended)
+            worst = difference(picture, scene.draw(windows, nudge), blended)
             least = worst if least is None else numpy.minimum(least, worst)
             if first is None and not worst.any():
                 return worst, "plain"

@@ -87,7 +87,7 @@ def painted(rows, other, colors, other_color):
 
 
 def channel(values, limits):
-    """0..255 between the limits, half up; NaN gives 0. Also where the rounding is a tie."""
+    """0..255 between the limits, half up; NaN gives 0."""
     low, high = limits
     with numpy.errstate(invalid="ignore", over="ignore", divide="ignore"):
         if low == high:
@@ -95,20 +95,15 @@ def channel(values, limits):
         else:
             exact = (values - low) / (high - low) * 255
         exact = numpy.clip(numpy.where(numpy.isnan(exact), 0, exact), 0, 255)
-    tie = abs(exact - numpy.floor(exact) - 0.5) < 1e-6
-    return numpy.floor(exact + 0.5).astype(numpy.uint8), tie
+    return numpy.floor(exact + 0.5).astype(numpy.uint8)
 
 
-class Bitmap:
-    """Pixels r, g, b, transparency of one layer; `loose` marks those whose rounding is a tie."""
-
-    def __init__(self, pixels, there, loose=None):
-        self.pixels = numpy.where(there[..., None], pixels, numpy.array(INVISIBLE, numpy.uint8))
-        self.loose = loose if loose is not None else numpy.zeros(there.shape, bool)
+def bitmap(pixels, there):
+    return numpy.where(there[..., None], pixels, numpy.array(INVISIBLE, numpy.uint8))
 
 
 def fill(grid, look, window, sx, sy):
-    """The bitmap of a layer; None if the source has nothing to show in this way."""
+    """Pixels r, g, b, transparency; None if the source has nothing to show in this way."""
     if look.draw == "scale":
         return fill_by_style(grid, look, window, sx, sy)
     if look.draw == "image":
@@ -117,27 +112,26 @@ def fill(grid, look, window, sx, sy):
     fields = [grid.field(n) for n in names]
     if -1 in fields:
         return None
-    parts, there, loose = [], True, False
+    parts, there = [], True
     for index in fields:
         values, known = nearest(*grid.doubles(index, window), sx, sy)
-        part, tie = channel(values, look.limits or grid.range(index))
-        parts.append(part)
-        there, loose = there & known, loose | tie
-    return Bitmap(stacked(parts if len(parts) == 3 else parts * 3), there, loose)
+        parts.append(channel(values, look.limits or grid.range(index)))
+        there = there & known
+    return bitmap(stacked(parts if len(parts) == 3 else parts * 3), there)
 
 
 def fill_by_style(grid, look, window, sx, sy):
     if look.simple:
         shape = (window.samples_y, window.samples_x)
         _, there = nearest(numpy.zeros(shape), numpy.ones(shape, bool), sx, sy)
-        return Bitmap(numpy.array(look.simple, numpy.uint8), there)
+        return bitmap(numpy.array(look.simple, numpy.uint8), there)
     index = grid.field(look.field)
     if index == -1:
         return None
     smooth = look.interpolate and look.breaks
     values, there = (bilinear if smooth else nearest)(*grid.doubles(index, window), sx, sy)
     values = numpy.where(there, values, 0.0)
-    return Bitmap((by_range if look.breaks else by_value)(look, values), there)
+    return bitmap((by_range if look.breaks else by_value)(look, values), there)
 
 
 def fill_image(grid, window, sx, sy):
@@ -150,7 +144,7 @@ def fill_image(grid, window, sx, sy):
             parts.append(part)
             there = there & known
         alpha = 255 - parts[3] if len(parts) == 4 else None
-        return Bitmap(stacked(parts[:3], alpha), there)
+        return bitmap(stacked(parts[:3], alpha), there)
     index = last.get("gray", last.get("palette"))
     if index is None:
         return None
@@ -162,11 +156,11 @@ def fill_image(grid, window, sx, sy):
             r, g, b, opacity = palette.GetColorEntry(i)
             entries[i] = (r, g, b, 255 - opacity)
         samples, there = nearest(samples, numpy.ones(valid.shape, bool), sx, sy)
-        return Bitmap(entries[samples], there)
+        return bitmap(entries[samples], there)
     if grid.roles[index] == "palette":
         return None
     samples, there = nearest(samples, valid, sx, sy)
-    return Bitmap(stacked([samples] * 3), there)
+    return bitmap(stacked([samples] * 3), there)
 
 
 def stacked(colors, transparency=None):
@@ -212,9 +206,8 @@ class Scene:
         return list(dict.fromkeys(self.windows(n) for n in nudges))
 
     def draw(self, windows, nudge=Nudge()):
-        """Premultiplied red, green, blue and opacity from 0 to 1, and the pixels that are loose."""
+        """Premultiplied red, green, blue and opacity from 0 to 1."""
         page = numpy.zeros((self.size[1], self.size[0], 4))
-        loose = numpy.zeros(page.shape[:2], bool)
         if self.background:
             opacity = (255 - self.background[3]) / 255
             page[...] = [c / 255 * opacity for c in self.background[:3]] + [opacity]
@@ -225,20 +218,19 @@ class Scene:
                 continue
             sx, sy = sample_coordinates(grid, p, window, r)
             sx, sy = sx + nudge.x * Nudge.SAMPLE, sy + nudge.y * Nudge.SAMPLE
-            bitmap = fill(grid, look, window, sx, sy)
-            if bitmap:
-                lay(page, loose, bitmap, p, (25500 - look.transparency * 255) // 100)
-        return page, loose
+            pixels = fill(grid, look, window, sx, sy)
+            if pixels is not None:
+                lay(page, pixels, p, (25500 - look.transparency * 255) // 100)
+        return page
 
 
-def lay(page, loose, bitmap, placement, alpha):
+def lay(page, pixels, placement, alpha):
     """Source over, cut to the page."""
     rows = slice(placement.bottom, placement.bottom + placement.ny)
     columns = slice(placement.left, placement.left + placement.nx)
     below = page[rows, columns]
     height, width = below.shape[:2]
-    pixels = bitmap.pixels[:height, :width].astype(float)
+    pixels = pixels[:height, :width].astype(float)
     opacity = (255 - pixels[..., 3:]) / 255 * alpha / 255
     above = numpy.concatenate([pixels[..., :3] / 255 * opacity, opacity], axis=-1)
     page[rows, columns] = above + below * (1 - opacity)
-    loose[rows, columns] |= bitmap.loose[:height, :width]

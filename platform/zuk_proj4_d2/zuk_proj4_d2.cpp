@@ -93,7 +93,7 @@ bool zu_pj_check_w(const wchar_t* text, Tzu_string_adp* reason) {
   const auto& thread = proj_thread::current();
   return guarded(thread.get(), false, [&](proj_thread& t) {
     if (t.system(narrow(text)) != nullptr) return true;
-    zu_string_adp_feed_narrow(reason, t.message().c_str());
+    zu_string_adp_feed(reason, from_utf8(t.message()).c_str());
     return false;
   });
 }
@@ -104,7 +104,7 @@ void zu_pj_get_name_w(const wchar_t* text, Tzu_string_adp* name) {
     const char* given = proj_get_name(&system);
     if (given != nullptr && *given != 0 && std::string(given) != "unknown") found = given;
   });
-  zu_string_adp_feed_narrow(name, found.c_str());
+  zu_string_adp_feed(name, from_utf8(found).c_str());
 }
 
 void zu_pj_get_authority_w(const wchar_t* text, Tzu_string_adp* code) {
@@ -113,7 +113,7 @@ void zu_pj_get_authority_w(const wchar_t* text, Tzu_string_adp* code) {
     const char* number = proj_get_id_code(&system, 0);
     bool registered = authority != nullptr && number != nullptr && std::string(authority) == "EPSG";
     int found = registered ? std::atoi(number) : identified_code(thread, system);
-    if (found > 0) zu_string_adp_feed_narrow(code, ("EPSG:" + std::to_string(found)).c_str());
+    if (found > 0) zu_string_adp_feed(code, from_utf8("EPSG:" + std::to_string(found)).c_str());
   });
 }
 
@@ -123,7 +123,7 @@ bool zu_pj_get_wkt_w(const wchar_t* text, Tzu_string_adp* wkt) {
     const char* const options[] = {"MULTILINE=NO", nullptr};
     const char* written = proj_as_wkt(thread.context(), &system, PJ_WKT2_2019, options);
     told = written != nullptr;
-    if (told) zu_string_adp_feed_narrow(wkt, written);
+    if (told) zu_string_adp_feed(wkt, from_utf8(written).c_str());
   });
   return told;
 }

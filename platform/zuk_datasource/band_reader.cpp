@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <limits>
 #include <map>
 
@@ -31,8 +32,13 @@ std::vector<std::int64_t> sampled_cells(std::int64_t origin, std::uint64_t size,
 }
 
 void turn_rows_over(std::byte* data, std::size_t rows, std::size_t row_bytes, std::size_t pitch) {
-  for (std::size_t low = 0, high = rows; low + 1 < high; ++low)
-    std::swap_ranges(data + low * pitch, data + low * pitch + row_bytes, data + --high * pitch);
+  std::vector<std::byte> kept(row_bytes);
+  for (std::size_t low = 0, high = rows; low + 1 < high; ++low) {
+    std::byte *a = data + low * pitch, *b = data + --high * pitch;
+    std::memcpy(kept.data(), a, row_bytes);
+    std::memcpy(a, b, row_bytes);
+    std::memcpy(b, kept.data(), row_bytes);
+  }
 }
 
 }  // namespace
@@ -128,15 +134,18 @@ std::int32_t band_reader::read(const grid_window& w, void* out, std::int32_t typ
 
   gdal_messages said;
   bool good = true;
+  std::size_t width = element_width(type_), row_bytes = w.sample_x * width;
   if (type == type_ && to.column_stride == 1) {
     good = read_native(w, out, to.row_stride);
+    if (good && rows_run_south_)
+      turn_rows_over(static_cast<std::byte*>(out), w.sample_y, row_bytes, to.row_stride * width);
   } else {
-    std::size_t width = element_width(type_);
-    auto native = std::make_unique_for_overwrite<std::byte[]>(w.sample_x * w.sample_y * width);
+    auto native = std::make_unique_for_overwrite<std::byte[]>(w.sample_y * row_bytes);
     good = read_native(w, native.get(), w.sample_x);
     for (std::uint64_t row = 0; good && row < w.sample_y; ++row)
-      convert_elements(native.get() + row * w.sample_x * width, type_, 1, to.at(0, row), type,
-                       static_cast<std::ptrdiff_t>(to.column_stride), w.sample_x);
+      convert_elements(native.get() + (rows_run_south_ ? w.sample_y - 1 - row : row) * row_bytes,
+                       type_, 1, to.at(0, row), type, static_cast<std::ptrdiff_t>(to.column_stride),
+                       w.sample_x);
   }
   return good ? read_done : salvage(w, to, said.reason(dataset_->path(), "unknown reason"));
 }
@@ -159,10 +168,7 @@ bool band_reader::read_native(const grid_window& w, void* out, std::uint64_t row
       GF_Read, static_cast<int>(w.x), static_cast<int>(top), static_cast<int>(w.nx),
       static_cast<int>(w.ny), out, static_cast<int>(w.sample_x), static_cast<int>(w.sample_y),
       gdal_type_of(type_), static_cast<GSpacing>(width), static_cast<GSpacing>(pitch), &options);
-  if (result != CE_None) return false;
-  if (rows_run_south_)
-    turn_rows_over(static_cast<std::byte*>(out), w.sample_y, w.sample_x * width, pitch);
-  return true;
+  return result == CE_None;
 }
 
 bool band_reader::read_sampled(const grid_window& w, void* out) {
@@ -174,12 +180,7 @@ bool band_reader::read_sampled(const grid_window& w, void* out) {
     for (std::int64_t& row : rows) row = file_row(row);
     std::reverse(rows.begin(), rows.end());
   }
-  std::size_t width = element_width(type_);
-  if (!plain->sample(sampled_cells(w.x, w.nx, w.sample_x), rows, out, width)) return false;
-  if (rows_run_south_)
-    turn_rows_over(static_cast<std::byte*>(out), w.sample_y, w.sample_x * width,
-                   w.sample_x * width);
-  return true;
+  return plain->sample(sampled_cells(w.x, w.nx, w.sample_x), rows, out, element_width(type_));
 }
 
 // Reads block by block at full resolution what can be read of a window that could not.

@@ -57,6 +57,7 @@ class band_reader {
  private:
   struct target;
   std::int64_t file_row(std::int64_t row) const;
+  // Elements of the band's own type, rows in the file's order.
   bool read_native(const grid_window& window, void* out, std::uint64_t row_stride);
   bool read_sampled(const grid_window& window, void* out);
   std::int32_t salvage(const grid_window& window, const target& to, const std::string& reason);

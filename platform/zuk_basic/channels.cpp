@@ -24,12 +24,7 @@ struct channel : Tzu_clr_channel {
   }
   void set_limits(double low, double high) {
     minimum = low, maximum = high;
-    if (low != high) {
-      scale = 255.0 / (high - low), offset = 0.0;
-    } else {
-      // A step: so steep that any difference leaves 0..255.
-      scale = HUGE_VAL, offset = -1.0;
-    }
+    range = high - low;  // 0 makes a step, since what is above comes out infinite
   }
   std::wstring name;
 };

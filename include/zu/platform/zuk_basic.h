@@ -41,8 +41,8 @@ typedef struct Tzu_optional_color {
 
 /// A channel: a field's name and the limits between which its values spread over 0..255.
 typedef struct Tzu_clr_channel {
-  double minimum, scale, offset;  ///< prepared: value * scale + offset is the unrounded byte
-  double maximum;
+  double minimum, maximum;
+  double range;  ///< maximum - minimum
   void* body;
 } Tzu_clr_channel;
 typedef struct Tzu_rgb_channels Tzu_rgb_channels;
@@ -64,9 +64,10 @@ ZU_API double zu_clr_channel_get_maximum(const Tzu_clr_channel* channel);
 ZU_API void zu_clr_channel_set_limits(Tzu_clr_channel* channel, double minimum, double maximum);
 
 #ifdef __cplusplus
-/// (value - minimum) / (maximum - minimum) * 255, rounded half up, cut to 0..255; NaN gives 0.
+/// (value - minimum) / (maximum - minimum) * 255, rounded half up, cut to 0..255; NaN gives 0. In
+/// this order: a factor prepared ahead would take 50 of 0..100 to 127.49999999999999.
 ZU_HOT uint8_t zu_clr_channel_get255value(const Tzu_clr_channel* channel, double value) {
-  double byte = (value - channel->minimum) * channel->scale + channel->offset + 0.5;
+  double byte = (value - channel->minimum) / channel->range * 255.0 + 0.5;
   return byte >= 255.0 ? 255 : byte > 0.0 ? static_cast<uint8_t>(byte) : 0;
 }
 #else

@@ -46,10 +46,11 @@ class made_source : public zu::polymorphic<zu::data_source_impl>,
   std::map<std::pair<std::uint64_t, std::uint64_t>, int> tile_reads;
   int block_requests = 0;
   bool refuse_matrix = false;
+  double x0 = 0, y0 = 0, cell = 1;  // low corner and side of the cells
 
   // data source
   bool extent(double* box, bool) override {
-    box[0] = 0, box[1] = 0, box[2] = nx_, box[3] = ny_;
+    box[0] = x0, box[1] = y0, box[2] = x0 + nx_ * cell, box[3] = y0 + ny_ * cell;
     return true;
   }
   std::int64_t field_count() override { return static_cast<std::int64_t>(bands_.size()); }
@@ -64,13 +65,13 @@ class made_source : public zu::polymorphic<zu::data_source_impl>,
       }
     return false;
   }
-  // grid source: cells of size 1 from (0, 0)
+  // grid source
   bool sizes(std::int32_t* three) override {
     three[0] = nx_, three[1] = ny_, three[2] = 1;
     return true;
   }
   bool matrix3x3(double* nine) override {
-    const double m[9] = {1, 0, 0.5, 0, 1, 0.5, 0, 0, 1};
+    const double m[9] = {cell, 0, x0 + cell / 2, 0, cell, y0 + cell / 2, 0, 0, 1};
     std::copy(m, m + 9, nine);
     return !refuse_matrix;
   }

@@ -113,6 +113,11 @@ TEST_P(fills, nearest_draws_the_half_cell_that_bilinear_leaves) {
   EXPECT_EQ(bench.main(), std::vector<std::uint32_t>(16, red));
 }
 
+std::ptrdiff_t clear_pixels(fill_bench& b) {
+  std::vector<std::uint32_t> pixels = b.main();
+  return std::count(pixels.begin(), pixels.end(), clear);
+}
+
 TEST_P(fills, one_nodata_sample_blanks_a_cell_with_nearest_and_its_neighbours_with_bilinear) {
   made_source s(5, 5);
   std::vector<double> values(25, 5.0);
@@ -122,11 +127,11 @@ TEST_P(fills, one_nodata_sample_blanks_a_cell_with_nearest_and_its_neighbours_wi
   band.nodata = -9999;
   two_classes(bench);
   ASSERT_TRUE(bench.fill(s, {0, 0, 5, 5}, 10, 10));
-  EXPECT_EQ(std::count(bench.main().begin(), bench.main().end(), clear), 2 * 2);
+  EXPECT_EQ(clear_pixels(bench), 2 * 2);
   bench.params.interpolate = true;
   ASSERT_TRUE(bench.fill(s, {1, 1, 4, 4}, 6, 6));
   // Low corners from 1.5 up to but without 3.5 lie between it and a neighbour.
-  EXPECT_EQ(std::count(bench.main().begin(), bench.main().end(), clear), 4 * 4);
+  EXPECT_EQ(clear_pixels(bench), 4 * 4);
 }
 
 TEST_P(fills, value_scale_matches_samples_and_is_never_interpolated) {
@@ -330,6 +335,32 @@ TEST(fill_dibs, punches_out_the_colour_whose_four_bytes_agree) {
   bench.params.transparent_color = {{255, 0, 0, 0}, 1};
   ASSERT_TRUE(bench.fill(s, {0, 0, 3, 1}, 3, 1));
   EXPECT_EQ(bench.main(), (std::vector<std::uint32_t>{clear, word(255, 0, 0, 255), clear}));
+}
+
+TEST_P(fills, a_pixel_on_the_edge_of_a_cell_is_not_rounded_below_it) {
+  struct {
+    double x0, y0, cell;
+  } places[] = {{399960, 6000000, 30},  // not one of these has an exact inverse
+                {37.1 / 3, 55.7, 1.0 / 1200},
+                {-171.3, -12.9, 1.0 / 3600},
+                {500000.1, 4999999.7, 0.1},
+                {17.9, 3.3, 0.7}};
+  for (auto [x0, y0, cell] : places)
+    for (std::int32_t n = 7; n < 40; n += 3) {
+      made_source s(n, n);
+      s.x0 = x0, s.y0 = y0, s.cell = cell;
+      std::vector<double> values;
+      for (std::int32_t i = 0; i < n * n; ++i) values.push_back((i % n + i / n) % 2 == 0 ? 5 : 15);
+      s.add(L"z", values);
+      two_classes(bench);
+      auto side = static_cast<std::uint64_t>(n);
+      Tzu_box_d2 box;
+      s.extent(&box.x0, true);
+      ASSERT_TRUE(bench.fill(s, box, side, side));
+      std::vector<std::uint32_t> expected;
+      for (double v : values) expected.push_back(v == 5 ? red : green);
+      EXPECT_EQ(bench.main(), expected) << n << " cells of " << cell << " at " << x0;
+    }
 }
 
 TEST(fill_dibs, a_grid_without_matrix_or_outside_the_box_is_not_drawn) {

@@ -90,6 +90,7 @@ enum Tzu_problem_kind {
   zu_problem_projection = 2,
   zu_problem_field = 3,
   zu_problem_write = 4,
+  zu_problem_part = 5,  ///< some of a read failed; the rest was had
 };
 /// Keeps a reason; the same text of the same source is kept once, at most 16 a source.
 ZU_API void zu_problems_add(const wchar_t* source, int32_t kind, const wchar_t* text);

@@ -1,0 +1,73 @@
+// zugrid: the command line.
+
+#include <cstdio>
+#include <exception>
+#include <iostream>
+
+#include "host/cli/commands.h"
+#include "host/core/failure.h"
+
+namespace {
+
+using namespace zu::cli;
+
+struct entry {
+  const char* name;
+  const char* summary;
+  command (*add)(CLI::App&);
+};
+
+constexpr entry commands[] = {
+    {"render", "draw grids into a picture", &add_render},
+    {"info", "say what a grid holds", &add_info},
+};
+
+int refuse(const std::string& reason, const std::string& command) {
+  std::fprintf(stderr, "zugrid: %s; see zugrid %s--help\n", reason.c_str(),
+               command.empty() ? "" : (command + " ").c_str());
+  return exit_usage;
+}
+
+int fail(const char* reason) {
+  std::fprintf(stderr, "zugrid: %s\n", reason);
+  return exit_failure;
+}
+
+/// One line of what the parser says.
+std::string one_line(std::string text) { return text.substr(0, text.find('\n')); }
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  CLI::App parser("Draws and describes 2D grids: GeoTIFF, ASCII grids and whatever GDAL opens.",
+                  "zugrid");
+  parser.require_subcommand(1);
+  parser.set_version_flag("--version", "zugrid " ZU_VERSION);
+  int result = exit_success;
+  std::string running;
+  for (const entry& each : commands) {
+    CLI::App* part = parser.add_subcommand(each.name, each.summary);
+    command run = each.add(*part);
+    part->callback([&result, &running, run, name = each.name] {
+      running = name;
+      result = run();
+    });
+  }
+  try {
+    parser.parse(argc, argv);
+    return std::fflush(stdout) == 0 ? result : fail("standard output: cannot be written");
+  } catch (const CLI::Success& asked) {  // help and version
+    return parser.exit(asked);
+  } catch (const CLI::ParseError& error) {
+    for (const CLI::App* part : parser.get_subcommands()) running = part->get_name();
+    return refuse(one_line(error.what()), running);
+  } catch (const usage_error& error) {
+    return refuse(error.what(), running);
+  } catch (const zu::host::failure& error) {
+    return fail(error.what());
+  } catch (const std::bad_alloc&) {
+    return fail("not enough memory");
+  } catch (const std::exception& error) {
+    return fail(error.what());
+  }
+}

@@ -1,0 +1,220 @@
+// zugrid render: grids into a picture.
+
+#include <csignal>
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <system_error>
+#include <tuple>
+
+#include "host/cli/commands.h"
+#include "host/cli/option_texts.h"
+#include "host/core/failure.h"
+#include "host/core/scene.h"
+#include "host/core/texts.h"
+#include "zu/platform/zuk_proj4_d2.h"
+
+namespace zu::cli {
+namespace {
+
+using host::failure;
+
+constexpr char footer[] = R"(Examples:
+  zugrid render dem.tif -o dem.png
+  zugrid render dem.tif -o dem.png --breaks 0,200,500,1000 --colors "#1a9850,#fee08b,#d73027"
+  zugrid render landuse.tif -o landuse.png --values "1=#ff0000,2=#00ff00" --other "#cccccc"
+  zugrid render scene.tif -o gray.tif --draw gray --field "Band 4" --limits 0,4000
+  zugrid render dem.tif -o world.png --crs EPSG:3857 --size 1920x1080
+
+A grid without styling options shows as the image that its bands make, or else in ten equal classes
+from blue through white to red. Exit codes: 0 done, 1 failed (a picture of what could be read is
+still written where only a part of a file is damaged), 2 bad usage.)";
+
+/// The options as they are written.
+struct texts {
+  std::vector<std::string> sources;
+  std::string output, size, extent, crs, draw, field, rgb, limits, breaks, colors, other, values,
+      simple, background;
+  bool interpolate = false;
+  int transparency = 0;
+};
+
+host::draw_type draw_of(const std::string& text) {
+  if (text == "scale") return host::draw_type::scale;
+  if (text == "image") return host::draw_type::image;
+  if (text == "gray") return host::draw_type::gray;
+  return host::draw_type::rgb;
+}
+
+/// What does not go together.
+void check(const host::layer_look& look) {
+  using host::draw_type;
+  if (look.simple && (!look.values.empty() || !look.breaks.empty() || !look.colors.empty()))
+    throw usage_error("--simple: one colour needs no --values, --breaks or --colors");
+  if (!look.values.empty() && (!look.breaks.empty() || !look.colors.empty()))
+    throw usage_error("--values: takes its colours itself, without --breaks and --colors");
+  std::size_t classes = look.breaks.empty() ? host::default_classes : look.breaks.size() - 1;
+  if (!look.colors.empty() && look.colors.size() != classes && look.colors.size() != classes + 2)
+    throw usage_error("--colors: " + std::to_string(classes) + " classes take " +
+                      std::to_string(classes + 2) + " colours, or " + std::to_string(classes) +
+                      " to hide the tails; these are " + std::to_string(look.colors.size()));
+  bool channels = look.draw == draw_type::gray || look.draw == draw_type::rgb ||
+                  (!look.draw && !look.rgb.empty());
+  if (look.limits && !channels) throw usage_error("--limits: goes with --draw gray or rgb");
+  if (!look.rgb.empty() && look.draw && look.draw != draw_type::rgb)
+    throw usage_error("--rgb: goes with --draw rgb");
+  bool scale = !look.breaks.empty() || !look.colors.empty() || !look.values.empty() ||
+               look.simple || look.other || look.interpolate;
+  if (scale && (channels || look.draw == draw_type::image))
+    throw usage_error("--draw: a scale's options go with --draw scale");
+}
+
+host::layer_look look_of(const texts& given) {
+  host::layer_look look;
+  if (!given.draw.empty()) look.draw = draw_of(given.draw);
+  look.field = given.field;
+  if (!given.rgb.empty()) {
+    look.rgb = parts_of("--rgb", given.rgb);
+    if (look.rgb.size() != 3) throw usage_error("--rgb: needs three names R,G,B");
+  }
+  if (!given.limits.empty()) look.limits = limits_of("--limits", given.limits);
+  if (!given.breaks.empty()) look.breaks = breaks_of("--breaks", given.breaks);
+  if (!given.colors.empty()) look.colors = colors_of("--colors", given.colors);
+  if (!given.other.empty()) look.other = color_of("--other", given.other);
+  if (!given.values.empty()) look.values = values_of("--values", given.values);
+  if (!given.simple.empty()) look.simple = color_of("--simple", given.simple);
+  look.interpolate = given.interpolate;
+  look.transparency = given.transparency;
+  check(look);
+  return look;
+}
+
+host::picture_request request_of(const texts& given) {
+  host::picture_request request;
+  if (!given.size.empty()) std::tie(request.nx, request.ny) = size_of("--size", given.size);
+  if (!given.extent.empty()) request.extent = box_of("--extent", given.extent);
+  if (!given.background.empty()) request.background = color_of("--background", given.background);
+  return request;
+}
+
+void check_projection(const std::string& text) {
+  bool known = false;
+  std::wstring why = host::text_of(
+      [&](Tzu_string_adp* reason) { known = zu_pj_check_w(host::wide(text).c_str(), reason); });
+  if (!known)
+    throw usage_error("--crs: \"" + text + "\" is no coordinate system" +
+                      (why.empty() ? "" : ": " + host::narrow(why)));
+}
+
+void check_output(const std::string& output, const std::vector<std::string>& sources) {
+  std::string ending = std::filesystem::path(output).extension().string();
+  for (char& c : ending)
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+  if (ending != ".png" && ending != ".tif" && ending != ".tiff")
+    throw usage_error("-o: \"" + output + "\" must end in .png or .tif");
+  std::error_code none;
+  for (const std::string& source : sources)
+    if (std::filesystem::equivalent(output, source, none) && !none)
+      throw failure(output, "is one of the sources");
+}
+
+/// Every source takes the look that it can; one alone must.
+void dress(host::scene& scene, const host::layer_look& look) {
+  host::layer_look plain;
+  plain.transparency = look.transparency;
+  std::string refusal;
+  std::size_t dressed = 0;
+  for (const auto& layer : scene.layers()) {
+    std::string reason = host::why_not(look, layer->data());
+    if (reason.empty()) ++dressed;
+    if (!reason.empty() && refusal.empty()) refusal = layer->data().name() + ": " + reason;
+    layer->take_look(reason.empty() ? look : plain);
+  }
+  if (dressed == 0) throw failure(refusal);
+}
+
+/// A signal that would end the program waits until a picture is written or its half is gone.
+class undisturbed {
+ public:
+  undisturbed() {
+    sigset_t signals;
+    sigemptyset(&signals);
+    for (int each : {SIGINT, SIGTERM, SIGHUP}) sigaddset(&signals, each);
+    pthread_sigmask(SIG_BLOCK, &signals, &before_);
+  }
+  ~undisturbed() { pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
+  undisturbed(const undisturbed&) = delete;
+  undisturbed& operator=(const undisturbed&) = delete;
+
+ private:
+  sigset_t before_;
+};
+
+void save(const host::drawn_picture& picture, const std::string& output,
+          const std::string& projection) {
+  undisturbed whole;
+  bool saved = false;
+  std::wstring reason = host::text_of([&](Tzu_string_adp* adapter) {
+    saved = zu_drwc_save_w(picture.page.get(), host::wide(output).c_str(), &picture.box,
+                           host::wide(projection).c_str(), adapter);
+  });
+  if (!saved) throw failure(output, host::narrow(reason));
+}
+
+int run(const texts& given) {
+  host::layer_look look = look_of(given);
+  host::picture_request request = request_of(given);
+  if (!given.crs.empty()) check_projection(given.crs);
+  check_output(given.output, given.sources);
+
+  host::bundle services;
+  host::scene scene(services);
+  for (const std::string& source : given.sources) scene.add(source);
+  if (!given.crs.empty()) scene.set_projection(given.crs);
+  dress(scene, look);
+  host::drawn_picture picture = host::draw(scene, request);
+  save(picture, given.output, scene.projection());
+  for (const std::string& line : picture.shortfalls)
+    std::fprintf(stderr, "zugrid: %s\n", line.c_str());
+  if (picture.empty)
+    std::fprintf(stderr, "zugrid: warning: %s: nothing of the data shows in this picture\n",
+                 given.output.c_str());
+  return picture.shortfalls.empty() ? exit_success : exit_failure;
+}
+
+}  // namespace
+
+command add_render(CLI::App& options) {
+  auto given = std::make_shared<texts>();
+  options.add_option("SOURCE", given->sources, "grids, the first is the lowest")->required();
+  options.add_option("-o,--output", given->output, "picture to write: .png or .tif")->required();
+  options.add_option("--size", given->size, "pixels of the picture, WxH (1024x768)");
+  options.add_option("--extent", given->extent,
+                     "visible box x0,y0,x1,y1 in scene coordinates (all layers); widened to the "
+                     "picture's shape");
+  options.add_option("--crs", given->crs,
+                     "projection of the scene: EPSG:n, PROJ text or WKT (the first layer's)");
+  options.add_option("--draw", given->draw, "scale, image, gray or rgb")
+      ->check(CLI::IsMember({"scale", "image", "gray", "rgb"}));
+  options.add_option("--field", given->field, "field coloured by a scale or by gray");
+  options.add_option("--rgb", given->rgb, "three field names R,G,B");
+  options.add_option("--limits", given->limits,
+                     "limits MIN,MAX of the gray or rgb channels (the field's own)");
+  options.add_option("--breaks", given->breaks, "boundaries B0,...,Bn: n classes and two tails");
+  options.add_option("--colors", given->colors,
+                     "n+2 colours, lower tail first, or n and the tails are hidden; #rrggbb or "
+                     "#rrggbbaa, aa an opacity");
+  options.add_option("--other", given->other,
+                     "colour of values that no class or value holds (invisible)");
+  options.add_option("--values", given->values, "value scale V=COLOR,...");
+  options.add_option("--simple", given->simple, "one colour for the whole grid");
+  options.add_flag("--interpolate", given->interpolate, "interpolate values between cells");
+  options.add_option("--transparency", given->transparency, "0 (opaque) to 100 percent")
+      ->check(CLI::Range(0, 100));
+  options.add_option("--background", given->background,
+                     "colour of the page (none: the picture keeps its transparency)");
+  options.footer(footer);
+  return [given] { return run(*given); };
+}
+
+}  // namespace zu::cli

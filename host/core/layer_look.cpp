@@ -1,0 +1,173 @@
+#include "host/core/layer_look.h"
+
+#include <algorithm>
+#include <memory>
+
+#include "host/core/failure.h"
+#include "host/core/texts.h"
+#include "zu/platform/zuk_io.h"
+
+namespace zu::host {
+namespace {
+
+/// Array 5 runs from blue through white to red.
+constexpr std::int32_t default_colors = 5;
+
+struct closed {
+  void operator()(Tzu_xnode* node) const { zu_xnode_close(node); }
+};
+using node_ptr = std::unique_ptr<Tzu_xnode, closed>;
+
+struct ended {
+  void operator()(Tzu_rgb_channels* channels) const { zu_rgb_channels_destroy(channels); }
+};
+using channels_ptr = std::unique_ptr<Tzu_rgb_channels, ended>;
+
+void paint(Tzu_scale_prm* row, Tzu_color color, bool visible) {
+  zu_scale_prm_set_visible(row, visible);
+  zu_stl_prm_clr_set_all(zu_scale_prm_get_stl_prm_ptr(row), color, 0);
+}
+
+void paint_other(Tzu_scale_prm* row, const layer_look& look) {
+  paint(row, look.other.value_or(Tzu_color{128, 128, 128, 0}), look.other.has_value());
+}
+
+std::size_t colored_field(const layer_look& look, const source& data) {
+  return look.field.empty() ? data.default_field() : data.find(look.field).value();
+}
+
+/// Boundaries of equal intervals between the limits of the field.
+std::vector<double> equal_intervals(const source& data, std::size_t field, std::size_t classes) {
+  std::optional<Tzu_field_stat> stat = data.limits(field);
+  double low = stat ? stat->minimum : 0.0, high = stat ? stat->maximum : 0.0;
+  double step = (high - low) / static_cast<double>(classes);
+  std::vector<double> breaks;
+  for (std::size_t i = 0; i <= classes; ++i) breaks.push_back(low + static_cast<double>(i) * step);
+  return breaks;
+}
+
+void set_range_scale(const layer_look& look, const source& data, std::size_t field,
+                     Tzu_rng_scale* scale) {
+  std::vector<double> breaks =
+      look.breaks.empty() ? equal_intervals(data, field, default_classes) : look.breaks;
+  std::size_t classes = breaks.size() - 1;
+  bool tails = look.colors.size() != classes;
+  std::vector<Tzu_color> colors = look.colors;
+  if (colors.empty()) {
+    colors.resize(classes + 2);
+    zu_clr_arrays_generate_ex(default_colors, colors.size(), colors.data(), 0);
+  } else if (!tails) {
+    colors.insert(colors.begin(), colors.front());
+    colors.push_back(colors.back());
+  }
+  zu_rng_scale_set_size(scale, classes);
+  zu_rng_scale_set_min_value(scale, breaks.front());
+  zu_rng_scale_set_max_value(scale, breaks.back());
+  paint(zu_rng_scale_get_min_prm_ptr(scale), colors.front(), tails);
+  paint(zu_rng_scale_get_max_prm_ptr(scale), colors.back(), tails);
+  for (std::size_t i = 0; i < classes; ++i) {
+    zu_rng_scale_set_min(scale, i, breaks[i]);
+    zu_rng_scale_set_max(scale, i, breaks[i + 1]);
+    paint(zu_rng_scale_get_scale_prm_ptr(scale, i), colors[i + 1], true);
+  }
+  paint_other(zu_rng_scale_get_other_prm_ptr(scale), look);
+}
+
+void set_value_scale(const layer_look& look, Tzu_val_scale* scale) {
+  zu_val_scale_set_size(scale, look.values.size());
+  for (std::size_t i = 0; i < look.values.size(); ++i) {
+    zu_val_scale_set_text_w(scale, i, wide(look.values[i].first).c_str());
+    paint(zu_val_scale_get_scale_prm_ptr(scale, i), look.values[i].second, true);
+  }
+  paint_other(zu_val_scale_get_other_prm_ptr(scale), look);
+}
+
+void set_style(const layer_look& look, const source& data, Tzu_stl_mngr* manager) {
+  if (look.simple) {
+    zu_stl_mngr_set_mode(manager, zu_style_simple);
+    zu_stl_prm_clr_set_all(zu_stl_mngr_get_simple_sp_ptr(manager), *look.simple, 0);
+    return;
+  }
+  std::size_t field = colored_field(look, data);
+  std::wstring name = wide(data.fields().at(field).name);
+  if (!look.values.empty()) {
+    zu_stl_mngr_set_mode(manager, zu_style_value);
+    zu_stl_mngr_set_val_prop_name_w(manager, name.c_str());
+    set_value_scale(look, zu_stl_mngr_get_val_scale_ptr(manager));
+  } else {
+    zu_stl_mngr_set_mode(manager, zu_style_range);
+    zu_stl_mngr_set_rng_prop_name_w(manager, name.c_str());
+    set_range_scale(look, data, field, zu_stl_mngr_get_rng_scale_ptr(manager));
+  }
+}
+
+void set_channel(Tzu_clr_channel* channel, const layer_look& look, const source& data,
+                 std::size_t field) {
+  zu_clr_channel_set_prop_name_w(channel, wide(data.fields().at(field).name).c_str());
+  if (look.limits) {
+    zu_clr_channel_set_limits(channel, look.limits->first, look.limits->second);
+  } else if (std::optional<Tzu_field_stat> stat = data.limits(field)) {
+    zu_clr_channel_set_limits(channel, stat->minimum, stat->maximum);
+  }
+}
+
+void set_channels(draw_type draw, const layer_look& look, const source& data,
+                  Tzu_rgb_channels* channels) {
+  if (draw == draw_type::gray)
+    set_channel(zu_rgb_channels_get_gray(channels), look, data, colored_field(look, data));
+  if (draw != draw_type::rgb) return;
+  Tzu_clr_channel* three[] = {zu_rgb_channels_get_red(channels),
+                              zu_rgb_channels_get_green(channels),
+                              zu_rgb_channels_get_blue(channels)};
+  for (std::size_t i = 0; i < 3; ++i)
+    set_channel(
+        three[i], look, data,
+        look.rgb.empty() ? std::min(i, data.fields().size() - 1) : data.find(look.rgb[i]).value());
+}
+
+}  // namespace
+
+std::string why_not(const layer_look& look, const source& data) {
+  if (data.fields().empty()) return "has no fields";
+  std::vector<std::string> wanted = look.rgb;
+  if (!look.field.empty()) wanted.push_back(look.field);
+  for (const std::string& name : wanted) {
+    if (data.find(name)) continue;
+    std::string known;
+    for (const field& f : data.fields()) known += (known.empty() ? "" : ", ") + f.name;
+    return "has no field \"" + name + "\"; its fields are: " + known;
+  }
+  return {};
+}
+
+void apply_look(const layer_look& look, const source& data, layer_2d layer,
+                layer_2d_externalization_service tree) {
+  if (std::string reason = why_not(look, data); !reason.empty()) throw failure(data.name(), reason);
+  node_ptr root(zu_xnode_create_root_w(L"layer"));
+  call<&layer_2d_externalization_service_impl::save>(tree, layer, root.get(),
+                                                     static_cast<void*>(nullptr));
+  node_ptr params(zu_xnode_set_node_w(root.get(), L"grid_params"));
+  auto own = static_cast<draw_type>(zu_xnode_get_attr_int_w(params.get(), L"draw_type", 0));
+  draw_type draw = own;
+  if (look.draw)
+    draw = *look.draw;
+  else if (!look.rgb.empty())
+    draw = draw_type::rgb;
+  else if (look.styles_a_scale())
+    draw = draw_type::scale;
+  if (draw == draw_type::image && own != draw_type::image)
+    throw failure(data.name(), "its bands make no image");
+
+  if (draw == draw_type::scale)
+    set_style(look, data, call<&layer_2d_impl::get_style_manager>(layer));
+  channels_ptr channels(zu_rgb_channels_create());
+  set_channels(draw, look, data, channels.get());
+  zu_xml_save_style_save_rgb_channels(nullptr, root.get(), L"channels", channels.get());
+  zu_xnode_set_attr_int_w(params.get(), L"draw_type", static_cast<std::int64_t>(draw));
+  zu_xnode_set_attr_int_w(params.get(), L"opacity", look.transparency);
+  zu_xnode_set_attr_bool_w(params.get(), L"interpolate", look.interpolate);
+  call<&layer_2d_externalization_service_impl::load>(tree, layer, root.get(),
+                                                     static_cast<void*>(nullptr));
+}
+
+}  // namespace zu::host

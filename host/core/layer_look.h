@@ -1,0 +1,48 @@
+#pragma once
+// What a person asks of a layer's look, and how a layer takes it.
+
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "host/core/source.h"
+#include "zu/layer2d.h"
+#include "zu/platform/zuk_styles.h"
+
+namespace zu::host {
+
+/// Numbers of the layer's draw types.
+enum class draw_type { scale = 0, image = 1, gray = 2, rgb = 3 };
+
+struct layer_look {
+  std::optional<draw_type> draw;                    ///< none: the source's own
+  std::string field;                                ///< empty: the default one
+  std::vector<std::string> rgb;                     ///< three names, or none
+  std::optional<std::pair<double, double>> limits;  ///< of gray or rgb; none: the field's
+  std::vector<double> breaks;                       ///< n + 1 rising ones; none: from the data
+  std::vector<Tzu_color> colors;                    ///< n + 2, n with hidden tails, or none
+  std::vector<std::pair<std::string, Tzu_color>> values;  ///< a value scale
+  std::optional<Tzu_color> simple;
+  std::optional<Tzu_color> other;  ///< of what no class or value holds; none: invisible
+  bool interpolate = false;
+  int transparency = 0;  ///< percent
+
+  bool styles_a_scale() const {
+    return !field.empty() || !breaks.empty() || !colors.empty() || !values.empty() || simple ||
+           other || interpolate;
+  }
+};
+
+/// Number of classes of a default scale.
+inline constexpr std::size_t default_classes = 10;
+
+/// Why a source cannot take a look: an unknown field. Empty if it can.
+std::string why_not(const layer_look& look, const source& data);
+
+/// Gives a bound layer, whose source is set, the look. `tree` is the externalization service of its
+/// type. Throws `failure`.
+void apply_look(const layer_look& look, const source& data, layer_2d layer,
+                layer_2d_externalization_service tree);
+
+}  // namespace zu::host

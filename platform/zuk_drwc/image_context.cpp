@@ -32,11 +32,11 @@ inline std::uint32_t over(std::uint32_t below, std::uint32_t dib_word, std::uint
   return a << 24 | mixed(r, 16) << 16 | mixed(g, 8) << 8 | mixed(b, 0);
 }
 
-/// Nearest whole number; what is one but for rounding is taken as it.
+/// Nearest whole number, half up. What misses a half by the rounding of millimetres alone counts as
+/// one: both sides of a box that lies on halves must go the same way, or it would grow by a pixel.
 std::int64_t rounded(double pixels) {
-  double near = std::round(pixels);
-  return static_cast<std::int64_t>(std::abs(pixels - near) < 1e-6 ? near
-                                                                  : std::floor(pixels + 0.5));
+  constexpr double tie = 1e-6;
+  return static_cast<std::int64_t>(std::floor(pixels + 0.5 + tie));
 }
 
 /// The source index of each of `count` pixels: its own if the sizes agree, else the nearest.

@@ -17,7 +17,8 @@ inline std::uint32_t over_255(std::uint32_t x) {
 
 /// One DIB pixel over one pixel of the picture (premultiplied, alpha in the high byte, blue in the
 /// low one).
-inline std::uint32_t over(std::uint32_t below, std::uint32_t dib_word, std::uint32_t alpha) {
+[[gnu::always_inline]] inline std::uint32_t over(std::uint32_t below, std::uint32_t dib_word,
+                                                 std::uint32_t alpha) {
   std::uint32_t opacity = 255 - (dib_word >> 24);
   if (alpha != 255) opacity = over_255(opacity * alpha);
   std::uint32_t r = dib_word & 255, g = dib_word >> 8 & 255, b = dib_word >> 16 & 255;

@@ -112,6 +112,7 @@ std::vector<std::pair<std::string, Tzu_color>> values_of(const std::string& opti
     std::size_t equals = part.rfind('=');
     if (equals == std::string::npos || equals == 0)
       refuse(option, quoted(part) + " is no VALUE=COLOR");
+    number_of(option, part.substr(0, equals));
     values.emplace_back(part.substr(0, equals), color_of(option, part.substr(equals + 1)));
   }
   return values;

@@ -17,7 +17,8 @@ inline std::uint32_t over_255(std::uint32_t x) {
 
 /// One DIB pixel over one pixel of the picture (premultiplied, alpha in the high byte, blue in the
 /// low one).
-inline std::uint32_t over(std::uint32_t below, std::uint32_t dib_word, std::uint32_t alpha) {
+[[gnu::always_inline]] inline std::uint32_t over(std::uint32_t below, std::uint32_t dib_word,
+                                                 std::uint32_t alpha) {
   std::uint32_t opacity = 255 - (dib_word >> 24);
   if (alpha != 255) opacity = over_255(opacity * alpha);
   std::uint32_t r = dib_word & 255, g = dib_word >> 8 & 255, b = dib_word >> 16 & 255;
@@ -32,11 +33,11 @@ inline std::uint32_t over(std::uint32_t below, std::uint32_t dib_word, std::uint
   return a << 24 | mixed(r, 16) << 16 | mixed(g, 8) << 8 | mixed(b, 0);
 }
 
-/// Nearest whole number; what is one but for rounding is taken as it.
+/// Nearest whole number, half up. What misses a half by the rounding of millimetres alone counts as
+/// one: both sides of a box that lies on halves must go the same way, or it would grow by a pixel.
 std::int64_t rounded(double pixels) {
-  double near = std::round(pixels);
-  return static_cast<std::int64_t>(std::abs(pixels - near) < 1e-6 ? near
-                                                                  : std::floor(pixels + 0.5));
+  constexpr double tie = 1e-6;
+  return static_cast<std::int64_t>(std::floor(pixels + 0.5 + tie));
 }
 
 /// The source index of each of `count` pixels: its own if the sizes agree, else the nearest.

@@ -10,6 +10,7 @@ import random
 import numpy
 from osgeo import gdal, osr
 
+from geometry import Grid
 from reference import Look
 
 TYPES = {
@@ -287,7 +288,8 @@ def image(maker, title, roles, type_name="Byte", nodata=None, automatic=False, *
     look = Look(draw="image", interpolate=rng.random() < 0.2, transparency=rng.choice([0, 0, 40]))
     size = picture_size(nx, ny, rng.choice([0.4, 1, 2.7]))
     name = f"{title}: {roles} {type_name} {nx}x{ny}"
-    return Case(name, [(path, look)], size, automatic=automatic)
+    # A file whose format does not keep a role asked for is no image of its own accord.
+    return Case(name, [(path, look)], size, automatic=automatic and Grid(path).is_image())
 
 
 def channels(maker, title):

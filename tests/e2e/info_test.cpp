@@ -83,7 +83,7 @@ TEST_F(info, says_where_the_georeference_comes_from) {
   EXPECT_EQ(data["box"], json({10, 18, 12, 20}));
 }
 
-TEST_F(info, a_container_lists_its_parts_and_cannot_be_drawn_whole) {
+TEST_F(info, a_container_of_several_grids_names_its_parts_which_open_by_these_names) {
   GDALAllRegister();
   CPLStringList options;
   for (const char* table : {"one", "two"}) {
@@ -97,13 +97,15 @@ TEST_F(info, a_container_lists_its_parts_and_cannot_be_drawn_whole) {
     set->SetGeoTransform(transform.data());
     set->GetRasterBand(1)->Fill(7);
   }
-  json parts = told(path("c.gpkg"))["parts"];
-  ASSERT_EQ(parts.size(), 2u);
-  EXPECT_NE(parts[0]["name"].get<std::string>().find("one"), std::string::npos);
-  outcome whole = render(path("c.gpkg"));
-  EXPECT_EQ(whole.exit, 1);
-  EXPECT_NE(whole.err.find("one"), std::string::npos) << whole.err;
-  EXPECT_EQ(render(parts[0]["name"], {"--size", "4x4"}).exit, 0);
+  std::string one = "GPKG:" + path("c.gpkg") + ":one", two = "GPKG:" + path("c.gpkg") + ":two";
+  for (const outcome& whole : {run({"info", path("c.gpkg")}), render(path("c.gpkg"))}) {
+    EXPECT_EQ(whole.exit, 1);
+    EXPECT_NE(whole.err.find(one + ", " + two), std::string::npos) << whole.err;
+  }
+  for (const std::string& part : {one, two}) {
+    EXPECT_EQ(run({"info", part}).exit, 0);
+    EXPECT_EQ(render(part, {"--size", "4x4"}).exit, 0);
+  }
 }
 
 TEST_F(info, is_readable_without_json) {

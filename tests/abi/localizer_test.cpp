@@ -58,7 +58,6 @@ const address localizing_host::context_table[] = {reinterpret_cast<address>(&no_
 const address localizing_host::registry_table[] = {reinterpret_cast<address>(&no_names),
                                                    reinterpret_cast<address>(&find)};
 const address localizing_host::service_table[] = {reinterpret_cast<address>(&no_names),
-                                                  reinterpret_cast<address>(&no_names),
                                                   reinterpret_cast<address>(&get_localizer)};
 const address localizing_host::localizer_table[] = {
     reinterpret_cast<address>(&no_names), reinterpret_cast<address>(&localizer_referent),

@@ -16,11 +16,11 @@ namespace fs = std::filesystem;
 /// The rules held against the sources that the tests are built from.
 class this_tree : public testing::Test {
  protected:
-  static fs::path folder(const char* variable) {
+  static fs::path folder(const char* variable, const char* otherwise) {
     const char* value = std::getenv(variable);
-    return fs::canonical(value != nullptr ? value : ".");
+    return fs::canonical(value != nullptr ? value : otherwise);
   }
-  tree t_{folder("ZU_SOURCE_DIR")};
+  tree t_{folder("ZU_SOURCE_DIR", ".")};
 };
 
 TEST_F(this_tree, is_really_read) {
@@ -33,7 +33,7 @@ TEST_F(this_tree, includes_by_paths_from_its_root) {
   EXPECT_EQ(includes_with_dots(t_), findings());
 }
 TEST_F(this_tree, has_no_unused_files) {
-  t_.read_compiled(folder("ZU_BUILD_DIR") / "compile_commands.json");
+  t_.read_compiled(folder("ZU_BUILD_DIR", "build") / "compile_commands.json");
   EXPECT_EQ(t_.compiled.count("src/bundle/entry.cpp"), 1u);
   EXPECT_EQ(unused_files(t_), findings());
 }

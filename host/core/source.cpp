@@ -2,6 +2,7 @@
 
 #include "host/core/failure.h"
 #include "host/core/texts.h"
+#include "zu/platform/zuk_os.h"
 
 namespace zu::host {
 namespace {
@@ -37,6 +38,9 @@ source::~source() { call<&data_source_impl::release>(opened_); }
 std::optional<std::size_t> source::find(const std::string& name) const {
   for (std::size_t i = 0; i < fields_.size(); ++i)
     if (fields_[i].name == name) return i;
+  for (std::size_t i = 0; i < fields_.size(); ++i)
+    if (zu_os_compare_ignoring_case(wide(fields_[i].name).c_str(), wide(name).c_str()) == 0)
+      return i;
   return {};
 }
 

@@ -103,9 +103,6 @@ class Grid:
         folded = [n.lower() for n in names]
         return folded.index(name.lower()) if name.lower() in folded else -1
 
-    def is_image(self):
-        return all(self.roles) and all(b.DataType == gdal.GDT_Byte for b in self.bands)
-
     def read(self, index, window):
         """Samples of one window in the band's own type, lowest row first.
 
@@ -130,8 +127,7 @@ class Grid:
         return samples.real.astype(float), self.valid(index, samples.real.astype(float))
 
     def bytes(self, index, window):
-        """As bytes by a plain cast: integers keep their low eight bits."""
-        samples = self.read(index, window).astype(numpy.int64).astype(numpy.uint8)
+        samples = self.read(index, window)
         return samples, self.valid(index, samples.astype(float))
 
     def valid(self, index, samples):
@@ -146,9 +142,9 @@ class Grid:
         return finite & (abs(known - nodata) > tolerance)
 
     def range(self, index):
-        """Minimum and maximum of the valid cells, 0 and 0 if there are none."""
+        """Minimum and maximum of the valid finite cells, 0 and 0 if there are none."""
         samples, valid = self.doubles(index, Window(0, 0, self.nx, self.ny, self.nx, self.ny))
-        known = samples[valid]
+        known = samples[valid & numpy.isfinite(samples)]
         return (float(known.min()), float(known.max())) if known.size else (0.0, 0.0)
 
 

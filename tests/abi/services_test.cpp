@@ -1,5 +1,7 @@
 // Services: one object as long as anybody holds it, made for whoever answers to the right name.
 
+#include <ostream>
+
 #include "tests/abi/bundle_module.h"
 
 namespace plain {
@@ -11,6 +13,7 @@ struct service {
   const char* of_other_version;
   const char* name;
 };
+void PrintTo(const service& s, std::ostream* out) { *out << "row " << s.row; }
 
 // One of each kind, and every dialog.
 std::vector<service> all_services() {

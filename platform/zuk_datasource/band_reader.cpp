@@ -135,8 +135,8 @@ std::int64_t band_reader::file_row(std::int64_t row) const {
   return rows_run_south_ ? static_cast<std::int64_t>(rows_) - 1 - row : row;
 }
 
-void band_reader::keep(const std::string& reason) {
-  zu_problems_add(name_.c_str(), zu_problem_read, from_utf8(reason).c_str());
+void band_reader::keep(const std::string& reason, std::int32_t kind) {
+  zu_problems_add(name_.c_str(), kind, from_utf8(reason).c_str());
 }
 
 std::int32_t band_reader::read(const grid_window& w, void* out, std::int32_t type,
@@ -204,7 +204,7 @@ bool band_reader::read_sampled(const grid_window& w, void* out) {
 std::int32_t band_reader::salvage(const grid_window& w, const target& to,
                                   const std::string& reason) {
   std::string cut = truncation_of(band_, dataset_->path());
-  if (!cut.empty()) return keep(cut), read_failed;
+  if (!cut.empty()) return keep(cut, zu_problem_read), read_failed;
   double fill = 0;
   if (!nodata_of(band_, fill))
     fill = to.type == element_float32 || to.type == element_float64
@@ -245,7 +245,7 @@ std::int32_t band_reader::salvage(const grid_window& w, const target& to,
         }
       }
     }
-  keep("a tile cannot be read: " + reason);
+  keep("a tile cannot be read: " + reason, any ? zu_problem_part : zu_problem_read);
   return any ? read_done : read_failed;
 }
 

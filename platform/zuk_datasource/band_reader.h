@@ -59,7 +59,7 @@ class band_reader {
   bool read_native(const grid_window& window, void* out, std::uint64_t row_stride);
   bool read_sampled(const grid_window& window, void* out);
   std::int32_t salvage(const grid_window& window, const target& to, const std::string& reason);
-  void keep(const std::string& reason);
+  void keep(const std::string& reason, std::int32_t kind);
 
   dataset_ptr dataset_;
   GDALRasterBand& band_;

@@ -194,8 +194,10 @@ bool exact_statistics(open_dataset& dataset, int band, const std::wstring& name,
   if (!all_read) {
     std::string cut = truncation_of(own_band, dataset.path());
     std::string reason = "a tile cannot be read: " + said.reason(dataset.path(), helper_said);
-    zu_problems_add(name.c_str(), zu_problem_read, from_utf8(cut.empty() ? reason : cut).c_str());
-    if (!cut.empty() || !any) return false;
+    bool lost = !cut.empty() || !any;
+    zu_problems_add(name.c_str(), lost ? zu_problem_read : zu_problem_part,
+                    from_utf8(cut.empty() ? reason : cut).c_str());
+    if (lost) return false;
   }
   partial_statistics all;
   for (const partial_statistics& part : parts) all.add(part);

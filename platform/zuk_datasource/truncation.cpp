@@ -20,6 +20,7 @@ std::string cut_block(GDALRasterBand& band, std::uint64_t size) {
   for (int y = 0; y * std::int64_t(block_y) < band.GetYSize(); ++y)
     for (int x = 0; x * std::int64_t(block_x) < band.GetXSize(); ++x) {
       std::uint64_t offset = block_offset(band, x, y);
+      // A block that begins inside and ends outside may be the only bad one: the rest is read.
       if (offset >= size)
         return "the file is truncated: a block at byte " + std::to_string(offset) +
                " lies beyond its end at " + std::to_string(size);

@@ -42,15 +42,14 @@ std::int64_t pixels_before(double distance) {
 }
 
 void mesh::next_run() {
-  double cell_x = (source_x - x0) / step_x, cell_y = (source_y - y0) / step_y;
-  auto i = static_cast<std::int64_t>(std::floor(cell_x));
-  auto j = static_cast<std::int64_t>(std::floor(cell_y));
-  if (j < 0 || j >= rows - 1 || i >= columns - 1)
+  double i = std::floor((source_x - x0) / step_x), j = std::floor((source_y - y0) / step_y);
+  bool in_a_row = j >= 0.0 && j < static_cast<double>(rows - 1);
+  if (!in_a_row || !(i < static_cast<double>(columns - 1)))  // also where the start is no number
     start(endless, false);
-  else if (i < 0)
+  else if (i < 0.0)
     start(pixels_before(x0 - source_x), false);
   else
-    run_in_cell(i, j);
+    run_in_cell(static_cast<std::int64_t>(i), static_cast<std::int64_t>(j));
 }
 
 void mesh::run_in_cell(std::int64_t i, std::int64_t j) {

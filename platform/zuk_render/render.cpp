@@ -28,8 +28,12 @@ void zu_render_destroy(Izu_render* render) { delete render; }
 Tzu_drwc* zu_render_get_drwc(const Izu_render* render) {
   return render != nullptr ? render->drwc : nullptr;
 }
-const Tzu_box_d2* zu_render_get_map_box_cr(const Izu_render* render) { return &render->map_box; }
-const Tzu_matrix3x3* zu_render_get_matrix_cr2mm(const Izu_render* render) { return &render->cr2mm; }
+const Tzu_box_d2* zu_render_get_map_box_cr(const Izu_render* render) {
+  return render != nullptr ? &render->map_box : nullptr;
+}
+const Tzu_matrix3x3* zu_render_get_matrix_cr2mm(const Izu_render* render) {
+  return render != nullptr ? &render->cr2mm : nullptr;
+}
 void zu_render_get_pj4wstr(const Izu_render* render, Tzu_string_adp* adapter) {
   guarded(render, [&](const Izu_render& r) { zu_string_adp_feed(adapter, r.projection.c_str()); });
 }

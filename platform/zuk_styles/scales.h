@@ -27,6 +27,7 @@ struct range_scale : Tzu_rng_scale {
   void resize(std::size_t size);
   void begin_find();
   void end_find();
+  void forget();  ///< ends all look-ups; called before a change
 
   std::vector<range_class> classes;
   double minimum = 0.0, maximum = 0.0;  // of the tails
@@ -49,6 +50,7 @@ struct value_scale : Tzu_val_scale {
   void resize(std::size_t size);
   void begin_find();
   void end_find();
+  void forget();  ///< ends all look-ups; called before a change
 
   std::vector<value_class> classes;
   Tzu_scale_prm other;

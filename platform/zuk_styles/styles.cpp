@@ -55,10 +55,16 @@ double zu_rng_scale_get_max(const Tzu_rng_scale* scale, uint64_t index) {
   return index < zu_rng_scale_get_size(scale) ? whole(*scale).classes[index].maximum : NAN;
 }
 void zu_rng_scale_set_min(Tzu_rng_scale* scale, uint64_t index, double value) {
-  if (range_class* c = class_at(scale, index)) c->minimum = value;
+  range_class* c = class_at(scale, index);
+  if (c == nullptr) return;
+  whole(*scale).forget();
+  c->minimum = value;
 }
 void zu_rng_scale_set_max(Tzu_rng_scale* scale, uint64_t index, double value) {
-  if (range_class* c = class_at(scale, index)) c->maximum = value;
+  range_class* c = class_at(scale, index);
+  if (c == nullptr) return;
+  whole(*scale).forget();
+  c->maximum = value;
 }
 double zu_rng_scale_get_min_value(const Tzu_rng_scale* scale) {
   return scale != nullptr ? whole(*scale).minimum : NAN;
@@ -67,10 +73,14 @@ double zu_rng_scale_get_max_value(const Tzu_rng_scale* scale) {
   return scale != nullptr ? whole(*scale).maximum : NAN;
 }
 void zu_rng_scale_set_min_value(Tzu_rng_scale* scale, double value) {
-  if (scale != nullptr) whole(*scale).minimum = value;
+  if (scale == nullptr) return;
+  whole(*scale).forget();
+  whole(*scale).minimum = value;
 }
 void zu_rng_scale_set_max_value(Tzu_rng_scale* scale, double value) {
-  if (scale != nullptr) whole(*scale).maximum = value;
+  if (scale == nullptr) return;
+  whole(*scale).forget();
+  whole(*scale).maximum = value;
 }
 Tzu_scale_prm* zu_rng_scale_get_scale_prm_ptr(Tzu_rng_scale* scale, uint64_t index) {
   range_class* c = class_at(scale, index);
@@ -109,7 +119,10 @@ void zu_val_scale_get_text_w(const Tzu_val_scale* scale, uint64_t index, Tzu_str
     zu_string_adp_feed(adapter, whole(*scale).classes[index].text.c_str());
 }
 void zu_val_scale_set_text_w(Tzu_val_scale* scale, uint64_t index, const wchar_t* text) {
-  guarded(class_at(scale, index), [&](value_class& c) { c.text = text != nullptr ? text : L""; });
+  guarded(class_at(scale, index), [&](value_class& c) {
+    whole(*scale).forget();
+    c.text = text != nullptr ? text : L"";
+  });
 }
 Tzu_scale_prm* zu_val_scale_get_scale_prm_ptr(Tzu_val_scale* scale, uint64_t index) {
   value_class* c = class_at(scale, index);

@@ -17,7 +17,7 @@ ZU_API void zu_dib_set_nxy(Tzu_dib* dib, uint64_t nx, uint64_t ny);
 ZU_API uint32_t* zu_dib_get_arr(Tzu_dib* dib);
 ZU_API uint64_t zu_dib_get_nx(const Tzu_dib* dib);
 ZU_API uint64_t zu_dib_get_ny(const Tzu_dib* dib);
-/// Bitmaps that now have pixels, and the bytes of them, in this process; the highest since reset.
+/// Bitmaps of this process that have pixels now, and how often pixels were taken: for tests.
 ZU_API uint64_t zu_dib_get_live_count(void);
 ZU_API uint64_t zu_dib_get_made_count(void);
 

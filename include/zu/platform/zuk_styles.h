@@ -46,14 +46,17 @@ ZU_API Tzu_color* zu_stl_prm_get_clr_style_ptr(Tzu_stl_prm* prm, int32_t index);
 
 // --- Prepared look-ups
 
-/// What both scales prepare between begin and end: sorted keys cut into equal buckets.
+/// What both scales prepare between begin and end: the upper ends of the intervals of equal answer,
+/// cut into equal buckets, either of the numbers or, where the ends are spread over magnitudes, of
+/// the numbers' bits.
 typedef struct Tzu_scale_lookup {
   double low, per_unit;        ///< bucket of v: (v - low) * per_unit, cut to the buckets
   double last_bucket;          ///< number of buckets minus 1
-  const uint32_t* first_key;   ///< of each bucket: the first key that can be the answer
+  const uint32_t* first_key;   ///< of each bucket: the first key in it or above; and one more
   const double* keys;          ///< rising; closed by +infinity
   Tzu_scale_prm* const* rows;  ///< of each key
   Tzu_scale_prm* other;        ///< for NaN and for what no row holds
+  bool by_bits;                ///< v in the first line is `zu_scale_lookup_bits` of the value
 } Tzu_scale_lookup;
 
 // --- Range scale
@@ -80,7 +83,7 @@ ZU_API Tzu_scale_prm* zu_rng_scale_get_scale_prm_ptr(Tzu_rng_scale* scale, uint6
 ZU_API Tzu_scale_prm* zu_rng_scale_get_min_prm_ptr(Tzu_rng_scale* scale);
 ZU_API Tzu_scale_prm* zu_rng_scale_get_max_prm_ptr(Tzu_rng_scale* scale);
 ZU_API Tzu_scale_prm* zu_rng_scale_get_other_prm_ptr(Tzu_rng_scale* scale);
-/// Between these two the scale must not change and values can be looked up. Calls nest.
+/// Values can be looked up between these two. Calls nest. A change of the scale ends all look-ups.
 ZU_API void zu_rng_scale_beg_find(Tzu_rng_scale* scale);
 ZU_API void zu_rng_scale_end_find(Tzu_rng_scale* scale);
 
@@ -104,32 +107,37 @@ ZU_API void zu_val_scale_beg_find(Tzu_val_scale* scale);
 ZU_API void zu_val_scale_end_find(Tzu_val_scale* scale);
 
 #ifdef __cplusplus
-/// Row of a value in a range scale, between begin and end.
-ZU_HOT Tzu_scale_prm* zu_rng_scale_find_scale_prm_ptr(Tzu_rng_scale* scale, double value) {
-  const Tzu_scale_lookup& l = scale->lookup;
-  double bucket = (value - l.low) * l.per_unit;
-  if (!(bucket > 0.0)) {
-    if (value != value) return l.other;
-    bucket = 0.0;
-  }
-  if (bucket > l.last_bucket) bucket = l.last_bucket;
-  const double* key = l.keys + l.first_key[static_cast<uint32_t>(bucket)];
-  while (value > *key) ++key;  // the first key that is not below the value
-  return l.rows[key - l.keys];
+/// The bits of a number as a number that rises with it: equal steps are about equal ratios.
+static inline double zu_scale_lookup_bits(double value) {
+  int64_t bits;
+  __builtin_memcpy(&bits, &value, sizeof bits);
+  return static_cast<double>(bits ^ ((bits >> 63) & INT64_MAX));
 }
-/// Row of a number in a value scale, between begin and end. The keys are the upper ends of the
-/// intervals of equal answer.
-ZU_HOT Tzu_scale_prm* zu_val_scale_find_scale_prm_ptr_d(Tzu_val_scale* scale, double value) {
-  const Tzu_scale_lookup& l = scale->lookup;
-  double bucket = (value - l.low) * l.per_unit;
-  if (!(bucket > 0.0)) {
-    if (value != value) return l.other;
-    bucket = 0.0;
+/// The row of the first key that is not below the value. Halving inside a bucket keeps the look-up
+/// short where the keys crowd in a few buckets.
+__attribute__((always_inline)) static inline Tzu_scale_prm* zu_scale_lookup_find(
+    const Tzu_scale_lookup& lookup, double value) {
+  double place = lookup.by_bits ? zu_scale_lookup_bits(value) : value;
+  double bucket = (place - lookup.low) * lookup.per_unit;
+  if (value != value) return lookup.other;
+  bucket = bucket > 0.0 ? bucket : 0.0;
+  bucket = bucket < lookup.last_bucket ? bucket : lookup.last_bucket;
+  const uint32_t* span = lookup.first_key + static_cast<uint32_t>(bucket);
+  const double* key = lookup.keys + span[0];
+  for (uint32_t count = span[1] - span[0]; count > 0;) {
+    uint32_t half = (count + 1) / 2;
+    key += half & -static_cast<uint32_t>(value > key[half - 1]);  // without a jump
+    count -= half;
   }
-  if (bucket > l.last_bucket) bucket = l.last_bucket;
-  const double* key = l.keys + l.first_key[static_cast<uint32_t>(bucket)];
-  while (value > *key) ++key;
-  return l.rows[key - l.keys];
+  return lookup.rows[key - lookup.keys];
+}
+/// Row of a value in a range scale, between begin and end; outside of them "other".
+ZU_HOT Tzu_scale_prm* zu_rng_scale_find_scale_prm_ptr(Tzu_rng_scale* scale, double value) {
+  return zu_scale_lookup_find(scale->lookup, value);
+}
+/// Row of a number in a value scale, between begin and end; outside of them "other".
+ZU_HOT Tzu_scale_prm* zu_val_scale_find_scale_prm_ptr_d(Tzu_val_scale* scale, double value) {
+  return zu_scale_lookup_find(scale->lookup, value);
 }
 #else
 ZU_API Tzu_scale_prm* zu_rng_scale_find_scale_prm_ptr(Tzu_rng_scale* scale, double value);

@@ -198,12 +198,12 @@ TEST(source_changed, image_does_not_survive_on_a_source_that_is_none) {
   struct {
     const char* name;
     GDALDataType type;
-    GDALColorInterp role;
-  } const cases[] = {{"float.tif", GDT_Float32, GCI_GrayIndex},
-                     {"no_role.tif", GDT_Byte, GCI_Undefined}};
+    std::vector<GDALColorInterp> roles;
+  } const cases[] = {{"float.tif", GDT_Float32, {GCI_GrayIndex}},
+                     {"no_role.tif", GDT_Byte, {GCI_GrayIndex, GCI_Undefined}}};
   for (const auto& c : cases) {
-    made_grid file(c.name, 4, 3, c.type, 1);
-    file.roles({c.role});
+    made_grid file(c.name, 4, 3, c.type, static_cast<int>(c.roles.size()));
+    file.roles(c.roles);
     bound_layer b(file.close());
     for (std::uint32_t set : {0u, 1u, 2u, 3u}) {
       b.layer->set_draw_type(set);

@@ -159,7 +159,7 @@ void save(const host::drawn_picture& picture, const std::string& output,
   undisturbed whole;
   bool saved = false;
   std::wstring reason = host::text_of([&](Tzu_string_adp* adapter) {
-    saved = zu_drwc_save_w(picture.page.get(), host::wide(output).c_str(), &picture.box,
+    saved = zu_drwc_save_w(picture.page.get(), host::wide_name(output).c_str(), &picture.box,
                            host::wide(projection).c_str(), adapter);
   });
   if (!saved) throw failure(output, host::narrow(reason));

@@ -14,12 +14,12 @@ constexpr std::uint64_t sampled_cells = 1000000;
 }  // namespace
 
 source::source(const std::string& name) : name_(name) {
-  std::wstring wide_name = wide(name);
-  zu_problems_clear(wide_name.c_str());
-  zu_datasource_open(wide_name.c_str(), 1, nullptr, &opened_);
+  std::wstring path = wide_name(name);
+  zu_problems_clear(path.c_str());
+  zu_datasource_open(path.c_str(), 1, nullptr, &opened_);
   grid_ = cast<grid_source_impl>(opened_);
   if (!opened_ || !grid_) {
-    std::vector<std::string> why = reasons(wide_name, zu_problem_open);
+    std::vector<std::string> why = reasons(path, zu_problem_open);
     call<&data_source_impl::release>(opened_);
     throw failure(name, why.empty() ? "cannot be opened" : why.back());
   }

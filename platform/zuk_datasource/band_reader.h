@@ -71,8 +71,8 @@ class band_reader {
   std::uint64_t columns_, rows_;
 };
 
-/// The reason if a block of a GeoTIFF band, or of its inner overviews, lies beyond the end of its
-/// file; empty otherwise.
+/// The reason if a block of a GeoTIFF band, or of its inner overviews, begins beyond the end of its
+/// file; empty otherwise. A block that only ends there is a broken tile.
 std::string truncation_of(GDALRasterBand& band, const std::string& path);
 
 }  // namespace zu::platform

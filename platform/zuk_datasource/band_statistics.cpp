@@ -171,14 +171,16 @@ bool exact_statistics(open_dataset& dataset, int band, const std::wstring& name,
     if (!scan.complete()) all_read = false;
     if (scan.any()) any = true;
   };
+  std::string helper_said;
   std::jthread second;
   dataset_ptr helper = own.rows() > 1 ? helper_of(dataset) : nullptr;
   if (helper != nullptr)
     second = std::jthread([&] {
-      gdal_messages quiet;
+      gdal_messages heard;
       try {
         block_row_scan scan(*helper->gdal().GetRasterBand(band));
         work(scan, [] {});
+        helper_said = heard.reason(dataset.path(), "");
       } catch (...) {
         stopped = true;
       }
@@ -191,7 +193,7 @@ bool exact_statistics(open_dataset& dataset, int band, const std::wstring& name,
   if (stopped) return false;
   if (!all_read) {
     std::string cut = truncation_of(own_band, dataset.path());
-    std::string reason = "a tile cannot be read: " + said.reason(dataset.path(), "unknown reason");
+    std::string reason = "a tile cannot be read: " + said.reason(dataset.path(), helper_said);
     bool lost = !cut.empty() || !any;
     zu_problems_add(name.c_str(), lost ? zu_problem_read : zu_problem_part,
                     from_utf8(cut.empty() ? reason : cut).c_str());

@@ -25,10 +25,7 @@ void tell(string_visitor visitor, const std::string& text) {
 }  // namespace
 
 gdal_source::gdal_source(dataset_ptr dataset, std::wstring name)
-    : dataset_(std::move(dataset)), name_(std::move(name)) {
-  gdal_messages quiet;
-  place_ = georeference_of(dataset_->gdal());
-}
+    : dataset_(std::move(dataset)), name_(std::move(name)) {}
 
 GDALRasterBand* gdal_source::band(std::int64_t field) {
   if (field < 0 || field >= dataset_->gdal().GetRasterCount()) return nullptr;
@@ -36,13 +33,13 @@ GDALRasterBand* gdal_source::band(std::int64_t field) {
 }
 
 band_reader gdal_source::reader_of(std::int64_t field) {
-  return {dataset_, static_cast<int>(field) + 1, place_.rows_run_south, name_};
+  return {dataset_, static_cast<int>(field) + 1, place().rows_run_south, name_};
 }
 
 // --- Fields
 
 bool gdal_source::extent(double* box, bool) {
-  std::copy(place_.box.begin(), place_.box.end(), box);
+  std::copy(place().box.begin(), place().box.end(), box);
   return true;
 }
 
@@ -66,7 +63,7 @@ bool gdal_source::find_field(const wchar_t* name, std::int64_t* index) {
 }
 
 void gdal_source::get_projection(string_visitor visitor) {
-  if (!place_.wkt.empty()) tell(visitor, place_.wkt);
+  if (!place().wkt.empty()) tell(visitor, place().wkt);
 }
 
 bool gdal_source::set_projection(const wchar_t* text) {
@@ -78,7 +75,7 @@ bool gdal_source::set_projection(const wchar_t* text) {
               dataset_->gdal().SetSpatialRef(&system) == CE_None;
   if (done) {
     dataset_->gdal().FlushCache(false);
-    place_ = georeference_of(dataset_->gdal());
+    dataset_->forget_place();
   } else {
     std::string reason = said.reason(dataset_->path(), "the projection cannot be stored");
     zu_problems_add(name_.c_str(), zu_problem_projection, from_utf8(reason).c_str());
@@ -114,7 +111,7 @@ bool gdal_source::stddev(std::int64_t field, double* out) {
 // --- Grid
 
 std::int32_t gdal_source::grid_type() {
-  return place_.kind == georeference_kind::none ? not_placed : net_of_two_dimensions;
+  return place().kind == georeference_kind::none ? not_placed : net_of_two_dimensions;
 }
 
 bool gdal_source::sizes(std::int32_t* three) {
@@ -125,19 +122,19 @@ bool gdal_source::sizes(std::int32_t* three) {
 }
 
 bool gdal_source::matrix3x3(double* nine) {
-  std::copy(place_.matrix.begin(), place_.matrix.end(), nine);
+  std::copy(place().matrix.begin(), place().matrix.end(), nine);
   return true;
 }
 
 bool gdal_source::matrix4x4(double* sixteen) {
-  const auto& m = place_.matrix;
+  const auto& m = place().matrix;
   const double lifted[] = {m[0], m[1], 0, m[2], m[3], m[4], 0, m[5], 0, 0, 1, 0, 0, 0, 0, 1};
   std::copy(std::begin(lifted), std::end(lifted), sixteen);
   return true;
 }
 
 bool gdal_source::get_origin(double* three) {
-  three[0] = place_.matrix[2], three[1] = place_.matrix[5], three[2] = 0;
+  three[0] = place().matrix[2], three[1] = place().matrix[5], three[2] = 0;
   return true;
 }
 
@@ -145,20 +142,20 @@ bool gdal_source::move_to(const std::array<double, 9>& matrix) {
   if (dataset_->read_only()) return false;
   gdal_messages said;
   std::array<double, 6> g =
-      geotransform_of(matrix, place_.rows_run_south, dataset_->gdal().GetRasterYSize());
+      geotransform_of(matrix, place().rows_run_south, dataset_->gdal().GetRasterYSize());
   if (dataset_->gdal().SetGeoTransform(g.data()) != CE_None) return false;
-  place_ = georeference_of(dataset_->gdal());
+  dataset_->forget_place();
   return true;
 }
 
 bool gdal_source::set_origin(const double* three) {
-  std::array<double, 9> m = place_.matrix;
+  std::array<double, 9> m = place().matrix;
   m[2] = three[0], m[5] = three[1];
   return move_to(m);
 }
 
 bool gdal_source::get_spacing(double* three) {
-  const auto& m = place_.matrix;
+  const auto& m = place().matrix;
   three[0] = std::hypot(m[0], m[3]), three[1] = std::hypot(m[1], m[4]), three[2] = 1;
   return true;
 }
@@ -167,7 +164,7 @@ bool gdal_source::set_spacing(const double* three) {
   double now[3];
   get_spacing(now);
   if (!(three[0] > 0) || !(three[1] > 0)) return false;
-  std::array<double, 9> m = place_.matrix;
+  std::array<double, 9> m = place().matrix;
   m[0] *= three[0] / now[0], m[3] *= three[0] / now[0];
   m[1] *= three[1] / now[1], m[4] *= three[1] / now[1];
   return move_to(m);
@@ -175,7 +172,7 @@ bool gdal_source::set_spacing(const double* three) {
 
 // Of the x axis, counter-clockwise.
 double gdal_source::azimuth() {
-  return std::atan2(place_.matrix[3], place_.matrix[0]) * 180 / std::numbers::pi;
+  return std::atan2(place().matrix[3], place().matrix[0]) * 180 / std::numbers::pi;
 }
 
 std::int32_t gdal_source::sample_type(std::int64_t field) {
@@ -245,7 +242,7 @@ void gdal_source::driver(string_visitor visitor) {
 
 void gdal_source::georeference_text(string_visitor visitor) {
   static const char* const words[] = {"none", "geotransform", "ground control points"};
-  tell(visitor, words[static_cast<int>(place_.kind)]);
+  tell(visitor, words[static_cast<int>(place().kind)]);
 }
 
 std::uint32_t gdal_source::part_count() {

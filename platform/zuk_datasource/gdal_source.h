@@ -2,7 +2,6 @@
 // A dataset of GDAL as a source of the system.
 
 #include "platform/zuk_datasource/band_reader.h"
-#include "platform/zuk_datasource/georeference.h"
 #include "platform/zuk_datasource/source_details.h"
 #include "zu/data_source.h"
 #include "zu/polymorphic.h"
@@ -47,7 +46,7 @@ class gdal_source final : public polymorphic<data_source_impl>,
 
   bool field_info(std::int64_t field, Tzu_field_info* out) override;
   void driver(string_visitor visitor) override;
-  bool rows_run_south() override { return place_.rows_run_south; }
+  bool rows_run_south() override { return place().rows_run_south; }
   void georeference_text(string_visitor visitor) override;
   std::uint32_t part_count() override;
   void part(std::uint32_t index, string_visitor name, string_visitor description) override;
@@ -58,12 +57,12 @@ class gdal_source final : public polymorphic<data_source_impl>,
   GDALRasterBand* band(std::int64_t field);  // null if there is none
   std::string name_of(std::int64_t field);
   bool stored(std::int64_t field, const char* item, double* out);
+  const georeference& place() { return dataset_->place(); }
   bool move_to(const std::array<double, 9>& matrix);
   band_reader reader_of(std::int64_t field);
 
   dataset_ptr dataset_;
   std::wstring name_;
-  georeference place_;
 };
 
 }  // namespace zu::platform

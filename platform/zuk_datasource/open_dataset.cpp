@@ -143,6 +143,14 @@ open_dataset::~open_dataset() {
   GDALClose(GDALDataset::ToHandle(dataset_));
 }
 
+const georeference& open_dataset::place() {
+  if (!place_) {
+    gdal_messages quiet;
+    place_ = georeference_of(*dataset_);
+  }
+  return *place_;
+}
+
 plain_tiff_band* open_dataset::plain_band(int index) {
   auto at = static_cast<std::size_t>(index);
   if (looked_at_.size() <= at) looked_at_.resize(at + 1), plain_bands_.resize(at + 1);

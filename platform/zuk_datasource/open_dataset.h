@@ -3,12 +3,14 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <thread>
 #include <vector>
 
 #include <gdal_priv.h>
 
+#include "platform/zuk_datasource/georeference.h"
 #include "platform/zuk_datasource/plain_tiff.h"
 
 namespace zu::platform {
@@ -25,6 +27,9 @@ class open_dataset {
   GDALDataset& gdal() { return *dataset_; }
   const std::string& path() const { return path_; }  ///< what GDAL was given
   bool read_only() const { return read_only_; }
+  /// Worked out on first use; after a change of the place it has to be forgotten.
+  const georeference& place();
+  void forget_place() { place_.reset(); }
   /// A shortcut to the cells of band `index`, from 0; null if the file does not allow it.
   plain_tiff_band* plain_band(int index);
 
@@ -32,6 +37,7 @@ class open_dataset {
   GDALDataset* dataset_;
   std::string path_;
   bool read_only_;
+  std::optional<georeference> place_;
   std::vector<std::unique_ptr<plain_tiff_band>> plain_bands_;
   std::vector<bool> looked_at_;
 };

@@ -8,8 +8,8 @@ namespace zu::platform {
 
 namespace {
 
-std::uint64_t number_of(GDALRasterBand& band, const char* item, int x, int y) {
-  std::string name = item + std::to_string(x) + "_" + std::to_string(y);
+std::uint64_t block_offset(GDALRasterBand& band, int x, int y) {
+  std::string name = "BLOCK_OFFSET_" + std::to_string(x) + "_" + std::to_string(y);
   const char* text = band.GetMetadataItem(name.c_str(), "TIFF");
   return text == nullptr ? 0 : std::strtoull(text, nullptr, 10);
 }
@@ -19,7 +19,7 @@ std::string cut_block(GDALRasterBand& band, std::uint64_t size) {
   band.GetBlockSize(&block_x, &block_y);
   for (int y = 0; y * std::int64_t(block_y) < band.GetYSize(); ++y)
     for (int x = 0; x * std::int64_t(block_x) < band.GetXSize(); ++x) {
-      std::uint64_t offset = number_of(band, "BLOCK_OFFSET_", x, y);
+      std::uint64_t offset = block_offset(band, x, y);
       // A block that begins inside and ends outside may be the only bad one: the rest is read.
       if (offset >= size)
         return "the file is truncated: a block at byte " + std::to_string(offset) +

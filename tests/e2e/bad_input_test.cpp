@@ -193,6 +193,12 @@ TEST_F(bad_input, an_output_that_cannot_be_written_says_why) {
   EXPECT_EQ(file_count(), 2u);
 }
 
+TEST_F(bad_input, a_name_that_is_no_utf8_never_becomes_another_file) {
+  refused(run({"render", good_, "-o", path("\xff.png")}), 1, "the name is no UTF-8");
+  refused(render(path("\xff.tif")), 1, "the name is no UTF-8");
+  EXPECT_EQ(file_count(), 1u);
+}
+
 TEST_F(bad_input, a_full_disk_leaves_the_older_picture_and_nothing_else) {
   for (const char* name : {"old.png", "old.tif"}) {
     write(name, "an older picture");

@@ -89,6 +89,23 @@ TEST(damage, statistics_are_those_of_the_cells_that_can_be_read) {
   EXPECT_EQ(stat.count, static_cast<std::uint64_t>(side * side - 256));
 }
 
+TEST(damage, a_tile_that_ends_beyond_the_file_is_a_broken_tile) {
+  for (const char* compression : {"COMPRESS=NONE", "COMPRESS=DEFLATE"}) {
+    folder f;
+    std::string path = tiled(f.at("a.tif"), compression);
+    long long end = tile_offset(path, 3, 3) + 10;
+    std::filesystem::resize_file(path, static_cast<std::uintmax_t>(end));
+    source s(path);
+    block b(s.band(0));
+    std::vector<double> cells = b.doubles({0, 0}, {side, side}, {side, side});
+    EXPECT_TRUE(std::isnan(cells[side - 1]));
+    EXPECT_EQ(cells[0], ramp(0, side - 1, 0));
+    cells = b.doubles({0, 0}, {side, side}, {8, 8});
+    EXPECT_TRUE(std::isnan(cells[7]));
+    EXPECT_EQ(cells[0], ramp(4, side - 1 - 4, 0));
+  }
+}
+
 TEST(damage, a_truncated_file_fails_with_where_it_ends) {
   for (const char* compression : {"COMPRESS=NONE", "COMPRESS=DEFLATE"}) {
     folder f;

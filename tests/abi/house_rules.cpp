@@ -205,7 +205,7 @@ bool may_host(const include& i) {
   if (begins(i.path, "zu/") || begins(i.path, "host/core/")) return true;
   for (const char* own : {"host/cli/", "host/desktop/"})
     if (begins(i.path, own)) return begins(i.file, own);
-  return i.path == "resources/texts.def";
+  return false;
 }
 bool may_border(const include& i) {
   if (!i.quoted) return standard.count(i.path) != 0 || standard_of_c.count(i.path) != 0;

@@ -132,8 +132,11 @@ def gdal(path, kind, box, crs, fresh, breaks):
     g.UseExceptions()
     if kind == "statistics":
         found = []
-        result = timed(lambda: found.append(g.Open(path).GetRasterBand(1).ComputeStatistics(False)), 3)
-        return dict(result, check=found[-1])
+
+        def compute():
+            data = g.Open(path)  # it must outlive its band
+            found.append(data.GetRasterBand(1).ComputeStatistics(False))
+        return dict(timed(compute, 3), check=found[-1])
     data = g.Open(path)
     x0, dx, _, y0, _, dy = data.GetGeoTransform()
     b = widened(box)

@@ -12,6 +12,7 @@
 #include "zu/platform/zuk_io.h"
 #include "zu/platform/zuk_lr2d.h"
 #include "zu/platform/zuk_render.h"
+#include "zu/platform/zuk_styles.h"
 #include "zu/services.h"
 
 namespace bench {

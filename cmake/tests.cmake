@@ -38,3 +38,12 @@ add_dependencies(e2e zugrid)
 foreach(program unit_bundle unit_platform abi e2e)
   zu_test(${program})
 endforeach()
+
+# A second reading of the pipeline, compared with the program by pixel. Too slow a program under the
+# sanitizers, which the tests above run under.
+if(NOT ZU_SANITIZE)
+  foreach(script reference_test compare)
+    add_test(NAME reference_${script} COMMAND /usr/bin/python3 ${CMAKE_SOURCE_DIR}/tests/reference/${script}.py)
+    set_tests_properties(reference_${script} PROPERTIES ENVIRONMENT "${ZU_TEST_ENVIRONMENT}")
+  endforeach()
+endif()

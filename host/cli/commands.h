@@ -17,6 +17,11 @@ struct usage_error : std::runtime_error {
 
 enum exit_code { exit_success = 0, exit_failure = 1, exit_usage = 2 };
 
+/// Refuses an empty text as the value of an option.
+inline const CLI::Validator filled(
+    [](std::string& text) { return text.empty() ? std::string("an empty text says nothing") : ""; },
+    "");
+
 /// Adds the command's options to its part of the parser; gives what runs it once they are read.
 /// The result of that is the exit code; it throws `usage_error` and `host::failure`.
 using command = std::function<int()>;

@@ -177,7 +177,7 @@ void print(const json& all) {
 
 command add_info(CLI::App& options) {
   auto given = std::make_shared<texts>();
-  options.add_option("SOURCE", given->source, "grid to look at")->required();
+  options.add_option("SOURCE", given->source, "grid to look at")->required()->check(filled);
   options.add_flag("--json", given->as_json, "print data");
   options.add_flag("--stats", given->statistics, "read the whole grid for exact statistics");
   options.footer(footer);

@@ -1,5 +1,6 @@
 // zugrid: the command line.
 
+#include <csignal>
 #include <cstdio>
 #include <exception>
 #include <iostream>
@@ -41,7 +42,7 @@ std::string one_line(std::string text) { return text.substr(0, text.find('\n'));
 int main(int argc, char** argv) {
   CLI::App parser("Draws and describes 2D grids: GeoTIFF, ASCII grids and whatever GDAL opens.",
                   "zugrid");
-  parser.require_subcommand(1);
+  parser.require_subcommand(0, 1);
   parser.set_version_flag("--version", "zugrid " ZU_VERSION);
   int result = exit_success;
   std::string running;
@@ -53,9 +54,12 @@ int main(int argc, char** argv) {
       result = run();
     });
   }
+  std::signal(SIGXFSZ, SIG_IGN);  // a file that may not grow is a failed write, with its reason
   try {
     parser.parse(argc, argv);
-    return std::fflush(stdout) == 0 ? result : fail("standard output: cannot be written");
+    if (running.empty()) return refuse("a command is required: render or info", "");
+    bool written = std::fflush(stdout) == 0 && std::ferror(stdout) == 0;
+    return written ? result : fail("standard output: cannot be written");
   } catch (const CLI::Success& asked) {  // help and version
     return parser.exit(asked);
   } catch (const CLI::ParseError& error) {

@@ -33,11 +33,12 @@ std::vector<std::string> parts_of(const std::string& option, const std::string& 
 double number_of(const std::string& option, const std::string& text) {
   const char* begin = text.data();
   const char* end = begin + text.size();
-  if (begin != end && *begin == '+') ++begin;
+  bool plus = begin != end && *begin == '+';
+  if (plus) ++begin;
   double value = 0.0;
   auto read = std::from_chars(begin, end, value);
-  if (read.ec != std::errc() || read.ptr != end || !std::isfinite(value))
-    refuse(option, quoted(text) + " is no number");
+  bool read_whole = read.ec == std::errc() && read.ptr == end && !(plus && *begin == '-');
+  if (!read_whole || !std::isfinite(value)) refuse(option, quoted(text) + " is no number");
   return value;
 }
 
@@ -112,6 +113,7 @@ std::vector<std::pair<std::string, Tzu_color>> values_of(const std::string& opti
     std::size_t equals = part.rfind('=');
     if (equals == std::string::npos || equals == 0)
       refuse(option, quoted(part) + " is no VALUE=COLOR");
+    number_of(option, part.substr(0, equals));
     values.emplace_back(part.substr(0, equals), color_of(option, part.substr(equals + 1)));
   }
   return values;

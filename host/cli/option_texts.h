@@ -27,7 +27,7 @@ Tzu_box_d2 box_of(const std::string& option, const std::string& text);
 std::pair<double, double> limits_of(const std::string& option, const std::string& text);
 /// B0,…,Bn rising, at least two.
 std::vector<double> breaks_of(const std::string& option, const std::string& text);
-/// V=COLOR,…
+/// V=COLOR,…; each V is a number, and its text is kept.
 std::vector<std::pair<std::string, Tzu_color>> values_of(const std::string& option,
                                                          const std::string& text);
 

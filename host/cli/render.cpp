@@ -67,6 +67,10 @@ void check(const host::layer_look& look) {
                look.simple || look.other || look.interpolate;
   if (scale && (channels || look.draw == draw_type::image))
     throw usage_error("--draw: a scale's options go with --draw scale");
+  bool own_fields = look.draw == draw_type::rgb || look.draw == draw_type::image ||
+                    (!look.draw && !look.rgb.empty());
+  if (!look.field.empty() && own_fields)
+    throw usage_error("--field: goes with --draw scale or gray");
 }
 
 host::layer_look look_of(const texts& given) {
@@ -155,7 +159,7 @@ void save(const host::drawn_picture& picture, const std::string& output,
   undisturbed whole;
   bool saved = false;
   std::wstring reason = host::text_of([&](Tzu_string_adp* adapter) {
-    saved = zu_drwc_save_w(picture.page.get(), host::wide(output).c_str(), &picture.box,
+    saved = zu_drwc_save_w(picture.page.get(), host::wide_name(output).c_str(), &picture.box,
                            host::wide(projection).c_str(), adapter);
   });
   if (!saved) throw failure(output, host::narrow(reason));
@@ -213,6 +217,8 @@ command add_render(CLI::App& options) {
       ->check(CLI::Range(0, 100));
   options.add_option("--background", given->background,
                      "colour of the page (none: the picture keeps its transparency)");
+  for (CLI::Option* each : options.get_options())
+    if (each->get_type_size() > 0) each->check(filled);
   options.footer(footer);
   return [given] { return run(*given); };
 }

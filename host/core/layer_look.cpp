@@ -125,10 +125,18 @@ void set_channels(draw_type draw, const layer_look& look, const source& data,
         look.rgb.empty() ? std::min(i, data.fields().size() - 1) : data.find(look.rgb[i]).value());
 }
 
+/// As the layer itself decides it: every band is a byte with a colour role.
+bool makes_image(const source& data) {
+  return std::all_of(data.fields().begin(), data.fields().end(), [](const field& f) {
+    return f.role != role_none && f.info.type == element_uint8;
+  });
+}
+
 }  // namespace
 
 std::string why_not(const layer_look& look, const source& data) {
   if (data.fields().empty()) return "has no fields";
+  if (look.draw == draw_type::image && !makes_image(data)) return "its bands make no image";
   std::vector<std::string> wanted = look.rgb;
   if (!look.field.empty()) wanted.push_back(look.field);
   for (const std::string& name : wanted) {
@@ -147,16 +155,13 @@ void apply_look(const layer_look& look, const source& data, layer_2d layer,
   call<&layer_2d_externalization_service_impl::save>(tree, layer, root.get(),
                                                      static_cast<void*>(nullptr));
   node_ptr params(zu_xnode_set_node_w(root.get(), L"grid_params"));
-  auto own = static_cast<draw_type>(zu_xnode_get_attr_int_w(params.get(), L"draw_type", 0));
-  draw_type draw = own;
+  auto draw = static_cast<draw_type>(zu_xnode_get_attr_int_w(params.get(), L"draw_type", 0));
   if (look.draw)
     draw = *look.draw;
   else if (!look.rgb.empty())
     draw = draw_type::rgb;
   else if (look.styles_a_scale())
     draw = draw_type::scale;
-  if (draw == draw_type::image && own != draw_type::image)
-    throw failure(data.name(), "its bands make no image");
 
   if (draw == draw_type::scale)
     set_style(look, data, call<&layer_2d_impl::get_style_manager>(layer));

@@ -37,7 +37,8 @@ struct layer_look {
 /// Number of classes of a default scale.
 inline constexpr std::size_t default_classes = 10;
 
-/// Why a source cannot take a look: an unknown field. Empty if it can.
+/// Why a source cannot take a look: an unknown field, or bands that make no image. Empty if
+/// it can.
 std::string why_not(const layer_look& look, const source& data);
 
 /// Gives a bound layer, whose source is set, the look. `tree` is the externalization service of its

@@ -2,6 +2,7 @@
 
 #include "host/core/failure.h"
 #include "host/core/texts.h"
+#include "zu/platform/zuk_os.h"
 
 namespace zu::host {
 namespace {
@@ -13,12 +14,12 @@ constexpr std::uint64_t sampled_cells = 1000000;
 }  // namespace
 
 source::source(const std::string& name) : name_(name) {
-  std::wstring wide_name = wide(name);
-  zu_problems_clear(wide_name.c_str());
-  zu_datasource_open(wide_name.c_str(), 1, nullptr, &opened_);
+  std::wstring path = wide_name(name);
+  zu_problems_clear(path.c_str());
+  zu_datasource_open(path.c_str(), 1, nullptr, &opened_);
   grid_ = cast<grid_source_impl>(opened_);
   if (!opened_ || !grid_) {
-    std::vector<std::string> why = reasons(wide_name, zu_problem_open);
+    std::vector<std::string> why = reasons(path, zu_problem_open);
     call<&data_source_impl::release>(opened_);
     throw failure(name, why.empty() ? "cannot be opened" : why.back());
   }
@@ -37,6 +38,9 @@ source::~source() { call<&data_source_impl::release>(opened_); }
 std::optional<std::size_t> source::find(const std::string& name) const {
   for (std::size_t i = 0; i < fields_.size(); ++i)
     if (fields_[i].name == name) return i;
+  for (std::size_t i = 0; i < fields_.size(); ++i)
+    if (zu_os_compare_ignoring_case(wide(fields_[i].name).c_str(), wide(name).c_str()) == 0)
+      return i;
   return {};
 }
 

@@ -28,7 +28,8 @@ class source {
   grid_source grid() const { return grid_; }
   const std::string& name() const { return name_; }
   const std::vector<field>& fields() const { return fields_; }
-  /// Index of a field by its exact name; nothing if there is none.
+  /// Index of a field by its exact name, else of the first that differs in case alone; nothing if
+  /// there is none.
   std::optional<std::size_t> find(const std::string& name) const;
   /// The field that is coloured where none is named: the first without a colour role, else the
   /// first.

@@ -1,5 +1,6 @@
 #include "host/core/texts.h"
 
+#include "host/core/failure.h"
 #include "zu/platform/zuk_os.h"
 
 namespace zu::host {
@@ -26,6 +27,12 @@ std::string narrow(const std::wstring& text) {
       out += static_cast<char>(0xF0 | c >> 18), tail(12), tail(6), tail(0);
   }
   return out;
+}
+
+std::wstring wide_name(const std::string& file) {
+  std::wstring name = wide(file);
+  if (narrow(name) != file) throw failure(file, "the name is no UTF-8");
+  return name;
 }
 
 std::vector<std::string> reasons(const std::wstring& source, int kind) {

@@ -11,6 +11,9 @@ namespace zu::host {
 
 std::wstring wide(const std::string& text);
 std::string narrow(const std::wstring& text);
+/// A file's name for the platform; throws `failure` if it is no UTF-8, since it would come to name
+/// another file.
+std::wstring wide_name(const std::string& file);
 
 /// The text that a platform function delivers to an adapter; empty if it delivers none.
 template <class function> std::wstring text_of(function&& ask) {

@@ -53,8 +53,11 @@ void put_row(std::uint32_t* __restrict to, const std::uint32_t* __restrict from,
 
 constexpr double hair = 1e-6;  // pixels; what rounding may have moved a side
 
-/// Nearest whole number, the upper one of two.
-std::int64_t rounded(double pixels) { return static_cast<std::int64_t>(std::floor(pixels + 0.5)); }
+/// Nearest whole number, half up. What misses a half by the rounding of millimetres alone counts as
+/// one: both sides of a box that lies on halves must go the same way, or it would grow by a pixel.
+std::int64_t rounded(double pixels) {
+  return static_cast<std::int64_t>(std::floor(pixels + 0.5 + hair));
+}
 
 /// The pixel that holds the low side of a box narrower than a pixel.
 std::int64_t pixel_at(double side) { return static_cast<std::int64_t>(std::floor(side + hair)); }

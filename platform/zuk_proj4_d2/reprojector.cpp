@@ -1,139 +1,115 @@
 #include "platform/zuk_proj4_d2/reprojector.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
-#include <map>
-#include <utility>
-
-#include "platform/zuk_basic/utf8.h"
 
 namespace zu::platform {
+
 namespace {
 
-/// Points along each edge of a box, besides its corner.
-constexpr int edge_points = 21;
+constexpr int points_of_an_edge = 21;
 
-struct context_ended {
-  void operator()(PJ_CONTEXT* context) const { proj_context_destroy(context); }
-};
-
-/// What one thread keeps; the operations go before their context.
-struct thread_store {
-  std::unique_ptr<PJ_CONTEXT, context_ended> context{proj_context_create()};
-  std::map<std::pair<std::wstring, std::wstring>, operation> operations;
-};
-
-thread_store& store() {
-  thread_local thread_store kept;
-  return kept;
+bool is_finite(const Tzu_vtx_d2& v) { return std::isfinite(v.x) && std::isfinite(v.y); }
+bool is_finite(const Tzu_box_d2& b) {
+  return std::isfinite(b.x0) && std::isfinite(b.y0) && std::isfinite(b.x1) && std::isfinite(b.y1);
 }
 
-operation make_operation(const std::wstring& source, const std::wstring& target) {
-  operation made;
-  if (source.empty() || target.empty()) return made;
-  pj_ptr from = coordinate_system(source), to = coordinate_system(target);
-  if (!from || !to) return made;
-  made.valid = true;
-  if (source == target ||
-      proj_is_equivalent_to_with_ctx(proj_context(), from.get(), to.get(),
-                                     PJ_COMP_EQUIVALENT_EXCEPT_AXIS_ORDER_GEOGCRS) != 0)
-    return made;
-  pj_ptr way(
-      proj_create_crs_to_crs_from_pj(proj_context(), from.get(), to.get(), nullptr, nullptr));
-  if (way) made.way.reset(proj_normalize_for_visualization(proj_context(), way.get()));
-  made.valid = made.way != nullptr;
-  return made;
+std::array<Tzu_vtx_d2, 4 * points_of_an_edge> frame_of(const Tzu_box_d2& b) {
+  std::array<Tzu_vtx_d2, 4 * points_of_an_edge> out;
+  for (int i = 0; i < points_of_an_edge; ++i) {
+    double share = static_cast<double>(i) / points_of_an_edge;
+    double x = (b.x1 - b.x0) * share, y = (b.y1 - b.y0) * share;
+    auto at = static_cast<std::size_t>(4 * i);
+    out[at] = {b.x0 + x, b.y0}, out[at + 1] = {b.x1, b.y0 + y};
+    out[at + 2] = {b.x1 - x, b.y1}, out[at + 3] = {b.x0, b.y1 - y};
+  }
+  return out;
 }
 
-bool is_finite(const Tzu_vtx_d2& vertex) {
-  return std::isfinite(vertex.x) && std::isfinite(vertex.y);
-}
+PJ_DIRECTION direction(bool forward) { return forward ? PJ_FWD : PJ_INV; }
 
-void apply_matrix(std::vector<Tzu_vtx_d2>& vertices, const Tzu_matrix3x3& matrix) {
-  for (Tzu_vtx_d2& vertex : vertices)
-    if (is_finite(vertex)) zu_vtx_d2_apply_matrix3x3(&vertex, &matrix);
+// A box over the date line comes back with its sides exchanged; as a box it is the whole round.
+Tzu_box_d2 ordered(Tzu_box_d2 box) {
+  if (box.x0 > box.x1) box.x0 = -180, box.x1 = 180;
+  return box;
 }
 
 }  // namespace
 
-PJ_CONTEXT* proj_context() {
-  PJ_CONTEXT* context = store().context.get();
-  proj_log_level(context, PJ_LOG_NONE);
-  return context;
-}
-
-pj_ptr coordinate_system(const std::wstring& text, std::string* reason) {
-  std::string narrow = to_utf8(text);
-  // A PROJ text without its type would be an operation, not a system.
-  if (narrow.find("+proj=") != std::string::npos && narrow.find("type=crs") == std::string::npos)
-    narrow += " +type=crs";
-  pj_ptr made(proj_create(proj_context(), narrow.c_str()));
-  if (!made) {
-    int error = proj_context_errno(proj_context());
-    if (reason != nullptr) *reason = proj_context_errno_string(proj_context(), error);
-  } else if (proj_is_crs(made.get()) == 0) {
-    made.reset();
-    if (reason != nullptr) *reason = "it is no coordinate system";
-  }
-  return made;
-}
-
-const operation& operation_between(const std::wstring& source, const std::wstring& target) {
-  auto key = std::make_pair(source, target);
-  auto found = store().operations.find(key);
-  if (found == store().operations.end())
-    found = store().operations.emplace(std::move(key), make_operation(source, target)).first;
-  return found->second;
-}
-
-bool reprojector::init(const std::wstring& source, const std::wstring& target) {
-  operation_ = &operation_between(source, target);
-  return operation_->valid;
+bool reprojector::init(const std::string& source, const std::string& target) {
+  way_ = source.empty() || target.empty() ? nullptr : operation_between(source, target);
+  return way_ != nullptr;
 }
 
 void reprojector::set_affine(const Tzu_matrix3x3& matrix) {
-  affine_ = affine_back_ = matrix;
-  affine_inverts_ = zu_matrix3x3_invert_inplace(&affine_back_);
+  affine_ = back_ = matrix;
+  affine_has_inverse_ = zu_matrix3x3_invert_inplace(&back_);
 }
 
-void reprojector::project(std::vector<Tzu_vtx_d2>& vertices, bool forward) const {
-  if (!is_needed() || vertices.empty()) return;
-  proj_errno_reset(operation_->way.get());
-  std::size_t stride = sizeof(Tzu_vtx_d2), count = vertices.size();
-  proj_trans_generic(operation_->way.get(), forward ? PJ_FWD : PJ_INV, &vertices[0].x, stride,
-                     count, &vertices[0].y, stride, count, nullptr, 0, 0, nullptr, 0, 0);
-  for (Tzu_vtx_d2& vertex : vertices)
-    if (!is_finite(vertex)) vertex = {HUGE_VAL, HUGE_VAL};
+void reprojector::project(Tzu_vtx_d2* vertices, std::size_t count, bool forward) const {
+  if (!is_needed() || count == 0) return;
+  proj_trans_generic(way_->pj.get(), direction(forward), &vertices->x, sizeof(Tzu_vtx_d2), count,
+                     &vertices->y, sizeof(Tzu_vtx_d2), count, nullptr, 0, 0, nullptr, 0, 0);
+  proj_errno_reset(way_->pj.get());
 }
 
-bool reprojector::apply(std::vector<Tzu_vtx_d2>& vertices, bool forward) const {
-  if (forward) project(vertices, true);
-  if (use_affine_) {
-    if (!forward && !affine_inverts_) return false;
-    apply_matrix(vertices, forward ? affine_ : affine_back_);
+bool reprojector::apply(Tzu_vtx_d2* vertices, std::size_t count, bool forward) const {
+  if (!can_go(forward)) {
+    std::fill_n(vertices, count, Tzu_vtx_d2{HUGE_VAL, HUGE_VAL});
+    return count == 0;
   }
-  if (!forward) project(vertices, false);
-  return std::any_of(vertices.begin(), vertices.end(), is_finite);
+  auto affine = [&](const Tzu_matrix3x3& matrix) {
+    for (std::size_t i = 0; affine_on_ && i < count; ++i)
+      if (is_finite(vertices[i])) zu_vtx_d2_apply_matrix3x3(&vertices[i], &matrix);
+  };
+  if (!forward) affine(back_);
+  project(vertices, count, forward);
+  if (forward) affine(affine_);
+  bool any = count == 0;
+  for (std::size_t i = 0; i < count; ++i) {
+    if (is_finite(vertices[i]))
+      any = true;
+    else
+      vertices[i] = {HUGE_VAL, HUGE_VAL};
+  }
+  return any;
+}
+
+bool reprojector::project(Tzu_box_d2& box, bool forward) const {
+  if (!is_needed()) return true;
+  auto frame = frame_of(box);
+  project(frame.data(), frame.size(), forward);
+  Tzu_box_d2 out{HUGE_VAL, HUGE_VAL, -HUGE_VAL, -HUGE_VAL};
+  bool all = true;
+  for (const Tzu_vtx_d2& v : frame) {
+    if (!is_finite(v)) {
+      all = false;
+      continue;
+    }
+    out = {std::min(out.x0, v.x), std::min(out.y0, v.y), std::max(out.x1, v.x),
+           std::max(out.y1, v.y)};
+  }
+  Tzu_box_d2 told{};
+  if (all &&
+      proj_trans_bounds(way_->thread->context(), way_->pj.get(), direction(forward), box.x0, box.y0,
+                        box.x1, box.y1, &told.x0, &told.y0, &told.x1, &told.y1,
+                        points_of_an_edge) &&
+      is_finite(told))
+    out = ordered(told);
+  proj_errno_reset(way_->pj.get());
+  if (!is_finite(out)) return false;
+  box = out;
+  return true;
 }
 
 bool reprojector::apply(Tzu_box_d2& box, bool forward) const {
-  std::vector<Tzu_vtx_d2> edge;
-  double width = box.x1 - box.x0, height = box.y1 - box.y0;
-  for (int i = 0; i <= edge_points; ++i) {
-    double share = static_cast<double>(i) / edge_points;
-    double x = i == edge_points ? box.x1 : box.x0 + width * share;
-    double y = i == edge_points ? box.y1 : box.y0 + height * share;
-    edge.insert(edge.end(), {{x, box.y0}, {x, box.y1}, {box.x0, y}, {box.x1, y}});
-  }
-  if (!apply(edge, forward)) return false;
-  edge.erase(std::remove_if(edge.begin(), edge.end(),
-                            [](const Tzu_vtx_d2& vertex) { return !is_finite(vertex); }),
-             edge.end());
-  auto [low_x, high_x] = std::minmax_element(
-      edge.begin(), edge.end(), [](const Tzu_vtx_d2& a, const Tzu_vtx_d2& b) { return a.x < b.x; });
-  auto [low_y, high_y] = std::minmax_element(
-      edge.begin(), edge.end(), [](const Tzu_vtx_d2& a, const Tzu_vtx_d2& b) { return a.y < b.y; });
-  box = {low_x->x, low_y->y, high_x->x, high_y->y};
+  if (!can_go(forward) || !is_finite(box)) return false;
+  Tzu_box_d2 image = box;
+  if (!forward && affine_on_) zu_box_d2_apply_matrix3x3(&image, &back_);
+  if (!project(image, forward)) return false;
+  if (forward && affine_on_) zu_box_d2_apply_matrix3x3(&image, &affine_);
+  box = image;
   return true;
 }
 

@@ -1,52 +1,38 @@
 #pragma once
-// Operations between coordinate systems, kept by their pair of texts: making one costs
-// milliseconds.
+// Reprojection both ways, with an affine step after it.
 
-#include <proj.h>
-
+#include <cstddef>
 #include <memory>
 #include <string>
 
-#include "platform/zuk_prg/vertices.h"
-#include "zu/platform/zuk_proj4_d2.h"
+#include "platform/zuk_proj4_d2/coordinate_systems.h"
+#include "zu/platform/zuk_prg.h"
 
 namespace zu::platform {
 
-struct proj_ended {
-  void operator()(PJ* object) const { proj_destroy(object); }
-};
-using pj_ptr = std::unique_ptr<PJ, proj_ended>;
-
-/// The thread's own context; it prints nothing.
-PJ_CONTEXT* proj_context();
-/// A coordinate system from "EPSG:n", a PROJ text or WKT; null, with the reason, if it is none.
-pj_ptr coordinate_system(const std::wstring& text, std::string* reason = nullptr);
-
-/// A way between two systems, x always east. `way` is null where none is needed or none leads.
-struct operation {
-  bool valid = false;
-  pj_ptr way;
-};
-/// The one of the pair, made on first use; it belongs to the thread.
-const operation& operation_between(const std::wstring& source, const std::wstring& target);
-
 class reprojector {
  public:
-  bool init(const std::wstring& source, const std::wstring& target);
-  bool is_needed() const { return operation_ != nullptr && operation_->way != nullptr; }
-  void use_affine(bool use) { use_affine_ = use; }
+  /// False, and nothing to reproject, if there is no way between the two texts.
+  bool init(const std::string& source, const std::string& target);
+  bool is_needed() const { return way_ != nullptr && way_->pj != nullptr; }
+  void use_affine(bool use) { affine_on_ = use; }
   void set_affine(const Tzu_matrix3x3& matrix);
 
-  bool apply(std::vector<Tzu_vtx_d2>& vertices, bool forward) const;
+  /// Transforms vertices in place; one without an image becomes infinite. False if none has one;
+  /// no vertices at all are no failure.
+  bool apply(Tzu_vtx_d2* vertices, std::size_t count, bool forward) const;
+  /// The ordered box that holds the image of an ordered box; false if it has none.
   bool apply(Tzu_box_d2& box, bool forward) const;
 
  private:
-  void project(std::vector<Tzu_vtx_d2>& vertices, bool forward) const;
+  void project(Tzu_vtx_d2* vertices, std::size_t count, bool forward) const;
+  bool project(Tzu_box_d2& box, bool forward) const;
+  bool can_go(bool forward) const { return forward || !affine_on_ || affine_has_inverse_; }
 
-  const operation* operation_ = nullptr;
-  bool use_affine_ = false, affine_inverts_ = true;
+  std::shared_ptr<const operation> way_;
+  bool affine_on_ = false, affine_has_inverse_ = true;
   Tzu_matrix3x3 affine_{{{1, 0, 0}, {0, 1, 0}, {0, 0, 1}}};
-  Tzu_matrix3x3 affine_back_{{{1, 0, 0}, {0, 1, 0}, {0, 0, 1}}};
+  Tzu_matrix3x3 back_ = affine_;
 };
 
 }  // namespace zu::platform

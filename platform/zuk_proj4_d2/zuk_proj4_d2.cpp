@@ -1,96 +1,129 @@
-// The plain functions of reprojection.
+#include "zu/platform/zuk_proj4_d2.h"
 
+#include <cstdlib>
 #include <new>
 
 #include "platform/zuk_basic/guarded.h"
 #include "platform/zuk_basic/utf8.h"
+#include "platform/zuk_prg/vertices.h"
 #include "platform/zuk_proj4_d2/reprojector.h"
 
-using zu::platform::coordinate_system;
-using zu::platform::from_utf8;
-using zu::platform::guarded;
-using zu::platform::pj_ptr;
+using namespace zu::platform;
 
-struct Tzu_rpj_fb_d2 : zu::platform::reprojector {};
+struct Tzu_rpj_fb_d2 : reprojector {};
 
 namespace {
 
-void give(Tzu_string_adp* adapter, const char* text) {
-  if (text != nullptr) zu_string_adp_feed(adapter, from_utf8(text).c_str());
+std::string narrow(const wchar_t* text) { return text == nullptr ? "" : to_utf8(text); }
+
+// Tells what `what` finds of the system that a text names; nothing if it names none.
+template <class work> void of_system(const wchar_t* text, work what) {
+  guarded(text, [&](const wchar_t& first) {
+    const auto& thread = proj_thread::current();
+    if (pj_ptr system = thread->system(to_utf8(&first))) what(*thread, *system);
+  });
 }
 
-std::wstring text_or_empty(const wchar_t* text) { return text != nullptr ? text : L""; }
+// The code by which PROJ's database knows the system, if it is sure.
+int identified_code(proj_thread& thread, const PJ& system) {
+  constexpr int sure = 90;
+  int* confidence = nullptr;
+  PJ_OBJ_LIST* found = proj_identify(thread.context(), &system, "EPSG", nullptr, &confidence);
+  int code = 0;
+  if (found != nullptr && proj_list_get_count(found) > 0 && confidence[0] >= sure) {
+    pj_ptr best(proj_list_get(thread.context(), found, 0));
+    const char* text = best == nullptr ? nullptr : proj_get_id_code(best.get(), 0);
+    code = text == nullptr ? 0 : std::atoi(text);
+  }
+  proj_int_list_destroy(confidence);
+  proj_list_destroy(found);
+  return code;
+}
 
 }  // namespace
 
-Tzu_rpj_fb_d2* zu_rpj_fb_d2_create() { return new (std::nothrow) Tzu_rpj_fb_d2; }
+Tzu_rpj_fb_d2* zu_rpj_fb_d2_create(void) { return new (std::nothrow) Tzu_rpj_fb_d2; }
 void zu_rpj_fb_d2_destroy(Tzu_rpj_fb_d2* rpj) { delete rpj; }
+
 bool zu_rpj_fb_d2_init_w(Tzu_rpj_fb_d2* rpj, const wchar_t* source, const wchar_t* target) {
-  return guarded(rpj, false, [&](Tzu_rpj_fb_d2& r) {
-    return r.init(text_or_empty(source), text_or_empty(target));
-  });
+  return guarded(rpj, false,
+                 [&](reprojector& r) { return r.init(narrow(source), narrow(target)); });
 }
+
 bool zu_rpj_fb_d2_rpj_is_needed(const Tzu_rpj_fb_d2* rpj) {
-  return rpj != nullptr && rpj->is_needed();
+  return guarded(rpj, false, [](const reprojector& r) { return r.is_needed(); });
 }
+
 void zu_rpj_fb_d2_set_use_affine_after(Tzu_rpj_fb_d2* rpj, bool use) {
-  if (rpj != nullptr) rpj->use_affine(use);
+  guarded(rpj, [&](reprojector& r) { r.use_affine(use); });
 }
+
 void zu_rpj_fb_d2_set_affine_after(Tzu_rpj_fb_d2* rpj, const Tzu_matrix3x3* matrix) {
-  if (rpj != nullptr && matrix != nullptr) rpj->set_affine(*matrix);
+  if (matrix == nullptr) return;
+  guarded(rpj, [&](reprojector& r) { r.set_affine(*matrix); });
 }
+
 bool zu_rpj_fb_d2_apply_box(Tzu_rpj_fb_d2* rpj, Tzu_box_d2* box, int32_t direction) {
-  return guarded(rpj, false, [&](Tzu_rpj_fb_d2& r) { return r.apply(*box, direction != 0); });
+  if (box == nullptr) return false;
+  return guarded(rpj, false, [&](reprojector& r) { return r.apply(*box, direction != 0); });
 }
+
 bool zu_rpj_fb_d2_apply_box_approx(Tzu_rpj_fb_d2* rpj, Tzu_box_d2* box, int32_t direction) {
   return zu_rpj_fb_d2_apply_box(rpj, box, direction);
 }
+
 bool zu_rpj_fb_d2_apply_pv(Tzu_rpj_fb_d2* rpj, Tzu_pv_d2* list, int32_t direction) {
   if (list == nullptr) return false;
-  return guarded(rpj, false,
-                 [&](Tzu_rpj_fb_d2& r) { return r.apply(list->vertices, direction != 0); });
+  return guarded(rpj, false, [&](reprojector& r) {
+    return r.apply(list->vertices.data(), list->vertices.size(), direction != 0);
+  });
 }
+
 bool zu_rpj_fb_d2_apply_ov(Tzu_rpj_fb_d2* rpj, Tzu_ov_d2* set, int32_t direction) {
   if (set == nullptr) return false;
-  bool any = false;
-  for (auto& list : set->lists) any = zu_rpj_fb_d2_apply_pv(rpj, list.get(), direction) || any;
-  return any;
+  return guarded(rpj, false, [&](reprojector& r) {
+    bool any = set->lists.empty();
+    for (auto& list : set->lists)
+      any = r.apply(list->vertices.data(), list->vertices.size(), direction != 0) || any;
+    return any;
+  });
 }
 
 bool zu_pj_check_w(const wchar_t* text, Tzu_string_adp* reason) {
-  return guarded(text, false, [&](const wchar_t& wide) {
-    std::string why;
-    bool known = coordinate_system(&wide, &why) != nullptr;
-    if (!known && !why.empty()) give(reason, why.c_str());
-    return known;
+  const auto& thread = proj_thread::current();
+  return guarded(thread.get(), false, [&](proj_thread& t) {
+    if (t.system(narrow(text)) != nullptr) return true;
+    zu_string_adp_feed(reason, from_utf8(t.message()).c_str());
+    return false;
   });
 }
+
 void zu_pj_get_name_w(const wchar_t* text, Tzu_string_adp* name) {
-  guarded(text, [&](const wchar_t& wide) {
-    pj_ptr system = coordinate_system(&wide);
-    const char* known = system ? proj_get_name(system.get()) : nullptr;
-    if (known != nullptr && *known != '\0')
-      give(name, known);
-    else
-      zu_string_adp_feed(name, &wide);
+  std::string found = narrow(text);
+  of_system(text, [&](proj_thread&, const PJ& system) {
+    const char* given = proj_get_name(&system);
+    if (given != nullptr && *given != 0 && std::string(given) != "unknown") found = given;
   });
+  zu_string_adp_feed(name, from_utf8(found).c_str());
 }
+
 void zu_pj_get_authority_w(const wchar_t* text, Tzu_string_adp* code) {
-  guarded(text, [&](const wchar_t& wide) {
-    pj_ptr system = coordinate_system(&wide);
-    const char* authority = system ? proj_get_id_auth_name(system.get(), 0) : nullptr;
-    const char* number = system ? proj_get_id_code(system.get(), 0) : nullptr;
-    if (authority != nullptr && number != nullptr)
-      give(code, (std::string(authority) + ":" + number).c_str());
+  of_system(text, [&](proj_thread& thread, const PJ& system) {
+    const char* authority = proj_get_id_auth_name(&system, 0);
+    const char* number = proj_get_id_code(&system, 0);
+    bool registered = authority != nullptr && number != nullptr && std::string(authority) == "EPSG";
+    int found = registered ? std::atoi(number) : identified_code(thread, system);
+    if (found > 0) zu_string_adp_feed(code, from_utf8("EPSG:" + std::to_string(found)).c_str());
   });
 }
+
 bool zu_pj_get_wkt_w(const wchar_t* text, Tzu_string_adp* wkt) {
-  return guarded(text, false, [&](const wchar_t& wide) {
-    pj_ptr system = coordinate_system(&wide);
-    const char* known =
-        system ? proj_as_wkt(zu::platform::proj_context(), system.get(), PJ_WKT2_2019, nullptr)
-               : nullptr;
-    give(wkt, known);
-    return known != nullptr;
+  bool told = false;
+  of_system(text, [&](proj_thread& thread, const PJ& system) {
+    const char* const options[] = {"MULTILINE=NO", nullptr};
+    const char* written = proj_as_wkt(thread.context(), &system, PJ_WKT2_2019, options);
+    told = written != nullptr;
+    if (told) zu_string_adp_feed(wkt, from_utf8(written).c_str());
   });
+  return told;
 }

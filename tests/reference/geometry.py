@@ -46,7 +46,7 @@ class Nudge:
 
 def rounded(value):
     """To a whole pixel, half up. What misses a tie by double arithmetic alone counts as the tie."""
-    return math.floor(round(value, 7) + 0.5)
+    return math.floor(value + 0.5 + 1e-6)
 
 
 def transformed(matrix, x, y):
@@ -71,6 +71,10 @@ def box_to_box(a, b):
     sx = (b[2] - b[0]) / (a[2] - a[0])
     sy = (b[3] - b[1]) / (a[3] - a[1])
     return numpy.array([[sx, 0, b[0] - a[0] * sx], [0, sy, b[1] - a[1] * sy], [0, 0, 1.0]])
+
+
+def sampled(cells, samples):
+    return numpy.floor((numpy.arange(samples) + 0.5) * cells / samples + 1e-10).astype(int)
 
 
 class Grid:
@@ -99,25 +103,31 @@ class Grid:
         folded = [n.lower() for n in names]
         return folded.index(name.lower()) if name.lower() in folded else -1
 
-    def is_image(self):
-        return all(self.roles) and all(b.DataType == gdal.GDT_Byte for b in self.bands)
-
     def read(self, index, window):
-        """Samples of one window in the band's own type, lowest row first."""
+        """Samples of one window in the band's own type, lowest row first.
+
+        Each lies in the middle of its step; between two cells it belongs to the upper one, in the
+        order of the presented rows. What overviews have for it, GDAL tells.
+        """
         y = self.ny - window.y - window.ny if self.flipped else window.y
+        box = (window.x, y, window.nx, window.ny)
+        if self.bands[index].GetOverviewCount() == 0:
+            cells = self.bands[index].ReadAsArray(*box)[:: -1 if self.flipped else 1]
+            rows = sampled(window.ny, window.samples_y)
+            return cells[rows][:, sampled(window.nx, window.samples_x)]
+        if self.flipped and window.ny != window.samples_y:
+            box = (window.x, y - 1e-6, window.nx, window.ny)
         samples = self.bands[index].ReadAsArray(
-            window.x, y, window.nx, window.ny, window.samples_x, window.samples_y,
-            resample_alg=gdal.GRIORA_NearestNeighbour,
-        )  # fmt: skip
-        return samples[::-1] if self.flipped else samples
+            *box, window.samples_x, window.samples_y, resample_alg=gdal.GRIORA_NearestNeighbour
+        )
+        return samples[:: -1 if self.flipped else 1]
 
     def doubles(self, index, window):
         samples = self.read(index, window)
         return samples.real.astype(float), self.valid(index, samples.real.astype(float))
 
     def bytes(self, index, window):
-        """As bytes by a plain cast: integers keep their low eight bits."""
-        samples = self.read(index, window).astype(numpy.int64).astype(numpy.uint8)
+        samples = self.read(index, window)
         return samples, self.valid(index, samples.astype(float))
 
     def valid(self, index, samples):
@@ -132,9 +142,9 @@ class Grid:
         return finite & (abs(known - nodata) > tolerance)
 
     def range(self, index):
-        """Minimum and maximum of the valid cells, 0 and 0 if there are none."""
+        """Minimum and maximum of the valid finite cells, 0 and 0 if there are none."""
         samples, valid = self.doubles(index, Window(0, 0, self.nx, self.ny, self.nx, self.ny))
-        known = samples[valid]
+        known = samples[valid & numpy.isfinite(samples)]
         return (float(known.min()), float(known.max())) if known.size else (0.0, 0.0)
 
 
@@ -206,9 +216,15 @@ def place(extent, view, size):
         return None
     to_page = box_to_box(view, (0, 0, *size))
     p0, p1 = transformed(to_page, x0, y0), transformed(to_page, x1, y1)
-    left, bottom = rounded(p0[0]), rounded(p0[1])
-    nx, ny = max(1, rounded(p1[0]) - left), max(1, rounded(p1[1]) - bottom)
-    return Placement((x0, y0, x1, y1), left, bottom, nx, ny)
+    left, right = whole_side(p0[0], p1[0])
+    bottom, top = whole_side(p0[1], p1[1])
+    return Placement((x0, y0, x1, y1), left, bottom, right - left, top - bottom)
+
+
+def whole_side(low, high):
+    """Both ends to whole pixels; what would vanish takes the pixel that it begins in."""
+    a, b = rounded(low), rounded(high)
+    return (a, b) if a < b else (math.floor(low), math.floor(low) + 1)
 
 
 def map_to_nodes(grid):

@@ -2,7 +2,6 @@
 // Trees: the project tree's nodes, the groups in them, and JSON objects.
 
 #include "zu/platform/zuk_basic.h"
-#include "zu/platform/zuk_styles.h"
 
 // --- Project tree. A node handed out is closed by whoever got it; the tree lives with its root.
 

@@ -1,0 +1,68 @@
+#pragma once
+// A dataset of GDAL as a source of the system.
+
+#include "platform/zuk_datasource/band_reader.h"
+#include "platform/zuk_datasource/source_details.h"
+#include "zu/data_source.h"
+#include "zu/polymorphic.h"
+
+namespace zu::platform {
+
+/// Deletes itself on release. Each band is a field.
+class gdal_source final : public polymorphic<data_source_impl>,
+                          public polymorphic<stat_source_impl>,
+                          public polymorphic<grid_source_impl>,
+                          public polymorphic<source_details_impl> {
+ public:
+  gdal_source(dataset_ptr dataset, std::wstring name);
+
+  void release() override { delete this; }
+  bool extent(double* box, bool force) override;
+  std::int64_t field_count() override;
+  void field_name(std::int64_t field, string_visitor visitor) override;
+  bool find_field(const wchar_t* name, std::int64_t* index) override;
+  void get_projection(string_visitor visitor) override;
+  bool set_projection(const wchar_t* text) override;
+
+  bool minimum(std::int64_t field, double* out) override;
+  bool maximum(std::int64_t field, double* out) override;
+  bool mean(std::int64_t field, double* out) override;
+  bool stddev(std::int64_t field, double* out) override;
+
+  std::int32_t grid_type() override;
+  bool sizes(std::int32_t* three) override;
+  bool matrix3x3(double* nine) override;
+  bool matrix4x4(double* sixteen) override;
+  bool get_origin(double* three) override;
+  bool set_origin(const double* three) override;
+  bool get_spacing(double* three) override;
+  bool set_spacing(const double* three) override;
+  double azimuth() override;
+  std::int32_t sample_type(std::int64_t band) override;
+  std::int32_t color_role(std::int64_t band) override;
+  bool palette(std::int64_t band, grid_palette_visitor visitor) override;
+  bool block(std::int64_t band, grid_block_visitor visitor) override;
+  bool row_ids(grid_block_visitor visitor) override;
+
+  bool field_info(std::int64_t field, Tzu_field_info* out) override;
+  void driver(string_visitor visitor) override;
+  bool rows_run_south() override { return place().rows_run_south; }
+  void georeference_text(string_visitor visitor) override;
+  std::uint32_t part_count() override;
+  void part(std::uint32_t index, string_visitor name, string_visitor description) override;
+  bool compute_stat(std::int64_t field, std::uint64_t most, bool (*progress)(double, void*),
+                    void* user, Tzu_field_stat* out) override;
+
+ private:
+  GDALRasterBand* band(std::int64_t field);  // null if there is none
+  std::string name_of(std::int64_t field);
+  bool stored(std::int64_t field, const char* item, double* out);
+  const georeference& place() { return dataset_->place(); }
+  bool move_to(const std::array<double, 9>& matrix);
+  band_reader reader_of(std::int64_t field);
+
+  dataset_ptr dataset_;
+  std::wstring name_;
+};
+
+}  // namespace zu::platform

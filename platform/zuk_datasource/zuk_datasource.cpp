@@ -1,0 +1,80 @@
+#include "zu/platform/zuk_datasource.h"
+
+#include "platform/zuk_basic/guarded.h"
+#include "platform/zuk_basic/utf8.h"
+#include "platform/zuk_datasource/gdal_source.h"
+
+using namespace zu;
+using namespace zu::platform;
+
+namespace {
+
+struct to_adapter : string_visitor_impl {
+  explicit to_adapter(Tzu_string_adp* adapter) : adapter(adapter) {}
+  void visit(const wchar_t* text) override { zu_string_adp_feed(adapter, text); }
+  Tzu_string_adp* adapter;
+};
+
+}  // namespace
+
+void zu_datasource_open(const wchar_t* name, int32_t read_only, void*, Tzu_handle* out) {
+  if (out == nullptr) return;
+  *out = {};
+  guarded(name, [&](const wchar_t& first) {
+    std::wstring wide = &first;
+    std::string reason;
+    dataset_ptr opened = dataset_pool::shared().acquire(to_utf8(wide), read_only != 0, reason);
+    if (opened == nullptr) {
+      zu_problems_add(wide.c_str(), zu_problem_open, from_utf8(reason).c_str());
+      return;
+    }
+    *out = handle_of<data_source_impl>(*new gdal_source(std::move(opened), std::move(wide)));
+  });
+}
+
+void zu_datasource_set_pool_size(uint32_t files) {
+  auto& pool = dataset_pool::shared();
+  guarded(&pool, [&](dataset_pool& p) { p.set_size(files); });
+}
+
+bool zu_datasource_get_field_info(Tzu_handle source, int64_t field, Tzu_field_info* out) {
+  if (out == nullptr) return false;
+  return call<&source_details_impl::field_info>(cast<source_details_impl>(source), field, out);
+}
+
+void zu_datasource_get_driver_w(Tzu_handle source, Tzu_string_adp* adapter) {
+  to_adapter visitor(adapter);
+  call<&source_details_impl::driver>(cast<source_details_impl>(source),
+                                     handle_of<string_visitor_impl>(visitor));
+}
+
+bool zu_datasource_rows_run_south(Tzu_handle source) {
+  return call<&source_details_impl::rows_run_south>(cast<source_details_impl>(source));
+}
+
+void zu_datasource_get_georeference_w(Tzu_handle source, Tzu_string_adp* adapter) {
+  to_adapter visitor(adapter);
+  call<&source_details_impl::georeference_text>(cast<source_details_impl>(source),
+                                                handle_of<string_visitor_impl>(visitor));
+}
+
+uint32_t zu_datasource_get_part_count(Tzu_handle source) {
+  return call<&source_details_impl::part_count>(cast<source_details_impl>(source));
+}
+
+void zu_datasource_get_part_w(Tzu_handle source, uint32_t index, Tzu_string_adp* name,
+                              Tzu_string_adp* description) {
+  to_adapter name_visitor(name), description_visitor(description);
+  call<&source_details_impl::part>(cast<source_details_impl>(source), index,
+                                   handle_of<string_visitor_impl>(name_visitor),
+                                   handle_of<string_visitor_impl>(description_visitor));
+}
+
+bool zu_datasource_compute_stat(Tzu_handle source, int64_t field, uint64_t most,
+                                bool (*progress)(double share, void* user), void* user,
+                                Tzu_field_stat* out) {
+  if (out == nullptr) return false;
+  *out = {};
+  return call<&source_details_impl::compute_stat>(cast<source_details_impl>(source), field, most,
+                                                  progress, user, out);
+}

@@ -33,27 +33,38 @@ format format_of(const std::string& path) {
   throw write_failure("unknown kind of picture: " + (ending.empty() ? "no ending" : ending));
 }
 
-/// GDAL's messages are collected: it prints nothing.
-class quiet_gdal {
+/// While it lives GDAL prints nothing, and the first failure is kept: later ones only follow from
+/// it.
+class gdal_failure {
  public:
-  quiet_gdal() {
-    CPLErrorReset();
-    CPLPushErrorHandler(CPLQuietErrorHandler);
-  }
-  ~quiet_gdal() { CPLPopErrorHandler(); }
-  quiet_gdal(const quiet_gdal&) = delete;
-  quiet_gdal& operator=(const quiet_gdal&) = delete;
-};
+  gdal_failure() { CPLPushErrorHandlerEx(&gdal_failure::hear, this); }
+  ~gdal_failure() { CPLPopErrorHandler(); }
+  gdal_failure(const gdal_failure&) = delete;
+  gdal_failure& operator=(const gdal_failure&) = delete;
 
-void fail_as_gdal_did() {
-  int error = errno;
-  std::string said = CPLGetLastErrorMsg();
-  if (error == ENOSPC || error == EFBIG || error == EDQUOT ||
-      said.find("No space left") != std::string::npos ||
-      said.find("File too large") != std::string::npos)
-    throw write_failure("no space left on the device");
-  throw write_failure(said.empty() ? "the picture could not be written" : said);
-}
+  bool happened() const { return happened_; }
+  [[noreturn]] void raise() const {
+    bool full = error_ == ENOSPC || error_ == EFBIG || error_ == EDQUOT ||
+                said_.find("No space left") != std::string::npos ||
+                said_.find("File too large") != std::string::npos;
+    if (full) throw write_failure("no space left on the device");
+    throw write_failure(said_.empty() ? "the picture could not be written" : said_);
+  }
+
+ private:
+  static void CPL_STDCALL hear(CPLErr grade, CPLErrorNum, const char* text) {
+    int error = errno;
+    auto* self = static_cast<gdal_failure*>(CPLGetErrorHandlerUserData());
+    if (grade < CE_Failure || self->happened_) return;
+    self->happened_ = true;
+    self->error_ = error;
+    self->said_ = text;
+  }
+
+  bool happened_ = false;
+  int error_ = 0;
+  std::string said_;
+};
 
 std::unique_ptr<GDALDataset> in_memory(picture& drawn) {
   auto* driver = GetGDALDriverManager()->GetDriverByName("MEM");
@@ -95,7 +106,7 @@ void save_picture(picture& drawn, const std::string& path, const Tzu_box_d2* box
   // A limit on the size of files is reported by the write, not by a signal.
   std::signal(SIGXFSZ, SIG_IGN);
   {
-    quiet_gdal quiet;
+    gdal_failure failure;
     std::unique_ptr<GDALDataset> source = in_memory(drawn);
     if (kind.georeferenced && box != nullptr) georeference(*source, drawn, *box, projection);
     CPLStringList options;
@@ -106,10 +117,10 @@ void save_picture(picture& drawn, const std::string& path, const Tzu_box_d2* box
     errno = 0;
     std::unique_ptr<GDALDataset> written(driver->CreateCopy(
         file.temporary().c_str(), source.get(), FALSE, options.List(), nullptr, nullptr));
-    if (!written) fail_as_gdal_did();
+    if (!written) failure.raise();
     written->FlushCache(true);
     written.reset();
-    if (CPLGetLastErrorType() >= CE_Failure) fail_as_gdal_did();
+    if (failure.happened()) failure.raise();
   }
   file.commit();
 }

@@ -81,22 +81,29 @@ void value_scale::end_find() {
 void value_scale::prepare() {
   std::vector<held_interval> held;
   std::vector<double> ends;
-  Tzu_scale_prm* of_nan = nullptr;
+  Tzu_scale_prm *of_nan = nullptr, *of_lowest = nullptr;  // no interval can begin below -infinity
+  auto keep_first = [](Tzu_scale_prm*& kept, const value_class& c) {
+    if (kept == nullptr) kept = c.row.get();
+  };
   for (const value_class& c : classes) {
-    if (std::optional<double> number = number_of(c.text)) {
+    std::optional<double> number = number_of(c.text);
+    if (number == -HUGE_VAL) {
+      keep_first(of_lowest, c);
+      ends.push_back(*number);
+    } else if (number.has_value()) {
       // The lowest agreeing number is inside: the interval begins at the one before.
       double low = std::nextafter(last_agreeing(*number, -HUGE_VAL), -HUGE_VAL);
       held.push_back({low, last_agreeing(*number, HUGE_VAL), c.row.get()});
       ends.insert(ends.end(), {held.back().low, held.back().high});
-    } else if (of_nan == nullptr && (c.text == L"nan" || c.text == L"-nan")) {
-      of_nan = c.row.get();
+    } else if (c.text == L"nan" || c.text == L"-nan") {
+      keep_first(of_nan, c);
     }
   }
   make_keys(ends);
   interval_sweep sweep(held);
   prepared_.begin(of_nan != nullptr ? of_nan : &other);
   for (double end : ends) {
-    Tzu_scale_prm* row = sweep.row_at(end);
+    Tzu_scale_prm* row = end == -HUGE_VAL ? of_lowest : sweep.row_at(end);
     prepared_.add(end, row != nullptr ? row : &other);
   }
   lookup = prepared_.end(&other);

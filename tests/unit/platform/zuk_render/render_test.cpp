@@ -1,0 +1,71 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "zu/platform/zuk_render.h"
+
+namespace {
+
+class render : public testing::Test {
+ protected:
+  render()
+      : drwc_(zu_drwc_create_image(100, 50, 25.4, false)),
+        render_(zu_render_create(drwc_, &box_)) {}
+  ~render() override {
+    zu_render_destroy(render_);
+    zu_drwc_destroy(drwc_);
+  }
+
+  const Tzu_box_d2 box_{1000, 2000, 1200, 2100};
+  Tzu_drwc* drwc_;
+  Izu_render* render_;
+};
+
+TEST_F(render, its_page_shows_the_map_box_with_y_upwards) {
+  EXPECT_EQ(zu_render_get_drwc(render_), drwc_);
+  EXPECT_EQ(zu_render_get_map_box_cr(render_)->x1, 1200);
+  double x = 1000, y = 2000;
+  zu_xy_apply_matrix3x3(&x, &y, zu_render_get_matrix_cr2mm(render_));
+  EXPECT_NEAR(x, 0, 1e-9);
+  EXPECT_NEAR(y, 0, 1e-9);
+  x = 1200, y = 2100;
+  zu_xy_apply_matrix3x3(&x, &y, zu_render_get_matrix_cr2mm(render_));
+  EXPECT_NEAR(x, 100, 1e-9);
+  EXPECT_NEAR(y, 50, 1e-9);
+}
+
+TEST_F(render, keeps_a_projection) {
+  std::wstring text;
+  auto sink = [](const wchar_t* t, void* user) { *static_cast<std::wstring*>(user) = t; };
+  Tzu_string_adp* adapter = zu_string_adp_create(nullptr, sink, &text);
+  zu_render_set_pj4wstr(render_, L"EPSG:3857");
+  zu_render_get_pj4wstr(render_, adapter);
+  EXPECT_EQ(text, L"EPSG:3857");
+  zu_render_set_pj4wstr(render_, nullptr);
+  zu_render_get_pj4wstr(render_, adapter);
+  EXPECT_EQ(text, L"");
+  zu_string_adp_destroy(adapter);
+}
+
+TEST_F(render, an_affine_step_is_copied_and_null_switches_it_off) {
+  EXPECT_FALSE(zu_render_has_affine_transform(render_));
+  EXPECT_EQ(zu_render_get_affine_matrix(render_), nullptr);
+  Tzu_matrix3x3 matrix{{{2, 0, 1}, {0, 2, 1}, {0, 0, 1}}};
+  zu_render_set_affine_matrix(render_, &matrix);
+  matrix.m[0][0] = 0;
+  ASSERT_TRUE(zu_render_has_affine_transform(render_));
+  EXPECT_EQ(zu_render_get_affine_matrix(render_)->m[0][0], 2);
+  zu_render_set_affine_matrix(render_, nullptr);
+  EXPECT_FALSE(zu_render_has_affine_transform(render_));
+}
+
+TEST_F(render, null_has_nothing) {
+  EXPECT_EQ(zu_render_create(drwc_, nullptr), nullptr);
+  EXPECT_EQ(zu_render_get_drwc(nullptr), nullptr);
+  EXPECT_EQ(zu_render_get_map_box_cr(nullptr), nullptr);
+  EXPECT_EQ(zu_render_get_matrix_cr2mm(nullptr), nullptr);
+  EXPECT_FALSE(zu_render_has_affine_transform(nullptr));
+  zu_render_destroy(nullptr);
+}
+
+}  // namespace

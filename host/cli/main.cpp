@@ -35,7 +35,7 @@ int fail(const char* reason) {
 }
 
 /// One line of what the parser says.
-std::string one_line(std::string text) { return text.substr(0, text.find('\n')); }
+std::string one_line(const std::string& text) { return text.substr(0, text.find('\n')); }
 
 }  // namespace
 

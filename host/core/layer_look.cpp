@@ -141,9 +141,12 @@ std::string why_not(const layer_look& look, const source& data) {
   if (!look.field.empty()) wanted.push_back(look.field);
   for (const std::string& name : wanted) {
     if (data.find(name)) continue;
-    std::string known;
-    for (const field& f : data.fields()) known += (known.empty() ? "" : ", ") + f.name;
-    return "has no field \"" + name + "\"; its fields are: " + known;
+    std::string reason = "has no field \"" + name + "\"; its fields are: ";
+    for (const field& f : data.fields()) {
+      if (&f != &data.fields().front()) reason += ", ";
+      reason += f.name;
+    }
+    return reason;
   }
   return {};
 }

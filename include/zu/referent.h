@@ -55,15 +55,16 @@ template <class held, int flag, class traits = reftraits<held>> class ref : publ
     if (this != &other) reset(other.held_);
     return *this;
   }
-  ~ref() { reset(); }
+  ~ref() { let_go(std::exchange(held_, handle())); }
 
   /// Takes `h`, which may be empty, and lets go of what was held. The new one is attached first,
   /// so that taking the same object again does not end it.
-  void reset(handle h = {}) {
+  void reset(handle h) {
     handle former = held_;
     take(h);
     let_go(former);
   }
+  void reset() { let_go(std::exchange(held_, handle())); }
   held get() const { return held(held_); }
   explicit operator bool() const { return static_cast<bool>(held_); }
 

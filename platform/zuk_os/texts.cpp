@@ -27,16 +27,17 @@ void feed(Tzu_string_adp* adapter, const icu::UnicodeString& text) {
   zu_string_adp_feed(adapter, wide.c_str());
 }
 
+icu::Collator* new_collator() {
+  UErrorCode status = U_ZERO_ERROR;
+  icu::Collator* root = icu::Collator::createInstance(icu::Locale::getRoot(), status);
+  if (U_FAILURE(status)) return nullptr;
+  root->setStrength(icu::Collator::SECONDARY);
+  return root;
+}
+
 /// One for each thread: a collator is not to be shared.
 icu::Collator* collator() {
-  thread_local std::unique_ptr<icu::Collator> made = [] {
-    UErrorCode status = U_ZERO_ERROR;
-    std::unique_ptr<icu::Collator> root(
-        icu::Collator::createInstance(icu::Locale::getRoot(), status));
-    if (U_FAILURE(status)) root.reset();
-    if (root) root->setStrength(icu::Collator::SECONDARY);
-    return root;
-  }();
+  thread_local std::unique_ptr<icu::Collator> made(new_collator());
   return made.get();
 }
 

@@ -88,8 +88,9 @@ bool read_lattice(const std::vector<Tzu_vtx_d2>& source, mesh& out) {
   out.step_x = source[rows].x - out.x0, out.step_y = source[1].y - out.y0;
   if (!(out.step_x > 0.0) || !(out.step_y > 0.0)) return false;
   for (std::size_t k = 0; k < source.size(); ++k) {
-    double x = out.x0 + static_cast<double>(k / rows) * out.step_x;
-    double y = out.y0 + static_cast<double>(k % rows) * out.step_y;
+    std::size_t column = k / rows, row = k % rows;
+    double x = out.x0 + static_cast<double>(column) * out.step_x;
+    double y = out.y0 + static_cast<double>(row) * out.step_y;
     if (std::abs(source[k].x - x) > out.step_x * 1e-6 ||
         std::abs(source[k].y - y) > out.step_y * 1e-6)
       return false;

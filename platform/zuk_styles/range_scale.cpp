@@ -17,8 +17,12 @@ range_scale& range_scale::operator=(const range_scale& from) {
   if (this == &from) return *this;
   forget();
   classes.clear();
-  for (const range_class& c : from.classes)
-    classes.push_back({c.minimum, c.maximum, make_row(*c.row)});
+  classes.resize(from.classes.size());
+  for (std::size_t i = 0; i < classes.size(); ++i) {
+    const range_class& c = from.classes[i];
+    classes[i].minimum = c.minimum, classes[i].maximum = c.maximum;
+    *classes[i].row = *c.row;
+  }
   minimum = from.minimum, maximum = from.maximum;
   lower = from.lower, upper = from.upper, other = from.other;
   return *this;

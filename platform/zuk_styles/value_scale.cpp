@@ -51,7 +51,11 @@ value_scale& value_scale::operator=(const value_scale& from) {
   if (this == &from) return *this;
   forget();
   classes.clear();
-  for (const value_class& c : from.classes) classes.push_back({c.text, make_row(*c.row)});
+  classes.resize(from.classes.size());
+  for (std::size_t i = 0; i < classes.size(); ++i) {
+    classes[i].text = from.classes[i].text;
+    *classes[i].row = *from.classes[i].row;
+  }
   other = from.other;
   return *this;
 }

@@ -3,17 +3,17 @@
 namespace zu {
 namespace {
 
-constexpr double lattice_step = 25.0;
+constexpr std::int64_t lattice_step = 25;
 
 /// Vertices at every 25 pixels, from one step before the DIB to its far edge, columns outermost.
 owned<zu_pv_d2_destroy> lattice(std::uint64_t nx, std::uint64_t ny) {
   owned<zu_pv_d2_destroy> vertices(zu_pv_d2_create());
-  double end_x = static_cast<double>(nx) + lattice_step;
-  double end_y = static_cast<double>(ny) + lattice_step;
-  for (double i = -lattice_step; i < end_x; i += lattice_step)
-    for (double j = -lattice_step; j < end_y; j += lattice_step) {
+  auto end_x = static_cast<std::int64_t>(nx) + lattice_step;
+  auto end_y = static_cast<std::int64_t>(ny) + lattice_step;
+  for (std::int64_t i = -lattice_step; i < end_x; i += lattice_step)
+    for (std::int64_t j = -lattice_step; j < end_y; j += lattice_step) {
       Tzu_vtx_d2 vertex;
-      zu_vtx_d2_init_xy(&vertex, i, j);
+      zu_vtx_d2_init_xy(&vertex, static_cast<double>(i), static_cast<double>(j));
       zu_pv_d2_add_vtx(vertices.get(), &vertex);
     }
   return vertices;

@@ -64,7 +64,7 @@ void check(const host::layer_look& look) {
   if (!look.rgb.empty() && look.draw && look.draw != draw_type::rgb)
     throw usage_error("--rgb: goes with --draw rgb");
   bool scale = !look.breaks.empty() || !look.colors.empty() || !look.values.empty() ||
-               look.simple || look.other || look.interpolate;
+               look.simple || look.other;
   if (scale && (channels || look.draw == draw_type::image))
     throw usage_error("--draw: a scale's options go with --draw scale");
   bool own_fields = look.draw == draw_type::rgb || look.draw == draw_type::image ||

@@ -30,7 +30,7 @@ struct layer_look {
 
   bool styles_a_scale() const {
     return !field.empty() || !breaks.empty() || !colors.empty() || !values.empty() || simple ||
-           other || interpolate;
+           other;
   }
 };
 

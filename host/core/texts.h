@@ -1,6 +1,7 @@
 #pragma once
 // Texts between the host (UTF-8) and the platform (wide).
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -18,11 +19,13 @@ std::wstring wide_name(const std::string& file);
 /// The text that a platform function delivers to an adapter; empty if it delivers none.
 template <class function> std::wstring text_of(function&& ask) {
   std::wstring text;
-  Tzu_string_adp* adapter = zu_string_adp_create(
-      nullptr, [](const wchar_t* given, void* user) { *static_cast<std::wstring*>(user) = given; },
-      &text);
-  ask(adapter);
-  zu_string_adp_destroy(adapter);
+  std::unique_ptr<Tzu_string_adp, void (*)(Tzu_string_adp*)> adapter(
+      zu_string_adp_create(
+          nullptr,
+          [](const wchar_t* given, void* user) { *static_cast<std::wstring*>(user) = given; },
+          &text),
+      &zu_string_adp_destroy);
+  ask(adapter.get());
   return text;
 }
 

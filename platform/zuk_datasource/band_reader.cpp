@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <limits>
 #include <map>
 
@@ -23,19 +24,41 @@ bool fits(std::int64_t origin, std::uint64_t size, std::uint64_t all) {
          size <= all - static_cast<std::uint64_t>(origin);
 }
 
-std::vector<std::int64_t> sampled_cells(std::int64_t origin, std::uint64_t size,
-                                        std::uint64_t samples) {
-  std::vector<std::int64_t> out(samples);
-  for (std::uint64_t i = 0; i < samples; ++i) out[i] = sampled_cell(i, samples, origin, size);
-  return out;
-}
+constexpr double hair = 1e-10;
 
 void turn_rows_over(std::byte* data, std::size_t rows, std::size_t row_bytes, std::size_t pitch) {
-  for (std::size_t low = 0, high = rows; low + 1 < high; ++low)
-    std::swap_ranges(data + low * pitch, data + low * pitch + row_bytes, data + --high * pitch);
+  std::vector<std::byte> kept(row_bytes);
+  for (std::size_t low = 0, high = rows; low + 1 < high; ++low) {
+    std::byte *a = data + low * pitch, *b = data + --high * pitch;
+    std::memcpy(kept.data(), a, row_bytes);
+    std::memcpy(a, b, row_bytes);
+    std::memcpy(b, kept.data(), row_bytes);
+  }
 }
 
 }  // namespace
+
+std::vector<std::int64_t> sampled_rows(std::int64_t origin, std::uint64_t size,
+                                       std::uint64_t samples) {
+  std::vector<std::int64_t> out(samples);
+  double step = static_cast<double>(size) / static_cast<double>(samples);
+  for (std::uint64_t i = 0; i < samples; ++i)
+    out[i] = static_cast<std::int64_t>((static_cast<double>(i) + 0.5) * step +
+                                       static_cast<double>(origin) + hair);
+  return out;
+}
+
+std::vector<std::int64_t> sampled_columns(std::int64_t origin, std::uint64_t size,
+                                          std::uint64_t samples) {
+  std::vector<std::int64_t> out(samples);
+  double step = static_cast<double>(size) / static_cast<double>(samples);
+  double at = 0.5 * step + static_cast<double>(origin) + hair;
+  for (std::uint64_t i = 0; i < samples; ++i, at += step) out[i] = static_cast<std::int64_t>(at);
+  // Added up, the last step may end a rounding beyond the window.
+  std::int64_t last = origin + static_cast<std::int64_t>(size) - 1;
+  for (std::uint64_t i = samples; i > 0 && out[i - 1] > last; --i) out[i - 1] = last;
+  return out;
+}
 
 std::int32_t element_type_of(GDALRasterBand& band) {
   switch (band.GetRasterDataType()) {
@@ -128,15 +151,18 @@ std::int32_t band_reader::read(const grid_window& w, void* out, std::int32_t typ
 
   gdal_messages said;
   bool good = true;
+  std::size_t width = element_width(type_), row_bytes = w.sample_x * width;
   if (type == type_ && to.column_stride == 1) {
     good = read_native(w, out, to.row_stride);
+    if (good && rows_run_south_)
+      turn_rows_over(static_cast<std::byte*>(out), w.sample_y, row_bytes, to.row_stride * width);
   } else {
-    std::size_t width = element_width(type_);
-    auto native = std::make_unique_for_overwrite<std::byte[]>(w.sample_x * w.sample_y * width);
+    auto native = std::make_unique_for_overwrite<std::byte[]>(w.sample_y * row_bytes);
     good = read_native(w, native.get(), w.sample_x);
     for (std::uint64_t row = 0; good && row < w.sample_y; ++row)
-      convert_elements(native.get() + row * w.sample_x * width, type_, 1, to.at(0, row), type,
-                       static_cast<std::ptrdiff_t>(to.column_stride), w.sample_x);
+      convert_elements(native.get() + (rows_run_south_ ? w.sample_y - 1 - row : row) * row_bytes,
+                       type_, 1, to.at(0, row), type, static_cast<std::ptrdiff_t>(to.column_stride),
+                       w.sample_x);
   }
   return good ? read_done : salvage(w, to, said.reason(dataset_->path(), "unknown reason"));
 }
@@ -150,36 +176,28 @@ bool band_reader::read_native(const grid_window& w, void* out, std::uint64_t row
   if (rows_run_south_ && w.sample_y != w.ny) {
     // A sample between two cells belongs to the one with the higher presented row, also when the
     // rows are counted from the other end.
-    constexpr double hair = 1e-6;
+    constexpr double less = 1e-6;
     options.bFloatingPointWindowValidity = TRUE;
     options.dfXOff = static_cast<double>(w.x), options.dfXSize = static_cast<double>(w.nx);
-    options.dfYOff = static_cast<double>(top) - hair, options.dfYSize = static_cast<double>(w.ny);
+    options.dfYOff = static_cast<double>(top) - less, options.dfYSize = static_cast<double>(w.ny);
   }
   CPLErr result = band_.RasterIO(
       GF_Read, static_cast<int>(w.x), static_cast<int>(top), static_cast<int>(w.nx),
       static_cast<int>(w.ny), out, static_cast<int>(w.sample_x), static_cast<int>(w.sample_y),
       gdal_type_of(type_), static_cast<GSpacing>(width), static_cast<GSpacing>(pitch), &options);
-  if (result != CE_None) return false;
-  if (rows_run_south_)
-    turn_rows_over(static_cast<std::byte*>(out), w.sample_y, w.sample_x * width, pitch);
-  return true;
+  return result == CE_None;
 }
 
 bool band_reader::read_sampled(const grid_window& w, void* out) {
   if (band_.GetOverviewCount() > 0) return false;
   plain_tiff_band* plain = dataset_->plain_band(index_);
   if (plain == nullptr) return false;
-  std::vector<std::int64_t> rows = sampled_cells(w.y, w.ny, w.sample_y);
+  std::vector<std::int64_t> rows = sampled_rows(w.y, w.ny, w.sample_y);
   if (rows_run_south_) {
     for (std::int64_t& row : rows) row = file_row(row);
     std::reverse(rows.begin(), rows.end());
   }
-  std::size_t width = element_width(type_);
-  if (!plain->sample(sampled_cells(w.x, w.nx, w.sample_x), rows, out, width)) return false;
-  if (rows_run_south_)
-    turn_rows_over(static_cast<std::byte*>(out), w.sample_y, w.sample_x * width,
-                   w.sample_x * width);
-  return true;
+  return plain->sample(sampled_columns(w.x, w.nx, w.sample_x), rows, out, element_width(type_));
 }
 
 // Reads block by block at full resolution what can be read of a window that could not.
@@ -194,11 +212,11 @@ std::int32_t band_reader::salvage(const grid_window& w, const target& to,
                : 0;
   int block_x = 0, block_y = 0;
   band_.GetBlockSize(&block_x, &block_y);
+  std::vector<std::int64_t> xs = sampled_columns(w.x, w.nx, w.sample_x);
+  std::vector<std::int64_t> ys = sampled_rows(w.y, w.ny, w.sample_y);
   std::map<std::int64_t, std::vector<std::uint64_t>> columns, rows;  // samples by block
-  for (std::uint64_t i = 0; i < w.sample_x; ++i)
-    columns[sampled_cell(i, w.sample_x, w.x, w.nx) / block_x].push_back(i);
-  for (std::uint64_t i = 0; i < w.sample_y; ++i)
-    rows[file_row(sampled_cell(i, w.sample_y, w.y, w.ny)) / block_y].push_back(i);
+  for (std::uint64_t i = 0; i < w.sample_x; ++i) columns[xs[i] / block_x].push_back(i);
+  for (std::uint64_t i = 0; i < w.sample_y; ++i) rows[file_row(ys[i]) / block_y].push_back(i);
 
   std::size_t width = element_width(type_);
   auto line = static_cast<std::size_t>(block_x);
@@ -215,9 +233,9 @@ std::int32_t band_reader::salvage(const grid_window& w, const target& to,
                          static_cast<GSpacing>(line * width), nullptr) == CE_None;
       any = any || good;
       for (std::uint64_t row : row_samples) {
-        std::int64_t y = file_row(sampled_cell(row, w.sample_y, w.y, w.ny)) - y0;
+        std::int64_t y = file_row(ys[row]) - y0;
         for (std::uint64_t column : column_samples) {
-          std::int64_t x = sampled_cell(column, w.sample_x, w.x, w.nx) - x0;
+          std::int64_t x = xs[column] - x0;
           const std::byte* cell =
               block.data() +
               (static_cast<std::size_t>(y) * line + static_cast<std::size_t>(x)) * width;

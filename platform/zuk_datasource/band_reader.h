@@ -21,15 +21,13 @@ struct grid_window {
 /// Results of a read, as the interface of a block has them.
 enum read_result : std::int32_t { read_done = 1, read_impossible = 2, read_failed = 3 };
 
-/// The cell that sample `index` of `samples` takes from `size` cells at `origin`: the one in whose
-/// middle it lies. A hair, the same as GDAL's, keeps a sample between two cells in the upper one.
-inline std::int64_t sampled_cell(std::uint64_t index, std::uint64_t samples, std::int64_t origin,
-                                 std::uint64_t size) {
-  constexpr double hair = 1e-10;
-  double step = static_cast<double>(size) / static_cast<double>(samples);
-  return static_cast<std::int64_t>((static_cast<double>(index) + 0.5) * step +
-                                   static_cast<double>(origin) + hair);
-}
+/// The rows and columns that `samples` samples take from `size` cells at `origin`: those in whose
+/// middle they lie, columns by repeated addition of the step. A hair, the same as GDAL's, keeps a
+/// sample between two cells in the upper one; so all ways of reading take the same cells.
+std::vector<std::int64_t> sampled_rows(std::int64_t origin, std::uint64_t size,
+                                       std::uint64_t samples);
+std::vector<std::int64_t> sampled_columns(std::int64_t origin, std::uint64_t size,
+                                          std::uint64_t samples);
 
 /// Element type by which cells of a band are presented, 1 to 10, and GDAL's type to read them by.
 /// Complex cells are presented by their real part.
@@ -57,6 +55,7 @@ class band_reader {
  private:
   struct target;
   std::int64_t file_row(std::int64_t row) const;
+  // Elements of the band's own type, rows in the file's order.
   bool read_native(const grid_window& window, void* out, std::uint64_t row_stride);
   bool read_sampled(const grid_window& window, void* out);
   std::int32_t salvage(const grid_window& window, const target& to, const std::string& reason);

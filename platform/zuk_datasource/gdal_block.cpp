@@ -116,12 +116,13 @@ std::int32_t row_id_block::read_window(const std::int64_t* origin, const std::ui
     return read_impossible;
   std::uint64_t across = stride_of(strides, 0) == 0 ? 1 : stride_of(strides, 0);
   std::uint64_t down = stride_of(strides, 1) == 0 ? across * sample[0] : stride_of(strides, 1);
-  std::vector<std::uint64_t> columns(sample[0]), ids(sample[0]);
-  for (std::uint64_t i = 0; i < sample[0]; ++i)
-    columns[i] = static_cast<std::uint64_t>(sampled_cell(i, sample[0], origin[0], size[0]));
+  std::vector<std::int64_t> columns = sampled_columns(origin[0], size[0], sample[0]);
+  std::vector<std::int64_t> rows = sampled_rows(origin[1], size[1], sample[1]);
+  std::vector<std::uint64_t> ids(sample[0]);
   for (std::uint64_t row = 0; row < sample[1]; ++row) {
-    auto y = static_cast<std::uint64_t>(sampled_cell(row, sample[1], origin[1], size[1]));
-    for (std::uint64_t i = 0; i < sample[0]; ++i) ids[i] = y * columns_ + columns[i];
+    std::uint64_t first = static_cast<std::uint64_t>(rows[row]) * columns_;
+    for (std::uint64_t i = 0; i < sample[0]; ++i)
+      ids[i] = first + static_cast<std::uint64_t>(columns[i]);
     convert_elements(ids.data(), element_uint64, 1,
                      static_cast<std::byte*>(buffer) + row * down * width, type,
                      static_cast<std::ptrdiff_t>(across), sample[0]);

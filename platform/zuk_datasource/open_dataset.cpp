@@ -10,6 +10,7 @@
 #include <gdal_pam.h>
 
 #include "platform/zuk_datasource/gdal_messages.h"
+#include "platform/zuk_datasource/stacked_parts.h"
 
 namespace zu::platform {
 
@@ -107,7 +108,8 @@ std::vector<std::string> subdataset_names(GDALDataset& dataset) {
   }
 }
 
-// A container of one part stands for that part; of more, the reason says how to name them.
+// A container of one part stands for that part, and one whose parts lie on one another for a grid
+// with a band each; of other ones the reason says how to name the parts.
 dataset_ptr open_raster(const std::string& name, bool read_only, bool may_descend,
                         std::string& reason) {
   gdal_messages said;
@@ -125,6 +127,9 @@ dataset_ptr open_raster(const std::string& name, bool read_only, bool may_descen
   if (found->GetRasterCount() > 0) return opened;
   std::vector<std::string> parts = subdataset_names(*found);
   if (parts.size() == 1 && may_descend) return open_raster(parts[0], read_only, false, reason);
+  if (read_only)
+    if (GDALDataset* stack = stack_parts(parts))
+      return std::make_shared<open_dataset>(stack, name, read_only);
   reason = parts.empty() ? "holds no bands" : list_of(parts);
   return nullptr;
 }

@@ -1,6 +1,7 @@
 #pragma once
 // Texts that come from the platform through adapters and from interfaces through visitors.
 
+#include <memory>
 #include <set>
 #include <string>
 #include <vector>
@@ -42,8 +43,9 @@ namespace zu {
 template <class function> std::wstring text_of(function&& ask) {
   std::wstring text;
   Tzu_std_wstring_adapter receiver(text);
+  std::unique_ptr<Tzu_string_adp, void (*)(Tzu_string_adp*)> ended(receiver.adapter,
+                                                                  &zu_string_adp_destroy);
   ask(receiver.adapter);
-  zu_string_adp_destroy(receiver.adapter);
   return text;
 }
 

@@ -1,10 +1,11 @@
 #include "tests/abi/house_rules.h"
 
+#include <algorithm>
 #include <cctype>
 #include <fstream>
 #include <iterator>
 #include <map>
-#include <regex>
+#include <optional>
 #include <sstream>
 
 namespace house {
@@ -35,16 +36,43 @@ std::string read(const fs::path& path) {
   return {std::istreambuf_iterator<char>(in), {}};
 }
 
+/// The include directive of a line, if it is one.
+std::optional<include> directive_in(const std::string& file, const std::string& line) {
+  auto skip_blanks = [&](std::size_t at) {
+    return std::min(line.find_first_not_of(" \t", at), line.size());
+  };
+  static const std::string word = "include";
+  std::size_t at = skip_blanks(0);
+  if (at == line.size() || line[at] != '#') return {};
+  at = skip_blanks(at + 1);
+  if (line.compare(at, word.size(), word) != 0) return {};
+  at = skip_blanks(at + word.size());
+  if (at == line.size() || (line[at] != '"' && line[at] != '<')) return {};
+  bool quoted = line[at] == '"';
+  std::size_t end = line.find(quoted ? '"' : '>', at + 1);
+  if (end == std::string::npos) return {};
+  return include{file, line.substr(at + 1, end - at - 1), quoted};
+}
+
 std::vector<include> includes_of(const tree& t) {
-  static const std::regex directive(R"(^\s*#\s*include\s*([<"])([^>"]+)[>"])");
   std::vector<include> all;
   for (const std::string& file : t.files) {
     if (!is_header(file) && !is_source(file)) continue;
     std::istringstream in(read(t.root / file));
-    std::smatch found;
     for (std::string line; std::getline(in, line);)
-      if (std::regex_search(line, found, directive))
-        all.push_back({file, found[2].str(), found[1].str() == "\""});
+      if (auto found = directive_in(file, line)) all.push_back(*found);
+  }
+  return all;
+}
+
+/// Every text that stands between `before` and the next `after`.
+std::vector<std::string> between(const std::string& text, const std::string& before, char after) {
+  std::vector<std::string> all;
+  for (std::size_t at = 0; (at = text.find(before, at)) != std::string::npos;) {
+    at += before.size();
+    std::size_t end = text.find(after, at);
+    if (end == std::string::npos) break;
+    all.push_back(text.substr(at, end - at));
   }
   return all;
 }
@@ -177,7 +205,7 @@ bool may_host(const include& i) {
   if (begins(i.path, "zu/") || begins(i.path, "host/core/")) return true;
   for (const char* own : {"host/cli/", "host/desktop/"})
     if (begins(i.path, own)) return begins(i.file, own);
-  return i.path == "resources/texts.def";
+  return false;
 }
 bool may_border(const include& i) {
   if (!i.quoted) return standard.count(i.path) != 0 || standard_of_c.count(i.path) != 0;
@@ -198,9 +226,12 @@ const std::map<std::string, int> floors = {
 
 /// Library of the platform that a path belongs to, folder or header; empty if to none.
 std::string library_of(const std::string& path) {
-  static const std::regex shape(R"(^(?:platform/|include/zu/platform/|zu/platform/)([^/.]+)[/.])");
-  std::smatch found;
-  return std::regex_search(path, found, shape) ? found[1].str() : std::string();
+  for (const std::string start : {"platform/", "include/zu/platform/", "zu/platform/"})
+    if (begins(path, start)) {
+      std::size_t end = path.find_first_of("/.", start.size());
+      return end == std::string::npos ? "" : path.substr(start.size(), end - start.size());
+    }
+  return {};
 }
 
 }  // namespace
@@ -217,10 +248,8 @@ tree::tree(const fs::path& root) : root(root) {
 }
 
 void tree::read_compiled(const fs::path& compile_commands) {
-  static const std::regex entry(R"re("file":\s*"([^"]+)")re");
-  std::string text = read(compile_commands);
-  for (std::sregex_iterator found(text.begin(), text.end(), entry), end; found != end; ++found)
-    compiled.insert(fs::path((*found)[1].str()).lexically_relative(root).generic_string());
+  for (const std::string& file : between(read(compile_commands), "\"file\": \"", '"'))
+    compiled.insert(fs::path(file).lexically_relative(root).generic_string());
 }
 
 findings includes_across_the_border(const tree& t) {
@@ -294,15 +323,12 @@ findings folders_without_readme(const tree& t) {
 }
 
 findings dead_links(const tree& t) {
-  static const std::regex link(R"(\]\(([^)\s]+)[^)]*\))");
   findings all;
   for (const std::string& file : t.files) {
     if (!ends(file, ".md")) continue;
-    std::string text = read(t.root / file);
-    for (std::sregex_iterator found(text.begin(), text.end(), link), end; found != end; ++found) {
-      std::string target = (*found)[1].str();
-      if (target.find(':') != std::string::npos || target[0] == '#') continue;
-      target = target.substr(0, target.find('#'));
+    for (const std::string& link : between(read(t.root / file), "](", ')')) {
+      std::string target = link.substr(0, link.find_first_of(" #"));
+      if (target.empty() || target.find(':') != std::string::npos) continue;
       if (!fs::exists((t.root / file).parent_path() / target))
         all.push_back(file + " links to " + target);
     }

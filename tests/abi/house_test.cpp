@@ -110,6 +110,7 @@ TEST_F(made_tree, every_step_across_the_border_is_found) {
       {"host/core/d.h", "\"host/cli/commands.h\""},
       {"host/cli/a.h", "<QtWidgets/QWidget>"},
       {"host/cli/b.h", "<gdal.h>"},
+      {"host/core/e.h", "\"resources/texts.def\""},
       {"host/desktop/a.h", "\"host/cli/commands.h\""},
       {"include/zu/a.h", "\"src/data/element.h\""},
       {"include/zu/b.h", "\"zu/platform/zuk_prg.h\""},

@@ -138,9 +138,9 @@ TEST_F(bad_input, a_broken_tile_leaves_the_rest_of_the_picture) {
   made.values(1, values);
   made.close();
   std::string bytes = text_of_file(path("g.tif"));
-  std::size_t tile = std::stoul(GDALDataset::Open(path("g.tif").c_str())
-                                    ->GetRasterBand(1)
-                                    ->GetMetadataItem("BLOCK_OFFSET_1_0", "TIFF"));
+  std::unique_ptr<GDALDataset> set(GDALDataset::Open(path("g.tif").c_str()));
+  ASSERT_TRUE(set);
+  std::size_t tile = std::stoul(set->GetRasterBand(1)->GetMetadataItem("BLOCK_OFFSET_1_0", "TIFF"));
   bytes.replace(tile, 32, 32, '\xff');
   write("broken.tif", bytes);
   outcome result = run({"render", path("broken.tif"), "-o", path("o.png"), "--size", "128x64"});

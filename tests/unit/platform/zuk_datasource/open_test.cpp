@@ -121,6 +121,20 @@ TEST(gdal_open, nothing_is_written_beside_a_file_that_is_looked_at) {
   EXPECT_EQ(f.names(), before);
 }
 
+TEST(gdal_open, what_gdal_works_out_about_a_file_is_not_saved) {
+  folder f;
+  std::string path = make(f.at("a.tif"), {}, ramp), reason;
+  {
+    auto opened = zu::platform::open_by_name(path, true, reason);
+    ASSERT_NE(opened, nullptr);
+    double out[4];
+    ASSERT_EQ(opened->gdal().GetRasterBand(1)->ComputeStatistics(FALSE, out, out + 1, out + 2,
+                                                                 out + 3, nullptr, nullptr),
+              CE_None);
+  }
+  EXPECT_EQ(f.names(), std::vector<std::string>{"a.tif"});
+}
+
 // --- Pool
 
 struct pool_of : testing::Test {

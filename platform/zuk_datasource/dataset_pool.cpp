@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <ctime>
 #include <list>
 #include <mutex>
 
@@ -54,6 +55,18 @@ std::vector<file_stamp> stamps_of(const std::string& name, GDALDataset& dataset)
 bool unchanged(const std::vector<file_stamp>& stamps) {
   return std::all_of(stamps.begin(), stamps.end(),
                      [](const file_stamp& s) { return stamp_of(s.path) == s; });
+}
+
+// A file written just now may be written again within the same tick of its clock, unseen.
+bool is_settled(const std::vector<file_stamp>& stamps) {
+  constexpr std::int64_t tick = 20'000'000;  // nanoseconds; clocks of file systems have 4 or 10 ms
+  constexpr std::int64_t second = 1'000'000'000;
+  timespec now{};
+  clock_gettime(CLOCK_REALTIME, &now);
+  return std::all_of(stamps.begin(), stamps.end(), [&](const file_stamp& s) {
+    std::int64_t age = (now.tv_sec - s.seconds) * second + now.tv_nsec - s.nanoseconds;
+    return s.seconds < now.tv_sec - 1 || age < 0 || age > tick;
+  });
 }
 
 }  // namespace
@@ -117,7 +130,7 @@ dataset_ptr dataset_pool::acquire(const std::string& name, bool read_only, std::
   if (opened == nullptr || state_->size == 0) return opened;
   gdal_messages quiet;
   std::vector<file_stamp> stamps = stamps_of(name, opened->gdal());
-  if (stamps.empty()) return opened;
+  if (stamps.empty() || !is_settled(stamps)) return opened;
   state_->entries.push_front({name, opened, std::move(stamps), std::this_thread::get_id()});
   shrink();
   return opened;

@@ -144,18 +144,26 @@ struct pool_of : testing::Test {
     zu_datasource_set_pool_size(0);
     zu_datasource_set_pool_size(files);
   }
-  static GDALDataset* acquired(const std::string& name) {
+  static zu::platform::dataset_ptr acquired(const std::string& name) {
     std::string reason;
-    return &dataset_pool::shared().acquire(name, true, reason)->gdal();
+    return dataset_pool::shared().acquire(name, true, reason);
   }
 };
 
 TEST_F(pool_of, datasets_opens_a_file_once_while_it_stays_the_same) {
   folder f;
   std::string path = make(f.at("a.tif"), {}, ramp);
-  GDALDataset* first = acquired(path);
+  auto first = acquired(path);
   EXPECT_EQ(acquired(path), first);
   EXPECT_EQ(dataset_pool::shared().held(), 1u);
+}
+
+TEST_F(pool_of, datasets_does_not_keep_a_file_that_was_written_this_moment) {
+  folder f;
+  std::string path = make(f.at("a.tif"), {}, ramp);
+  std::filesystem::last_write_time(path, std::filesystem::file_time_type::clock::now());
+  { source s(path); }
+  EXPECT_EQ(dataset_pool::shared().held(), 0u);
 }
 
 TEST_F(pool_of, datasets_sees_a_file_that_was_replaced) {
@@ -178,7 +186,7 @@ TEST_F(pool_of, datasets_sees_overviews_that_appeared) {
   ASSERT_EQ(made->BuildOverviews("NEAREST", 1, &factor, 0, nullptr, nullptr, nullptr), CE_None);
   GDALClose(made);
   ASSERT_TRUE(std::filesystem::exists(path + ".ovr"));
-  EXPECT_EQ(acquired(path)->GetRasterBand(1)->GetOverviewCount(), 1);
+  EXPECT_EQ(acquired(path)->gdal().GetRasterBand(1)->GetOverviewCount(), 1);
 }
 
 TEST_F(pool_of, datasets_holds_no_more_than_its_size_and_drops_the_oldest) {
@@ -187,7 +195,7 @@ TEST_F(pool_of, datasets_holds_no_more_than_its_size_and_drops_the_oldest) {
   std::string a = make(f.at("a.tif"), {}, ramp), b = make(f.at("b.tif"), {}, ramp),
               c = make(f.at("c.tif"), {}, ramp);
   { source s(a); }
-  GDALDataset* kept = acquired(b);
+  auto kept = acquired(b);
   { source s(c); }
   EXPECT_EQ(dataset_pool::shared().held(), 2u);
   EXPECT_EQ(acquired(b), kept);
@@ -195,11 +203,11 @@ TEST_F(pool_of, datasets_holds_no_more_than_its_size_and_drops_the_oldest) {
 
 TEST_F(pool_of, datasets_gives_nothing_that_another_thread_holds) {
   folder f;
-  std::string path = make(f.at("a.tif"), {}, ramp), reason;
-  auto mine = dataset_pool::shared().acquire(path, true, reason);
-  GDALDataset* theirs = nullptr;
+  std::string path = make(f.at("a.tif"), {}, ramp);
+  auto mine = acquired(path);
+  zu::platform::dataset_ptr theirs;
   std::thread([&] { theirs = acquired(path); }).join();
-  EXPECT_NE(theirs, &mine->gdal());
+  EXPECT_NE(theirs, mine);
 }
 
 TEST_F(pool_of, datasets_forgets_a_file_that_is_opened_for_update) {

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <filesystem>
 #include <functional>
 #include <string>
@@ -70,6 +71,9 @@ inline std::string make(const std::string& path, const shape& s,
                 CE_None);
     }
   GDALClose(made);
+  // As if it had been there for long: what was written just now is not kept open.
+  using clock = std::filesystem::file_time_type::clock;
+  std::filesystem::last_write_time(path, clock::now() - std::chrono::hours(1));
   return path;
 }
 

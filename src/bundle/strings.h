@@ -44,7 +44,7 @@ template <class function> std::wstring text_of(function&& ask) {
   std::wstring text;
   Tzu_std_wstring_adapter receiver(text);
   std::unique_ptr<Tzu_string_adp, void (*)(Tzu_string_adp*)> ended(receiver.adapter,
-                                                                  &zu_string_adp_destroy);
+                                                                   &zu_string_adp_destroy);
   ask(receiver.adapter);
   return text;
 }

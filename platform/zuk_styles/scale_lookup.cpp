@@ -59,13 +59,13 @@ Tzu_scale_lookup scale_lookup::end(Tzu_scale_prm* row) {
   return head;
 }
 
-/// Equal buckets of numbers or of bits: whichever leaves less halving, if values are spread as the
-/// keys are.
+/// Equal buckets of numbers, unless those of bits leave clearly less halving to do, if values are
+/// spread as the keys are.
 void scale_lookup::cut_into_buckets(Tzu_scale_lookup& head) {
   double work = cut_into_buckets(head, true);
   std::vector<uint32_t> by_bits = first_key_;
   Tzu_scale_lookup of_bits = head;
-  if (cut_into_buckets(head, false) > 0.8 * work) {
+  if (0.8 * cut_into_buckets(head, false) > work) {
     first_key_.swap(by_bits);
     head = of_bits;
   }

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 namespace zu::platform {
 namespace {
 
@@ -32,6 +34,10 @@ TEST(cut_ring, keeps_the_common_area) {
   EXPECT_DOUBLE_EQ(area(cut_ring({{-90, -90}, {110, -90}, {110, 110}, {-90, 110}}, box)), 100);
   EXPECT_DOUBLE_EQ(area(cut_ring({{0, 0}, {20, 0}, {0, 20}}, box)), 100);
   EXPECT_DOUBLE_EQ(area(cut_ring({{0, 0}, {15, 0}, {0, 15}}, box)), 87.5);
+}
+
+TEST(cut_ring, leaves_out_what_is_not_finite) {
+  EXPECT_DOUBLE_EQ(area(cut_ring({{0, 0}, {NAN, 3}, {8, 0}, {8, HUGE_VAL}, {8, 8}}, box)), 32);
 }
 
 }  // namespace

@@ -170,7 +170,7 @@ TEST(image_context, half_over_nothing_is_half) {
 TEST(image_context, has_ink_where_any_pixel_shows) {
   drwc_ptr drwc = made_picture(9, 9);
   EXPECT_FALSE(zu_drwc_has_ink(drwc.get()));
-  draw(drwc, {8, 0, 9, 1}, made_dib(1, 1, [](auto, auto) { return Tzu_color{0, 0, 0, 254}; }));
+  draw(drwc, {0, 8, 8, 9}, made_dib(8, 1, [](auto, auto) { return Tzu_color{0, 0, 0, 254}; }));
   EXPECT_TRUE(zu_drwc_has_ink(drwc.get()));
 }
 

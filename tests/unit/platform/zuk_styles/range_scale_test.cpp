@@ -154,6 +154,19 @@ TEST(range_scale, a_change_ends_the_look_ups) {
   EXPECT_EQ(scale.found(5), "other");
 }
 
+TEST(range_scale, only_boundaries_spread_over_magnitudes_are_cut_by_their_bits) {
+  std::vector<range> even, tenfold;
+  for (int i = 0; i < 10; ++i) {
+    even.push_back({100.0 * i, 100.0 * (i + 1)});
+    tenfold.push_back({std::pow(10, i), std::pow(10, i + 1)});
+  }
+  made_scale a(even, 0, 1000), b(tenfold, 1, 1e10);
+  zu_rng_scale_beg_find(a.get());
+  zu_rng_scale_beg_find(b.get());
+  EXPECT_FALSE(a.get()->lookup.by_bits);
+  EXPECT_TRUE(b.get()->lookup.by_bits);
+}
+
 // The law written down once more, against prepared look-ups of all shapes.
 TEST(range_scale, many_classes_of_any_spread_answer_by_the_law) {
   std::mt19937_64 random(7);

@@ -36,9 +36,11 @@ icu::Collator* new_collator() {
 }
 
 /// One for each thread: a collator is not to be shared.
+thread_local std::unique_ptr<icu::Collator> collator_of_thread;
+
 icu::Collator* collator() {
-  thread_local std::unique_ptr<icu::Collator> made(new_collator());
-  return made.get();
+  if (!collator_of_thread) collator_of_thread.reset(new_collator());
+  return collator_of_thread.get();
 }
 
 const char* converter_name(uint32_t code_page) {

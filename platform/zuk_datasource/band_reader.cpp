@@ -26,6 +26,21 @@ bool fits(std::int64_t origin, std::uint64_t size, std::uint64_t all) {
 
 constexpr double hair = 1e-10;
 
+/// Rows or columns of a band that GDAL's nearest read takes from a window of it; columns by
+/// repeated addition of the step.
+std::vector<std::int64_t> cells_of_gdal(double origin, double size, std::uint64_t samples, int all,
+                                        bool by_addition) {
+  constexpr double epsilon = 1e-10;
+  double step = size / static_cast<double>(samples), last = all - 1;
+  double at = 0.5 * step + origin + epsilon;
+  std::vector<std::int64_t> cells(samples);
+  for (std::uint64_t i = 0; i < samples; ++i, at += step) {
+    double cell = by_addition ? at : (static_cast<double>(i) + 0.5) * step + origin + epsilon;
+    cells[i] = static_cast<std::int64_t>(std::min(std::max(0.0, cell), last));
+  }
+  return cells;
+}
+
 void turn_rows_over(std::byte* data, std::size_t rows, std::size_t row_bytes, std::size_t pitch) {
   std::vector<std::byte> kept(row_bytes);
   for (std::size_t low = 0, high = rows; low + 1 < high; ++low) {
@@ -168,7 +183,6 @@ std::int32_t band_reader::read(const grid_window& w, void* out, std::int32_t typ
 }
 
 bool band_reader::read_native(const grid_window& w, void* out, std::uint64_t row_stride) {
-  if (row_stride == w.sample_x && is_sparse(w) && read_sampled(w, out)) return true;
   std::size_t width = element_width(type_), pitch = row_stride * width;
   std::int64_t top = rows_run_south_ ? file_row(w.y + static_cast<std::int64_t>(w.ny) - 1) : w.y;
   GDALRasterIOExtraArg options;
@@ -181,6 +195,9 @@ bool band_reader::read_native(const grid_window& w, void* out, std::uint64_t row
     options.dfXOff = static_cast<double>(w.x), options.dfXSize = static_cast<double>(w.nx);
     options.dfYOff = static_cast<double>(top) - less, options.dfYSize = static_cast<double>(w.ny);
   }
+  if (row_stride == w.sample_x && is_sparse(w) &&
+      (band_.GetOverviewCount() > 0 ? read_overview(w, top, options, out) : read_sampled(w, out)))
+    return true;
   CPLErr result = band_.RasterIO(
       GF_Read, static_cast<int>(w.x), static_cast<int>(top), static_cast<int>(w.nx),
       static_cast<int>(w.ny), out, static_cast<int>(w.sample_x), static_cast<int>(w.sample_y),
@@ -189,8 +206,7 @@ bool band_reader::read_native(const grid_window& w, void* out, std::uint64_t row
 }
 
 bool band_reader::read_sampled(const grid_window& w, void* out) {
-  if (band_.GetOverviewCount() > 0) return false;
-  plain_tiff_band* plain = dataset_->plain_band(index_);
+  plain_tiff_band* plain = dataset_->plain_band(index_, -1);
   if (plain == nullptr) return false;
   std::vector<std::int64_t> rows = sampled_rows(w.y, w.ny, w.sample_y);
   if (rows_run_south_) {
@@ -198,6 +214,24 @@ bool band_reader::read_sampled(const grid_window& w, void* out) {
     std::reverse(rows.begin(), rows.end());
   }
   return plain->sample(sampled_columns(w.x, w.nx, w.sample_x), rows, out, element_width(type_));
+}
+
+// The cells that GDAL would take, from the overview that it would take.
+bool band_reader::read_overview(const grid_window& w, std::int64_t top,
+                                GDALRasterIOExtraArg options, void* out) {
+  int x = static_cast<int>(w.x), y = static_cast<int>(top);
+  int nx = static_cast<int>(w.nx), ny = static_cast<int>(w.ny);
+  int level = GDALBandGetBestOverviewLevel2(&band_, x, y, nx, ny, static_cast<int>(w.sample_x),
+                                            static_cast<int>(w.sample_y), &options);
+  plain_tiff_band* plain = level >= 0 ? dataset_->plain_band(index_, level) : nullptr;
+  if (plain == nullptr) return false;
+  bool exact = options.bFloatingPointWindowValidity != FALSE;
+  GDALRasterBand& overview = *band_.GetOverview(level);
+  return plain->sample(cells_of_gdal(exact ? options.dfXOff : x, exact ? options.dfXSize : nx,
+                                     w.sample_x, overview.GetXSize(), true),
+                       cells_of_gdal(exact ? options.dfYOff : y, exact ? options.dfYSize : ny,
+                                     w.sample_y, overview.GetYSize(), false),
+                       out, element_width(type_));
 }
 
 // Reads block by block at full resolution what can be read of a window that could not.

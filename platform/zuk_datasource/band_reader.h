@@ -58,6 +58,8 @@ class band_reader {
   // Elements of the band's own type, rows in the file's order.
   bool read_native(const grid_window& window, void* out, std::uint64_t row_stride);
   bool read_sampled(const grid_window& window, void* out);
+  bool read_overview(const grid_window& window, std::int64_t top, GDALRasterIOExtraArg options,
+                     void* out);
   std::int32_t salvage(const grid_window& window, const target& to, const std::string& reason);
   void keep(const std::string& reason, std::int32_t kind);
 

@@ -156,13 +156,11 @@ const georeference& open_dataset::place() {
   return *place_;
 }
 
-plain_tiff_band* open_dataset::plain_band(int index) {
-  auto at = static_cast<std::size_t>(index);
-  if (looked_at_.size() <= at) looked_at_.resize(at + 1), plain_bands_.resize(at + 1);
-  if (read_only_ && !looked_at_[at])
-    plain_bands_[at] = plain_tiff_band::make(*dataset_, path_, index + 1);
-  looked_at_[at] = true;
-  return plain_bands_[at].get();
+plain_tiff_band* open_dataset::plain_band(int index, int level) {
+  auto [entry, is_new] = plain_bands_.try_emplace({index, level});
+  if (is_new && read_only_)
+    entry->second = plain_tiff_band::make(*dataset_, path_, index + 1, level);
+  return entry->second.get();
 }
 
 dataset_ptr open_by_name(const std::string& name, bool read_only, std::string& reason) {

@@ -2,10 +2,12 @@
 // Opening of a GDAL dataset by name, and the pool of those that stay open.
 
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include <gdal_priv.h>
@@ -30,16 +32,16 @@ class open_dataset {
   /// Worked out on first use; after a change of the place it has to be forgotten.
   const georeference& place();
   void forget_place() { place_.reset(); }
-  /// A shortcut to the cells of band `index`, from 0; null if the file does not allow it.
-  plain_tiff_band* plain_band(int index);
+  /// A shortcut to the cells of band `index`, from 0, or of its overview `level`, from 0 (-1: of
+  /// the band itself); null if the file does not allow it.
+  plain_tiff_band* plain_band(int index, int level);
 
  private:
   GDALDataset* dataset_;
   std::string path_;
   bool read_only_;
   std::optional<georeference> place_;
-  std::vector<std::unique_ptr<plain_tiff_band>> plain_bands_;
-  std::vector<bool> looked_at_;
+  std::map<std::pair<int, int>, std::unique_ptr<plain_tiff_band>> plain_bands_;  // null: none
 };
 using dataset_ptr = std::shared_ptr<open_dataset>;
 

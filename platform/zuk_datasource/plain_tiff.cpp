@@ -29,7 +29,6 @@ bool has_machine_byte_order(int file) {
 }
 
 bool is_stored_as_is(GDALDataset& dataset, GDALRasterBand& band) {
-  if (!EQUAL(dataset.GetDriverName(), "GTiff")) return false;
   GDALDataType type = band.GetRasterDataType();
   return dataset.GetMetadataItem("COMPRESSION", "IMAGE_STRUCTURE") == nullptr &&
          band.GetMetadataItem("NBITS", "IMAGE_STRUCTURE") == nullptr &&
@@ -82,9 +81,16 @@ plain_tiff_band::plain_tiff_band(GDALRasterBand& band, int file, int interleaved
 plain_tiff_band::~plain_tiff_band() { close(file_); }
 
 std::unique_ptr<plain_tiff_band> plain_tiff_band::make(GDALDataset& dataset,
-                                                       const std::string& path, int band) {
+                                                       const std::string& path, int band,
+                                                       int level) {
+  if (!EQUAL(dataset.GetDriverName(), "GTiff")) return nullptr;
   GDALRasterBand* found = dataset.GetRasterBand(band);
-  if (found == nullptr || !is_stored_as_is(dataset, *found)) return nullptr;
+  if (found != nullptr && level >= 0) {
+    if (access((path + ".ovr").c_str(), F_OK) == 0) return nullptr;
+    found = found->GetOverview(level);
+  }
+  GDALDataset* own = found != nullptr ? found->GetDataset() : nullptr;  // overviews have their own
+  if (own == nullptr || !is_stored_as_is(*own, *found)) return nullptr;
   int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
   if (file < 0) return nullptr;
   struct stat s {};
@@ -92,10 +98,10 @@ std::unique_ptr<plain_tiff_band> plain_tiff_band::make(GDALDataset& dataset,
     close(file);
     return nullptr;
   }
-  const char* layout = dataset.GetMetadataItem("INTERLEAVE", "IMAGE_STRUCTURE");
+  const char* layout = own->GetMetadataItem("INTERLEAVE", "IMAGE_STRUCTURE");
   bool interleaved = layout != nullptr && EQUAL(layout, "PIXEL");
   return std::unique_ptr<plain_tiff_band>(new plain_tiff_band(
-      *found, file, interleaved ? dataset.GetRasterCount() : 1, interleaved ? band - 1 : 0));
+      *found, file, interleaved ? own->GetRasterCount() : 1, interleaved ? band - 1 : 0));
 }
 
 std::vector<plain_tiff_band::block_run> plain_tiff_band::runs_of(

@@ -1,6 +1,6 @@
 #pragma once
-// The cells of a plain GeoTIFF, without its decoder: for a decimated read of a file that has no
-// overviews only the rows of tiles that are sampled need to be read.
+// The cells of a plain GeoTIFF, without its decoder: for a decimated read only the rows of tiles
+// that are sampled need to be read, and two threads can share the work.
 
 #include <cstddef>
 #include <cstdint>
@@ -13,7 +13,8 @@ class GDALRasterBand;
 
 namespace zu::platform {
 
-/// One band of a GeoTIFF of this machine's byte order whose blocks are stored as they are. Offsets
+/// One band of a GeoTIFF of this machine's byte order, or an overview of it in the same file, whose
+/// blocks are stored as they are. Offsets
 /// are learnt from GDAL as they are needed. A file that ends too soon makes a read fail; nothing is
 /// mapped into memory.
 class plain_tiff_band {
@@ -22,9 +23,10 @@ class plain_tiff_band {
   plain_tiff_band(const plain_tiff_band&) = delete;
   plain_tiff_band& operator=(const plain_tiff_band&) = delete;
 
-  /// Null if the file is anything else (compressed, packed, of the other byte order, …).
+  /// Band `band` from 1, overview `level` from 0, -1 for the band itself. Null if the file is
+  /// anything else (compressed, packed, of the other byte order, overviews beside it, …).
   static std::unique_ptr<plain_tiff_band> make(GDALDataset& dataset, const std::string& path,
-                                               int band);
+                                               int band, int level);
 
   /// Reads the cells at `columns` x `rows` of the file, both rising and inside it, to
   /// out[k * columns + i]; `width` is the width of a cell in bytes. Two threads share the work.

@@ -74,6 +74,34 @@ TEST(gdal_read, a_plain_file_is_sampled_at_the_same_cells_as_a_compressed_one) {
   }
 }
 
+TEST(gdal_read,
+     overviews_of_a_plain_file_are_sampled_at_the_same_cells_as_those_of_a_compressed_one) {
+  auto with_overviews = [](GDALDataset& made) {
+    const int factors[] = {2, 4, 8};
+    ASSERT_EQ(made.BuildOverviews("NEAREST", 3, factors, 0, nullptr, nullptr, nullptr), CE_None);
+  };
+  auto value = [](int x, int y, int band) { return (x * 31 + y * 17 + band * 5) % 251; };
+  for (int bands : {1, 3})
+    for (double dy : {-10.0, 10.0}) {
+      folder f;
+      shape s{.nx = 403, .ny = 297, .bands = bands, .type = GDT_Byte};
+      s.geotransform = {100, 10, 0, 1000, 0, dy};
+      s.options = {"TILED=YES", "BLOCKXSIZE=32", "BLOCKYSIZE=16", "INTERLEAVE=PIXEL"};
+      source plain(make(f.at("plain.tif"), s, value, with_overviews));
+      s.options = {"COMPRESS=DEFLATE"};
+      source packed(make(f.at("packed.tif"), s, value, with_overviews));
+      block a(plain.band(bands - 1)), b(packed.band(bands - 1));
+      for (std::uint64_t samples : {13u, 40u, 67u, 100u, 101u, 150u})
+        for (std::int64_t origin : {0, 1, 7, 50}) {
+          std::array<std::uint64_t, 2> size{403 - static_cast<std::uint64_t>(2 * origin),
+                                            297 - static_cast<std::uint64_t>(origin)};
+          EXPECT_EQ(a.doubles({origin, origin}, size, {samples, samples * 3 / 4}),
+                    b.doubles({origin, origin}, size, {samples, samples * 3 / 4}))
+              << samples << " from " << origin;
+        }
+    }
+}
+
 TEST(gdal_read, overviews_answer_a_decimated_read) {
   folder f;
   std::string path = make(f.at("a.tif"), {.nx = 64, .ny = 64}, [](int, int, int) { return 1.0; });

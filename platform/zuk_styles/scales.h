@@ -12,53 +12,86 @@ namespace zu::platform {
 /// A row of new scales: visible, a middle gray, selected in yellow.
 Tzu_scale_prm new_row();
 
-/// Rows keep their addresses while their scale lives and no row is taken away.
-using row_ptr = std::unique_ptr<Tzu_scale_prm>;
-row_ptr make_row(const Tzu_scale_prm& like);
+/// A row that keeps its address wherever its holder goes. A copy is a row of its own.
+class held_row {
+ public:
+  held_row() : row_(std::make_unique<Tzu_scale_prm>(new_row())) {}
+  held_row(const held_row& other) : row_(std::make_unique<Tzu_scale_prm>(*other.row_)) {}
+  held_row(held_row&&) noexcept = default;
+  held_row& operator=(const held_row& other) {
+    if (this != &other) *row_ = *other.row_;
+    return *this;
+  }
+  held_row& operator=(held_row&&) noexcept = default;
+  ~held_row() = default;
+  Tzu_scale_prm* get() const { return row_.get(); }
+
+ private:
+  std::unique_ptr<Tzu_scale_prm> row_;
+};
+
+/// What both scales share: their classes, and look-ups that `scale::prepare` makes ready. `head` is
+/// the public record, `one_class` what the scale holds in a row.
+template <class scale, class head, class one_class> class searched_scale : public head {
+ public:
+  searched_scale() : head{}, other(new_row()) {
+    other.visible = false;
+    forget();
+  }
+  searched_scale(const searched_scale&) = delete;
+  searched_scale& operator=(const searched_scale& from) {
+    if (this == &from) return *this;
+    forget();
+    classes = from.classes;
+    other = from.other;
+    return *this;
+  }
+  void resize(std::size_t size) {
+    forget();
+    classes.resize(size);
+  }
+  void begin_find() {
+    if (runs_ == 0) static_cast<scale*>(this)->prepare();
+    ++runs_;
+  }
+  void end_find() {
+    if (runs_ > 0 && --runs_ == 0) forget();
+  }
+  /// Ends all look-ups; called before a change.
+  void forget() {
+    answer_other(&other, this->lookup);
+    runs_ = 0;
+  }
+
+  std::vector<one_class> classes;
+  Tzu_scale_prm other;
+
+ protected:
+  ~searched_scale() = default;
+  scale_lookup prepared_;
+
+ private:
+  int runs_ = 0;  // begun and not ended
+};
 
 struct range_class {
   double minimum = 0.0, maximum = 0.0;
-  row_ptr row = make_row(new_row());
+  held_row row;
 };
 
-struct range_scale : Tzu_rng_scale {
-  range_scale();
-  range_scale& operator=(const range_scale& other);
-  void resize(std::size_t size);
-  void begin_find();
-  void end_find();
-  void forget();  ///< ends all look-ups; called before a change
-
-  std::vector<range_class> classes;
-  double minimum = 0.0, maximum = 0.0;  // of the tails
-  Tzu_scale_prm lower, upper, other;
-
- private:
+struct range_scale : searched_scale<range_scale, Tzu_rng_scale, range_class> {
   void prepare();
-  scale_lookup prepared_;
-  int runs_ = 0;
+  double minimum = 0.0, maximum = 0.0;  // of the tails
+  Tzu_scale_prm lower = new_row(), upper = new_row();
 };
 
 struct value_class {
   std::wstring text;
-  row_ptr row = make_row(new_row());
+  held_row row;
 };
 
-struct value_scale : Tzu_val_scale {
-  value_scale();
-  value_scale& operator=(const value_scale& other);
-  void resize(std::size_t size);
-  void begin_find();
-  void end_find();
-  void forget();  ///< ends all look-ups; called before a change
-
-  std::vector<value_class> classes;
-  Tzu_scale_prm other;
-
- private:
+struct value_scale : searched_scale<value_scale, Tzu_val_scale, value_class> {
   void prepare();
-  scale_lookup prepared_;
-  int runs_ = 0;
 };
 
 }  // namespace zu::platform

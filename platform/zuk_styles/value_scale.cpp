@@ -42,43 +42,6 @@ double last_agreeing(double number, double far) {
 
 }  // namespace
 
-value_scale::value_scale() : Tzu_val_scale{}, other(new_row()) {
-  other.visible = false;
-  answer_other(&other, lookup);
-}
-
-value_scale& value_scale::operator=(const value_scale& from) {
-  if (this == &from) return *this;
-  forget();
-  classes.clear();
-  classes.resize(from.classes.size());
-  for (std::size_t i = 0; i < classes.size(); ++i) {
-    classes[i].text = from.classes[i].text;
-    *classes[i].row = *from.classes[i].row;
-  }
-  other = from.other;
-  return *this;
-}
-
-void value_scale::resize(std::size_t size) {
-  forget();
-  classes.resize(size);
-}
-
-void value_scale::forget() {
-  answer_other(&other, lookup);
-  runs_ = 0;
-}
-
-void value_scale::begin_find() {
-  if (runs_ == 0) prepare();
-  ++runs_;
-}
-
-void value_scale::end_find() {
-  if (runs_ > 0 && --runs_ == 0) forget();
-}
-
 /// The intervals of the rows that are numbers, the first row winning where they overlap, as rising
 /// keys. A row that is no number can only be met by the text of a NaN: every other text of a number
 /// is a number.

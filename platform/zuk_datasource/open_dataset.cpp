@@ -93,8 +93,12 @@ std::vector<std::string> rasters_in_zip(const std::string& name) {
   return out;
 }
 
-bool is_zip(const std::string& name) {
-  return is_path(name) && name.size() > 4 && EQUAL(name.c_str() + name.size() - 4, ".zip");
+// The zip archive that a name leads to, a path or /vsizip/ before one; empty if it leads to none.
+std::string archive_of(const std::string& name) {
+  constexpr std::size_t prefix = sizeof "/vsizip/" - 1;
+  std::string path = starts_with(name, "/vsizip/") ? name.substr(prefix) : name;
+  bool zip = is_path(path) && path.size() > 4 && EQUAL(path.c_str() + path.size() - 4, ".zip");
+  return zip ? path : "";
 }
 
 std::vector<std::string> subdataset_names(GDALDataset& dataset) {
@@ -115,8 +119,8 @@ dataset_ptr open_raster(const std::string& name, bool read_only, bool may_descen
   gdal_messages said;
   GDALDataset* found = gdal_open(name, read_only);
   if (found == nullptr) {
-    if (is_zip(name) && may_descend) {
-      std::vector<std::string> inside = rasters_in_zip(name);
+    if (std::string archive = archive_of(name); may_descend && !archive.empty()) {
+      std::vector<std::string> inside = rasters_in_zip(archive);
       if (inside.size() == 1) return open_raster(inside[0], read_only, false, reason);
       if (inside.size() > 1) return reason = list_of(inside), nullptr;
     }

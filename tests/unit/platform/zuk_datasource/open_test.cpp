@@ -81,6 +81,7 @@ TEST(gdal_open, an_archive_of_one_grid_opens_by_its_own_name) {
   make(f.at("a.tif"), {}, ramp);
   std::ofstream(f.at("read me.txt")) << "hello";
   zip(f.at("one.zip"), {f.at("a.tif"), f.at("read me.txt")});
+  EXPECT_TRUE(source("/vsizip/" + f.at("one.zip")));
   source s(f.at("one.zip"));
   ASSERT_TRUE(s);
   block b(s.band(0));
@@ -238,6 +239,30 @@ TEST(local_file, is_found_through_archives_and_connection_texts) {
     EXPECT_EQ(zu::platform::local_file_of(name), path) << name;
   EXPECT_EQ(zu::platform::local_file_of("/vsimem/a.tif"), "");
   EXPECT_EQ(zu::platform::local_file_of(f.at("none.tif")), "");
+}
+
+TEST(gdal_open, parts_that_lie_on_one_another_are_fields_of_one_grid) {
+  GDALDriver* netcdf = GetGDALDriverManager()->GetDriverByName("netCDF");
+  if (netcdf == nullptr) GTEST_SKIP() << "this GDAL writes no netCDF";
+  folder f;
+  std::string path = make(f.at("two.tif"), {.nx = 4, .ny = 3, .bands = 2},
+                          [](int x, int y, int band) { return band * 100 + y * 4 + x; });
+  GDALDataset* made = GDALDataset::FromHandle(GDALOpen(path.c_str(), GA_ReadOnly));
+  GDALClose(netcdf->CreateCopy(f.at("two.nc").c_str(), made, FALSE, nullptr, nullptr, nullptr));
+  GDALClose(made);
+  source s(f.at("two.nc"));
+  ASSERT_TRUE(s);
+  EXPECT_EQ(zu::call<&zu::data_source_impl::field_count>(s.get()), 2);
+  text_taker names;
+  for (std::int64_t i : {0, 1})
+    zu::call<&zu::data_source_impl::field_name>(
+        s.get(), i, zu::string_visitor(zu::handle_of<zu::string_visitor_impl>(names)));
+  EXPECT_EQ(names.texts, (std::vector<std::wstring>{L"Band1", L"Band2"}));
+  source plain(path);
+  for (std::int64_t i : {0, 1}) {
+    block a(s.band(i)), b(plain.band(i));
+    EXPECT_EQ(a.doubles({0, 0}, {4, 3}, {4, 3}), b.doubles({0, 0}, {4, 3}, {4, 3}));
+  }
 }
 
 }  // namespace

@@ -1,6 +1,8 @@
 #include <new>
 
 #include "platform/zuk_basic/guarded.h"
+#include "platform/zuk_basic/utf8.h"
+#include "platform/zuk_datasource/open_dataset.h"
 #include "platform/zuk_lr2d/scene.h"
 #include "zu/layer2d.h"
 
@@ -16,6 +18,13 @@ class adapter_visitor final : public zu::string_visitor_impl {
  private:
   Tzu_string_adp* adapter_;
 };
+
+/// The file on disk that a source lives in; the source itself if that leads to none.
+std::wstring file_of_source(const std::wstring& source) {
+  if (source.empty() || source.front() == L'*') return source;
+  std::string file = zu::platform::local_file_of(zu::platform::to_utf8(source));
+  return file.empty() ? source : zu::platform::from_utf8(file);
+}
 
 std::wstring text_or_empty(const wchar_t* text) { return text != nullptr ? text : L""; }
 
@@ -55,7 +64,7 @@ void zu_lr_set_wcaption(Izu_layer* layer, const wchar_t* caption) {
 }
 void zu_lr2d_get_wfilename(const Izu_layer* layer, Tzu_string_adp* adapter) {
   guarded(layer, [&](const Izu_layer& l) {
-    zu_string_adp_feed(adapter, zu::platform::file_of_source(l.source).c_str());
+    zu_string_adp_feed(adapter, file_of_source(l.source).c_str());
   });
 }
 void zu_lr2d_set_valid(Izu_layer* layer, bool missing) {

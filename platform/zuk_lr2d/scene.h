@@ -23,11 +23,3 @@ struct Tzu_scn_2d {
   std::wstring projection;
   Tzu_optional_color selected{};
 };
-
-namespace zu::platform {
-
-/// The file on disk that a source lives in: the path itself, the archive of a /vsi… path, or what
-/// stands between a driver's prefix and its part: NETCDF:"file":variable, GPKG:file:table.
-std::wstring file_of_source(const std::wstring& source);
-
-}  // namespace zu::platform

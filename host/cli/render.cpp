@@ -191,32 +191,53 @@ int run(const texts& given) {
 command add_render(CLI::App& options) {
   auto given = std::make_shared<texts>();
   options.add_option("SOURCE", given->sources, "grids, the first is the lowest")->required();
-  options.add_option("-o,--output", given->output, "picture to write: .png or .tif")->required();
-  options.add_option("--size", given->size, "pixels of the picture, WxH (1024x768)");
-  options.add_option("--extent", given->extent,
-                     "visible box x0,y0,x1,y1 in scene coordinates (all layers); widened to the "
-                     "picture's shape");
-  options.add_option("--crs", given->crs,
-                     "projection of the scene: EPSG:n, PROJ text or WKT (the first layer's)");
+  options.add_option("-o,--output", given->output, "picture to write: .png or .tif")
+      ->required()
+      ->type_name("FILE");
+  options.add_option("--size", given->size, "pixels of the picture, WxH (1024x768)")
+      ->type_name("WxH");
+  options
+      .add_option("--extent", given->extent,
+                  "visible box x0,y0,x1,y1 in scene coordinates (all layers); widened to the "
+                  "picture's shape")
+      ->type_name("X0,Y0,X1,Y1");
+  options
+      .add_option("--crs", given->crs,
+                  "projection of the scene: EPSG:n, PROJ text or WKT (the first layer's)")
+      ->type_name("CRS");
   options.add_option("--draw", given->draw, "scale, image, gray or rgb")
-      ->check(CLI::IsMember({"scale", "image", "gray", "rgb"}));
-  options.add_option("--field", given->field, "field coloured by a scale or by gray");
-  options.add_option("--rgb", given->rgb, "three field names R,G,B");
-  options.add_option("--limits", given->limits,
-                     "limits MIN,MAX of the gray or rgb channels (the field's own)");
-  options.add_option("--breaks", given->breaks, "boundaries B0,...,Bn: n classes and two tails");
-  options.add_option("--colors", given->colors,
-                     "n+2 colours, lower tail first, or n and the tails are hidden; #rrggbb or "
-                     "#rrggbbaa, aa an opacity");
-  options.add_option("--other", given->other,
-                     "colour of values that no class or value holds (invisible)");
-  options.add_option("--values", given->values, "value scale V=COLOR,...");
-  options.add_option("--simple", given->simple, "one colour for the whole grid");
+      ->check(CLI::IsMember({"scale", "image", "gray", "rgb"}))
+      ->type_name("KIND");
+  options.add_option("--field", given->field, "field coloured by a scale or by gray")
+      ->type_name("NAME");
+  options.add_option("--rgb", given->rgb, "three field names R,G,B")->type_name("R,G,B");
+  options
+      .add_option("--limits", given->limits,
+                  "limits MIN,MAX of the gray or rgb channels (the field's own)")
+      ->type_name("MIN,MAX");
+  options.add_option("--breaks", given->breaks, "boundaries B0,...,Bn: n classes and two tails")
+      ->type_name("B0,...,Bn");
+  options
+      .add_option("--colors", given->colors,
+                  "n+2 colours, lower tail first, or n and the tails are hidden; #rrggbb or "
+                  "#rrggbbaa, aa an opacity")
+      ->type_name("C0,...");
+  options
+      .add_option("--other", given->other,
+                  "colour of values that no class or value holds (invisible)")
+      ->type_name("COLOR");
+  options.add_option("--values", given->values, "value scale V=COLOR,...")
+      ->type_name("V=COLOR,...");
+  options.add_option("--simple", given->simple, "one colour for the whole grid")
+      ->type_name("COLOR");
   options.add_flag("--interpolate", given->interpolate, "interpolate values between cells");
   options.add_option("--transparency", given->transparency, "0 (opaque) to 100 percent")
-      ->check(CLI::Range(0, 100));
-  options.add_option("--background", given->background,
-                     "colour of the page (none: the picture keeps its transparency)");
+      ->check(CLI::Range(0, 100))
+      ->type_name("PERCENT");
+  options
+      .add_option("--background", given->background,
+                  "colour of the page (none: the picture keeps its transparency)")
+      ->type_name("COLOR");
   for (CLI::Option* each : options.get_options())
     if (each->get_type_size() > 0) each->check(filled);
   options.footer(footer);

@@ -81,6 +81,16 @@ TEST_F(render, gray_runs_between_the_limits) {
             (pixels{{0, 0, 0, 255}, {0, 0, 0, 255}, {128, 128, 128, 255}, white}));
 }
 
+TEST_F(render, interpolation_changes_a_range_scale_and_nothing_else) {
+  std::string source = floats("g.tif", 2, 2, {5, 15, 5, 15});
+  std::vector<std::string> gray{"--draw", "gray", "--limits", "0,20", "--size", "4x4"};
+  EXPECT_EQ(drawn(source, with(gray, {"--interpolate"})), drawn(source, gray));
+  std::vector<std::string> classes = with(two_classes, {"--size", "4x4"});
+  pixels smooth = drawn(source, with(classes, {"--interpolate"})), plain = drawn(source, classes);
+  EXPECT_EQ(plain.front(), green);
+  EXPECT_EQ(smooth.front(), clear) << "the outermost half of a cell has no value between cells";
+}
+
 TEST_F(render, gray_takes_its_limits_from_the_field) {
   std::string source = floats("g.tif", 3, 1, {100, 150, 200});
   EXPECT_EQ(drawn(source, {"--draw", "gray", "--size", "3x1"}),

@@ -2,13 +2,14 @@
 #include <string>
 #include <system_error>
 
+#include "platform/zuk_basic/utf8.h"
 #include "zu/platform/zuk_basic.h"
 
 namespace {
 
 std::wstring own_program() {
   std::error_code unknown;
-  return std::filesystem::read_symlink("/proc/self/exe", unknown).wstring();
+  return zu::platform::from_utf8(std::filesystem::read_symlink("/proc/self/exe", unknown).string());
 }
 
 std::wstring& main_module() {

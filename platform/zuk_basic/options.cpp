@@ -2,6 +2,7 @@
 #include <string>
 #include <system_error>
 
+#include "platform/zuk_basic/guarded.h"
 #include "platform/zuk_basic/utf8.h"
 #include "zu/platform/zuk_basic.h"
 
@@ -9,7 +10,8 @@ namespace {
 
 std::wstring own_program() {
   std::error_code unknown;
-  return zu::platform::from_utf8(std::filesystem::read_symlink("/proc/self/exe", unknown).string());
+  // A name on disk need not be UTF-8, and the path's own conversion throws then.
+  return zu::platform::from_utf8(std::filesystem::read_symlink("/proc/self/exe", unknown).native());
 }
 
 std::wstring& main_module() {
@@ -22,5 +24,6 @@ std::wstring& main_module() {
 const wchar_t* zu_options_get_main_module_path() { return main_module().c_str(); }
 
 void zu_options_set_main_module_path(const wchar_t* path) {
-  main_module() = path != nullptr ? path : own_program();
+  zu::platform::guarded(&main_module(),
+                        [&](std::wstring& kept) { kept = path != nullptr ? path : own_program(); });
 }

@@ -26,6 +26,11 @@ inline std::string to_utf8(std::wstring_view text) {
   return out;
 }
 
+/// The same of a text that may be missing: null counts as empty.
+inline std::string to_utf8(const wchar_t* text) {
+  return to_utf8(text != nullptr ? std::wstring_view(text) : std::wstring_view());
+}
+
 /// Wide text of UTF-8; a byte that belongs to no character becomes U+FFFD.
 inline std::wstring from_utf8(std::string_view text) {
   std::wstring out;

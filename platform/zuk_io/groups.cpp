@@ -66,6 +66,7 @@ bool zu_xml_save_style_load_rgb_channels(void*, Tzu_xnode* node, const wchar_t* 
     Tzu_clr_channel* channel = named.of(channels);
     std::wstring name;
     text_adapter adapter(name);
+    zu_clr_channel_get_prop_name_w(channel, adapter.get());  // stays if the key is absent
     zu_xnode_get_attr_wstr(child.get(), L"prop", adapter.get());
     zu_clr_channel_set_prop_name_w(channel, name.c_str());
     zu_clr_channel_set_limits(

@@ -38,9 +38,7 @@ Tzu_json_obj* zu_json_obj_add_obj(Tzu_json_obj* object, const wchar_t* key) {
   });
 }
 void zu_json_obj_add_str(Tzu_json_obj* object, const wchar_t* key, const wchar_t* value) {
-  guarded(object, [&](Tzu_json_obj& o) {
-    o.values[to_utf8(key)] = to_utf8(value != nullptr ? value : L"");
-  });
+  guarded(object, [&](Tzu_json_obj& o) { o.values[to_utf8(key)] = to_utf8(value); });
 }
 void zu_json_obj_add_int(Tzu_json_obj* object, const wchar_t* key, int64_t value) {
   guarded(object, [&](Tzu_json_obj& o) { o.values[to_utf8(key)] = value; });

@@ -109,8 +109,9 @@ bool zu_os_multibyte_to_wide(uint32_t code_page, const char* text, int64_t bytes
                                                                  &ucnv_close);
     if (U_FAILURE(status)) return false;
     const char* from = text != nullptr ? text : "";
-    auto length = static_cast<int32_t>(bytes < 0 ? static_cast<int64_t>(std::strlen(from)) : bytes);
-    icu::UnicodeString wide(from, length, converter.get(), status);
+    int64_t length = bytes < 0 || text == nullptr ? static_cast<int64_t>(std::strlen(from)) : bytes;
+    if (length > INT32_MAX) return false;
+    icu::UnicodeString wide(from, static_cast<int32_t>(length), converter.get(), status);
     if (U_FAILURE(status)) return false;
     feed(&a, wide);
     return true;

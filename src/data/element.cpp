@@ -1,6 +1,7 @@
 #include "src/data/element.h"
 
 #include <array>
+#include <cmath>
 #include <cstring>
 #include <limits>
 #include <tuple>
@@ -15,16 +16,26 @@ using types = std::tuple<std::uint8_t, std::int8_t, std::int16_t, std::uint16_t,
                          std::uint32_t, std::int64_t, std::uint64_t, float, double>;
 constexpr std::size_t type_count = std::tuple_size_v<types>;
 
+/// The whole part of `value`; the lowest number of the type if it does not fit, NaN too.
+template <class whole, class from> whole truncate(from value) {
+  constexpr double limit = -static_cast<double>(std::numeric_limits<whole>::min());
+  double wide = value, part = std::trunc(wide);
+  return part >= -limit && part < limit ? static_cast<whole>(wide)
+                                        : std::numeric_limits<whole>::min();
+}
+
+// The machine converts to signed 32 and 64 bits only; other integers are cut from those.
 template <class to, class from> to cast_element(from value) {
-  if constexpr (std::is_floating_point_v<from> && std::is_integral_v<to>) {
-    constexpr double limit = 9223372036854775808.0;  // 2^63
-    bool fits = value >= -limit && value < limit;
-    if constexpr (std::is_same_v<to, std::uint64_t>)
-      if (value >= limit && value < 2 * limit) return static_cast<to>(value);
-    return static_cast<to>(fits ? static_cast<std::int64_t>(value)
-                                : std::numeric_limits<std::int64_t>::min());
-  } else {
+  if constexpr (!std::is_floating_point_v<from> || std::is_floating_point_v<to>) {
     return static_cast<to>(value);
+  } else if constexpr (std::is_same_v<to, std::uint64_t>) {
+    constexpr double half = 9223372036854775808.0;  // 2^63
+    if (!(value >= half)) return static_cast<to>(truncate<std::int64_t>(value));
+    return static_cast<to>(truncate<std::int64_t>(value - half)) ^ (std::uint64_t{1} << 63);
+  } else if constexpr (sizeof(to) > 4 || std::is_same_v<to, std::uint32_t>) {
+    return static_cast<to>(truncate<std::int64_t>(value));
+  } else {
+    return static_cast<to>(truncate<std::int32_t>(value));
   }
 }
 

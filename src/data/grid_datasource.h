@@ -3,6 +3,7 @@
 // blocks, and the statistics of a band.
 
 #include <cstdint>
+#include <optional>
 #include <utility>
 
 #include "src/data/generic_datasource.h"
@@ -82,7 +83,8 @@ class grid_datasource : public generic_datasource {
 
  private:
   template <class function>
-  std::int32_t each_chunk(std::int64_t field, bool unit_tile_without, const function& take);
+  std::optional<std::int32_t> each_chunk(std::int64_t field, bool unit_tile_without,
+                                         const function& take);
 
   grid_source grid_;
 };

@@ -5,6 +5,7 @@
 #include <iterator>
 #include <limits>
 #include <new>
+#include <stdexcept>
 
 #include "src/data/block_reader.h"
 #include "src/data/grid_datasource.h"
@@ -37,12 +38,12 @@ bool allocate(chunk_buffer& buffer, std::uint64_t elements) {
 }  // namespace
 
 /// Reads a field linearly and calls `take(samples, count, test)` for each chunk until it says
-/// false. The result of the last read; 0 without a block, 2 without a buffer.
+/// false. The result of the last read; nothing without a block, 2 without a buffer.
 template <class function>
-std::int32_t grid_datasource::each_chunk(std::int64_t field, bool unit_tile_without,
-                                         const function& take) {
+std::optional<std::int32_t> grid_datasource::each_chunk(std::int64_t field, bool unit_tile_without,
+                                                        const function& take) {
   owned_block block;
-  if (!get_block(field, block)) return 0;
+  if (!get_block(field, block)) return {};
   chunk_buffer buffer;
   if (!allocate(buffer, tile_elements(block.get(), unit_tile_without))) return 2;
   std::int32_t grid[3] = {0, 0, 0};
@@ -66,21 +67,18 @@ void grid_datasource::compute_basic_stat(std::int64_t field, field_statistics& r
   found.minimum = std::numeric_limits<double>::max();
   found.maximum = -std::numeric_limits<double>::max();
   double sum = 0.0;
-  bool has_block = false;
-  each_chunk(field, false,
-             [&](const double* samples, std::uint64_t count, const nodata_test& test) {
-               has_block = true;
-               for (std::uint64_t i = 0; i < count; ++i) {
-                 if (!test.valid(samples[i])) continue;
-                 found.minimum = std::min(found.minimum, samples[i]);
-                 found.maximum = std::max(found.maximum, samples[i]);
-                 sum += samples[i];
-                 ++found.count;
-               }
-               return true;
-             });
-  owned_block block;
-  if (!has_block && !get_block(field, block)) return;
+  auto result = each_chunk(
+      field, false, [&](const double* samples, std::uint64_t count, const nodata_test& test) {
+        for (std::uint64_t i = 0; i < count; ++i) {
+          if (!test.valid(samples[i])) continue;
+          found.minimum = std::min(found.minimum, samples[i]);
+          found.maximum = std::max(found.maximum, samples[i]);
+          sum += samples[i];
+          ++found.count;
+        }
+        return true;
+      });
+  if (!result) return;
   record.minimum = found.count != 0 ? found.minimum : 0.0;
   record.maximum = found.count != 0 ? found.maximum : 0.0;
   record.mean = found.count != 0 ? sum / static_cast<double>(found.count) : 0.0;
@@ -90,19 +88,17 @@ void grid_datasource::compute_basic_stat(std::int64_t field, field_statistics& r
 
 void grid_datasource::compute_stddev(std::int64_t field, field_statistics& record) {
   double sum = 0.0;
-  std::uint64_t valid = 0;
-  std::int32_t result = each_chunk(
+  auto result = each_chunk(
       field, false, [&](const double* samples, std::uint64_t count, const nodata_test& test) {
         for (std::uint64_t i = 0; i < count; ++i) {
           if (!test.valid(samples[i])) continue;
           double off = samples[i] - record.mean;
           sum += off * off;
-          ++valid;
         }
         return true;
       });
-  if (result == 0) return;
-  record.stddev = std::sqrt(valid > 1 ? sum / static_cast<double>(valid - 1) : sum);
+  if (!result) return;
+  record.stddev = std::sqrt(record.count > 1 ? sum / static_cast<double>(record.count - 1) : sum);
   record.stddev_done = true;
 }
 
@@ -114,13 +110,13 @@ void grid_datasource::count_unique(std::int64_t field, field_statistics& record)
 }
 
 bool grid_datasource::field_values(std::int64_t field, std::vector<double>& out) {
-  std::int32_t result = each_chunk(
+  auto result = each_chunk(
       field, false, [&](const double* samples, std::uint64_t count, const nodata_test& test) {
         std::copy_if(samples, samples + count, std::back_inserter(out),
                      [&](double sample) { return test.valid(sample); });
         return true;
       });
-  return result != 0;
+  return result.has_value();
 }
 
 bool grid_datasource::field_value_texts(std::int64_t field, std::vector<std::wstring>& out) {
@@ -133,7 +129,7 @@ bool grid_datasource::field_value_texts(std::int64_t field, std::vector<std::wst
 bool grid_datasource::field_unique_numbers(std::int64_t field, std::int64_t limit,
                                            std::set<double>& out) {
   // The limit is looked at after a whole chunk only.
-  std::int32_t result = each_chunk(
+  auto result = each_chunk(
       field, true, [&](const double* samples, std::uint64_t count, const nodata_test& test) {
         for (std::uint64_t i = 0; i < count; ++i)
           if (test.valid(samples[i])) out.insert(samples[i]);

@@ -45,6 +45,7 @@ struct window_read {
   std::uint64_t tile_width, tile_height;
   std::int32_t source_type, target_type;
   std::size_t source_bytes;           // of an element
+  std::size_t tile_bytes;             // of a whole tile
   std::size_t column_step, row_step;  // in the buffer, in bytes
   char* buffer;
 };
@@ -125,7 +126,9 @@ std::int32_t describe(grid_block block, std::int32_t type, window_read& w) {
       !call<&grid_block_impl::tile_size>(block, tile) || tile[0] == 0 || tile[1] == 0)
     return impossible;
   w.tile_width = tile[0], w.tile_height = tile[1];
-  return success;
+  bool countable = !__builtin_mul_overflow(tile[0], tile[1], &w.tile_bytes) &&
+                   !__builtin_mul_overflow(w.tile_bytes, w.source_bytes, &w.tile_bytes);
+  return countable ? success : impossible;
 }
 
 std::int32_t read_generic(grid_datasource& source, grid_block block, const std::int64_t* origin,
@@ -135,6 +138,7 @@ std::int32_t read_generic(grid_datasource& source, grid_block block, const std::
   std::int32_t grid[3] = {0, 0, 0};
   if (describe(block, type, w) != success) return impossible;
   if (!source.sizes(grid)) return no_block;
+  if (origin[0] < 0 || origin[1] < 0) return impossible;
   std::size_t bytes = element_width(type);
   std::uint64_t column_stride = strides != nullptr && strides[0] != 0 ? strides[0] : 1;
   std::uint64_t row_stride =
@@ -143,10 +147,11 @@ std::int32_t read_generic(grid_datasource& source, grid_block block, const std::
   w.sx = size[0], w.sy = size[1], w.nsx = sample[0], w.nsy = sample[1];
   w.column_step = column_stride * bytes, w.row_step = row_stride * bytes;
   w.buffer = static_cast<char*>(buffer);
-  tile_map tiles(block, w.tile_width * w.tile_height * w.source_bytes);
+  tile_map tiles(block, w.tile_bytes);
   if (w.sx != w.nsx || w.sy != w.nsy) return read_sampled(w, tiles);
   bool whole_rows = w.column_step == bytes && w.row_step == w.sx * w.column_step &&
-                    w.tile_width == static_cast<std::uint64_t>(grid[0]);
+                    w.tile_width == static_cast<std::uint64_t>(grid[0]) &&
+                    w.ox + w.sx <= w.tile_width;  // else the source is to refuse the tile beyond
   return whole_rows ? read_row_runs(w, tiles) : read_tile_walk(w, tiles);
 }
 
@@ -157,7 +162,7 @@ std::int32_t read_run(std::uint64_t nx, grid_block block, std::uint64_t start, s
   if (describe(block, type, w) != success) return impossible;
   w.column_step = element_width(type);
   w.buffer = static_cast<char*>(buffer);
-  tile_map tiles(block, w.tile_width * w.tile_height * w.source_bytes);
+  tile_map tiles(block, w.tile_bytes);
   while (count > 0) {
     w.ox = start % nx, w.oy = start / nx;
     w.sx = w.nsx = std::min(count, nx - w.ox);

@@ -45,6 +45,7 @@ class made_source : public zu::polymorphic<zu::data_source_impl>,
   std::vector<std::uint32_t> read_modes;
   std::map<std::pair<std::uint64_t, std::uint64_t>, int> tile_reads;
   int block_requests = 0;
+  int reads_before_failure = -1;  // tiles that can be read, or all
   bool refuse_matrix = false;
   double x0 = 0, y0 = 0, cell = 1;  // low corner and side of the cells
 
@@ -146,6 +147,8 @@ class made_source : public zu::polymorphic<zu::data_source_impl>,
     }
     void set_read_mode(std::uint32_t mode) override { source_.read_modes.push_back(mode); }
     std::int32_t read_tile(std::uint64_t column, std::uint64_t row, void* buffer) override {
+      if (source_.reads_before_failure == 0) return 0;
+      if (source_.reads_before_failure > 0) --source_.reads_before_failure;
       ++source_.tile_reads[{column, row}];
       auto nx = static_cast<std::uint64_t>(source_.nx_),
            ny = static_cast<std::uint64_t>(source_.ny_);

@@ -65,6 +65,9 @@ struct tiled_source : polymorphic<data_source_impl>, polymorphic<grid_source_imp
     std::int32_t read_tile(std::uint64_t column, std::uint64_t row, void* buffer) override {
       ++source.reads[{column, row}];
       if (source.tile_result != 1) return source.tile_result;
+      if (source.refuses_beyond &&
+          (column * source.tile_width >= nx || row * source.tile_height >= ny))
+        return 3;
       for (std::uint64_t j = 0; j < source.tile_height; ++j)
         for (std::uint64_t i = 0; i < source.tile_width; ++i)
           access[source.type].store(
@@ -97,7 +100,7 @@ struct tiled_source : polymorphic<data_source_impl>, polymorphic<grid_source_imp
 
   std::int32_t type = element_float64;
   std::uint64_t tile_width = 4, tile_height = 3;
-  bool tells_tiles = true;
+  bool tells_tiles = true, refuses_beyond = false;
   std::int32_t tile_result = 1, window_result = 0, linear_result = 0, slice_result = 0,
                write_result = 0;
   std::map<std::pair<std::uint64_t, std::uint64_t>, int> reads;
@@ -202,7 +205,9 @@ TEST(block_reader, says_that_a_read_is_impossible) {
       [](reader_bench& b) { b.source.type = 0; }, [](reader_bench& b) { b.source.type = 11; },
       [](reader_bench& b) { b.source.tells_tiles = false; },
       [](reader_bench& b) { b.source.tile_width = 0; },
-      [](reader_bench& b) { b.source.tile_height = 0; }};
+      [](reader_bench& b) { b.source.tile_height = 0; },
+      // A tile of more bytes than can be counted.
+      [](reader_bench& b) { b.source.tile_width = b.source.tile_height = std::uint64_t{1} << 32; }};
   for (const auto& spoil : spoilers) {
     reader_bench b;
     spoil(b);
@@ -216,6 +221,23 @@ TEST(block_reader, says_that_a_read_is_impossible) {
   EXPECT_EQ(read_window(b.data, grid_block(), origin, size, &byte, size, 1, nullptr), 0);
   grid_datasource unbound;
   EXPECT_EQ(read_window(unbound, b.source.handle(), origin, size, &byte, size, 1, nullptr), 0);
+}
+
+TEST(block_reader, a_window_at_the_far_edge_is_read_and_one_beyond_is_left_to_the_source) {
+  for (std::uint64_t tile_width : {4u, 10u}) {
+    reader_bench b;
+    b.source.tile_width = tile_width;
+    ASSERT_EQ(b.read(nx - 2, ny - 1, 2, 1, 2, 1, element_int32), 1);
+    EXPECT_EQ(b.at(element_int32, 0), number_at(nx - 2, ny - 1));
+    EXPECT_EQ(b.at(element_int32, 1), number_at(nx - 1, ny - 1));
+    b.source.reads.clear();
+    b.source.refuses_beyond = true;
+    EXPECT_EQ(b.read(nx - 2, ny - 1, 20, 1, 20, 1, element_int32), 3);
+    EXPECT_EQ(b.read(0, 0, 3, 20, 3, 20, element_int32), 3);
+    EXPECT_EQ(b.read(nx - 2, 0, 20, 1, 10, 1, element_int32), 3);
+    EXPECT_EQ(b.read(-1, 0, 3, 1, 3, 1, element_int32), 2);
+    EXPECT_EQ(b.read(0, -1, 3, 1, 1, 1, element_int32), 2);
+  }
 }
 
 TEST(block_reader, a_failing_tile_gives_its_own_result) {
@@ -270,12 +292,14 @@ TEST(element, widths_follow_the_table) {
     EXPECT_EQ(element_width(code), code < 0 ? 0 : widths[code]) << code;
 }
 
+/// A value of type `from` as `to`.
+template <class element> double cast(element value, std::int32_t from, std::int32_t to) {
+  char out[8] = {};
+  convert(&value, from, 0, out, to, 0, 1);
+  return access[to].load(out, 0);
+}
+
 TEST(element, integers_are_cut_to_their_low_bytes_and_nothing_is_clamped) {
-  auto cast = [](auto value, std::int32_t from, std::int32_t to) {
-    char out[8] = {};
-    convert(&value, from, 0, out, to, 0, 1);
-    return access[to].load(out, 0);
-  };
   EXPECT_EQ(cast(std::int32_t{300}, element_int32, element_uint8), 44);
   EXPECT_EQ(cast(std::int16_t{-1}, element_int16, element_uint16), 65535);
   EXPECT_EQ(cast(std::uint8_t{200}, element_uint8, element_int8), -56);
@@ -284,9 +308,40 @@ TEST(element, integers_are_cut_to_their_low_bytes_and_nothing_is_clamped) {
   EXPECT_EQ(cast(-1.0f, element_float32, element_uint8), 255);
   EXPECT_EQ(cast(1e19, element_float64, element_uint64), 1e19);
   EXPECT_EQ(cast(-9999.0, element_float64, element_int16), -9999);
-  // What no 64-bit integer holds becomes the lowest one, of which a narrow type keeps zero bytes.
-  EXPECT_EQ(cast(std::nan(""), element_float64, element_int64), -9223372036854775808.0);
-  EXPECT_EQ(cast(1e300, element_float64, element_uint8), 0);
+}
+
+// Intel 64 manual, CVTTSD2SI: a result that does not fit is the lowest number of the register.
+TEST(element, a_floating_value_that_does_not_fit_becomes_what_the_machine_makes_of_it) {
+  constexpr double lowest32 = -2147483648.0, lowest64 = -9223372036854775808.0;
+  const double nan = std::nan("");
+  struct {
+    double value;
+    std::int32_t to;
+    double result;
+  } const cases[] = {
+      {nan, element_int32, lowest32},
+      {nan, element_int64, lowest64},
+      {nan, element_uint8, 0},
+      {nan, element_uint64, 9223372036854775808.0},
+      {3e9, element_int32, lowest32},
+      {-2147483648.9, element_int32, lowest32},
+      {2147483647.9, element_int32, 2147483647},
+      {3e9, element_uint32, 3e9},
+      {-1.0, element_uint32, 4294967295.0},
+      {4294967297.0, element_uint32, 1},
+      {1e10, element_int16, 0},  // 10,000,000,000 ends in 0xe400, but a 32-bit register is lost
+      {2147483647.0, element_int16, -1},
+      {1e300, element_int64, lowest64},
+      {1e300, element_uint8, 0},
+      {1e19, element_uint64, 1e19},
+      {2e19, element_uint64, 0},
+      {-1e300, element_uint64, 9223372036854775808.0},
+      {-HUGE_VAL, element_int32, lowest32},
+  };
+  for (const auto& c : cases)
+    EXPECT_EQ(cast(c.value, element_float64, c.to), c.result) << c.value << " to " << c.to;
+  EXPECT_EQ(cast(-3.4028235e38f, element_float32, element_int32), lowest32);
+  EXPECT_EQ(cast(2147483648.0f, element_float32, element_int32), lowest32);
 }
 
 }  // namespace

@@ -149,6 +149,71 @@ TEST(statistics, the_deviation_of_one_value_is_zero) {
   EXPECT_EQ(data.field_mean(0), 42);
 }
 
+TEST(statistics, the_deviation_divides_by_the_count_of_the_record) {
+  made_source s(3, 1);
+  s.add(L"z", {1, 2, 3});
+  grid_datasource data;
+  ASSERT_TRUE(data.attach(s.handle()));
+  field_statistics record;  // as if nothing had been counted
+  record.mean = 2;
+  data.compute_stddev(0, record);
+  EXPECT_EQ(record.stddev, std::sqrt(2));
+  record.count = 3;
+  data.compute_stddev(0, record);
+  EXPECT_EQ(record.stddev, 1);
+}
+
+TEST(statistics, of_a_field_that_cannot_be_read_to_its_end_are_of_what_was_read) {
+  made_source s(4, 3);  // tiles of 4 x 2
+  s.add(L"z", {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12});
+  grid_datasource data;
+  ASSERT_TRUE(data.attach(s.handle()));
+  s.reads_before_failure = 1;
+  EXPECT_EQ(data.field_maximum(0), 8);
+  EXPECT_EQ(data.field_count(0), 8u);
+  EXPECT_EQ(data.field_mean(0), 4.5);
+  field_statistics record = {};
+  s.reads_before_failure = 0;
+  data.compute_stddev(0, record);
+  EXPECT_TRUE(record.stddev_done);
+  EXPECT_EQ(record.stddev, 0);
+  std::vector<double> values;
+  s.reads_before_failure = 1;
+  EXPECT_TRUE(data.field_values(0, values));
+  EXPECT_EQ(values.size(), 8u);
+  std::set<double> numbers;
+  s.reads_before_failure = 1;
+  EXPECT_FALSE(data.field_unique_numbers(0, -1, numbers));
+  EXPECT_EQ(numbers.size(), 8u);
+}
+
+TEST(statistics, ask_for_a_block_once_a_pass) {
+  made_source s(2, 2);
+  s.add(L"z", {1, 2, 3, 4});
+  grid_datasource data;
+  ASSERT_TRUE(data.attach(s.handle()));
+  s.reads_before_failure = 0;
+  EXPECT_EQ(data.field_maximum(0), 0);
+  EXPECT_EQ(s.block_requests, 1);
+  EXPECT_EQ(s.blocks_alive, 0);
+}
+
+TEST(statistics, skip_what_is_not_finite_only_where_the_band_has_nodata) {
+  made_source s(3, 1);
+  auto& band = s.add(L"z", {1, std::nan(""), 5});
+  grid_datasource data;
+  ASSERT_TRUE(data.attach(s.handle()));
+  EXPECT_EQ(data.field_count(0), 3u);
+  EXPECT_EQ(data.field_maximum(0), 5);
+  EXPECT_TRUE(std::isnan(data.field_mean(0)));
+  band.has_nodata = true;
+  band.nodata = std::nan("");
+  grid_datasource again;
+  ASSERT_TRUE(again.attach(s.handle()));
+  EXPECT_EQ(again.field_count(0), 2u);
+  EXPECT_EQ(again.field_mean(0), 3);
+}
+
 TEST(statistics, a_missing_field_leaves_the_record_as_it_was) {
   made_source s(1, 1);
   grid_datasource data;

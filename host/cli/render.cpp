@@ -180,6 +180,9 @@ int run(const texts& given) {
   save(picture, given.output, scene.projection());
   for (const std::string& line : picture.shortfalls)
     std::fprintf(stderr, "zugrid: %s\n", line.c_str());
+  for (const std::string& source : picture.unplaced)
+    std::fprintf(stderr, "zugrid: warning: %s: has no projection, drawn as if it had the scene's\n",
+                 source.c_str());
   if (picture.empty)
     std::fprintf(stderr, "zugrid: warning: %s: nothing of the data shows in this picture\n",
                  given.output.c_str());

@@ -124,6 +124,8 @@ drawn_picture draw(const scene& shown, const picture_request& request) {
     std::wstring name = wide(each->data().name());
     zu_problems_clear(name.c_str());
     each->draw(render.get());
+    if (!shown.projection().empty() && each->projection().empty())
+      picture.unplaced.push_back(each->data().name());
     for (const std::string& reason : reasons(name, zu_problem_part))
       picture.shortfalls.push_back(each->data().name() + ": " + reason);
     for (int kind : {zu_problem_read, zu_problem_open})

@@ -79,6 +79,7 @@ struct drawn_picture {
   std::unique_ptr<Tzu_drwc, ended> page;
   Tzu_box_d2 box;                       ///< what it shows
   std::vector<std::string> shortfalls;  ///< what could not be read, a line each; the rest is drawn
+  std::vector<std::string> unplaced;    ///< sources without a projection in a scene that has one
   bool empty = false;                   ///< no layer left anything on it
 };
 

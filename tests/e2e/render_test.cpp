@@ -272,6 +272,16 @@ TEST_F(render, a_scene_projection_moves_the_grid) {
                            red, red, green, green}));
 }
 
+TEST_F(render, a_grid_without_projection_is_drawn_as_it_lies_with_a_warning) {
+  std::string source = floats("g.tif", 2, 1, {5, 15});
+  outcome result =
+      in_a_folder::render(source, with(two_classes, {"--size", "2x1", "--crs", "EPSG:3857"}));
+  EXPECT_EQ(result.exit, 0);
+  EXPECT_NE(result.err.find("warning: " + source + ": has no projection"), std::string::npos)
+      << result.err;
+  EXPECT_EQ(picture(path("o.png")).all(), (pixels{green, red}));
+}
+
 TEST_F(render, other_formats_open_too) {
   write("g.asc",
         "ncols 2\nnrows 1\nxllcorner 0\nyllcorner 0\ncellsize 1\nNODATA_value -9\n5.5 15.5\n");

@@ -34,6 +34,13 @@ struct bound_layer {
   ~bound_layer() { call<&layer_2d_impl::bind_entity>(handle, static_cast<Izu_layer*>(nullptr)); }
 };
 
+std::wstring projection_of(grid_layer2d& layer) {
+  return text_of([&](Tzu_string_adp* a) {
+    string_adp_visitor visitor(a);
+    layer.get_proj4(string_visitor(handle_of<string_visitor_impl>(visitor)));
+  });
+}
+
 TEST(grid_layer2d, starts_with_the_settings_of_a_new_layer) {
   grid_layer2d layer;
   EXPECT_EQ(layer.layer, nullptr);
@@ -219,11 +226,7 @@ TEST(source_changed, fetches_the_projection_only_into_an_empty_one) {
   std::wstring source = file.close();
   bound_layer fresh(source);
   call<&layer_2d_impl::source_changed>(fresh.handle);
-  std::wstring text = text_of([&](Tzu_string_adp* a) {
-    string_adp_visitor visitor(a);
-    fresh.layer->get_proj4(string_visitor(handle_of<string_visitor_impl>(visitor)));
-  });
-  EXPECT_NE(text.find(L"UTM zone 37N"), std::wstring::npos);
+  EXPECT_NE(projection_of(*fresh.layer).find(L"UTM zone 37N"), std::wstring::npos);
 
   bound_layer set(source);
   owned<zu_xnode_close> tree(zu_xnode_create_root_w(L"layer"));
@@ -232,11 +235,7 @@ TEST(source_changed, fetches_the_projection_only_into_an_empty_one) {
   zu_xnode_close(params);
   set.layer->load(tree.get(), nullptr);
   call<&layer_2d_impl::source_changed>(set.handle);
-  text = text_of([&](Tzu_string_adp* a) {
-    string_adp_visitor visitor(a);
-    set.layer->get_proj4(string_visitor(handle_of<string_visitor_impl>(visitor)));
-  });
-  EXPECT_EQ(text, L"EPSG:4326");
+  EXPECT_EQ(projection_of(*set.layer), L"EPSG:4326");
 }
 
 TEST(source_changed, gives_the_source_to_the_table_and_leaves_the_rest_if_it_will_not_open) {
@@ -247,6 +246,34 @@ TEST(source_changed, gives_the_source_to_the_table_and_leaves_the_rest_if_it_wil
   EXPECT_EQ(
       text_of([&](Tzu_string_adp* a) { zu_table_data_get_wsource(b.layer->get_table_data(), a); }),
       L"/no/such/grid.tif");
+}
+
+TEST(set_proj4, stores_the_projection_with_the_file_where_it_can_and_in_the_layer_always) {
+  std::wstring source = made_grid("stored.tif", 4, 3, GDT_Float32, 1).close();
+  bound_layer b(source);
+  call<&layer_2d_impl::set_proj4>(b.handle, L"EPSG:32637");
+  bound_layer again(source);
+  call<&layer_2d_impl::source_changed>(again.handle);
+  EXPECT_NE(projection_of(*again.layer).find(L"UTM zone 37N"), std::wstring::npos);
+
+  bound_layer missing(L"/no/such/grid.tif");
+  call<&layer_2d_impl::set_proj4>(missing.handle, L"EPSG:4326");
+  EXPECT_EQ(projection_of(*missing.layer), L"EPSG:4326");
+}
+
+TEST(grid_layer2d, counts_its_slices_and_names_its_fields) {
+  made_grid file("slices.tif", 4, 3, GDT_Float32, 2);
+  file.band(2)->SetDescription("depth");
+  bound_layer b(file.close());
+  EXPECT_FALSE(b.layer->has_slices());
+  const std::int64_t counts[] = {4, 3, 1};
+  for (std::int64_t axis = 0; axis < 3; ++axis) {
+    b.layer->set_slice_axis(axis);
+    EXPECT_EQ(b.layer->slice_count(), counts[axis]);
+  }
+  EXPECT_EQ(b.layer->field_count(), 2);
+  EXPECT_EQ(b.layer->field_name(0), L"Band 1");
+  EXPECT_EQ(b.layer->field_name(1), L"depth");
 }
 
 TEST(update_box, gives_the_outer_edge_of_the_cells_and_a_failure_as_such) {

@@ -27,6 +27,7 @@ Tzu_xnode* handed_out(pugi::xml_node node) {
 void set_attribute(Tzu_xnode* node, const wchar_t* key, const std::string& value) {
   guarded(node, [&](Tzu_xnode& n) {
     std::string name = to_utf8(key);
+    if (name.empty()) return;  // would be written as what no parser reads
     pugi::xml_attribute attribute = n.node.attribute(name.c_str());
     if (!attribute) attribute = n.node.append_attribute(name.c_str());
     attribute.set_value(value.c_str());
@@ -62,8 +63,9 @@ Tzu_xnode* zu_xnode_create_root_w(const wchar_t* name) {
 void zu_xnode_close(Tzu_xnode* node) { delete node; }
 
 Tzu_xnode* zu_xnode_set_node_w(Tzu_xnode* node, const wchar_t* key) {
-  return guarded(node, static_cast<Tzu_xnode*>(nullptr), [&](Tzu_xnode& n) {
+  return guarded(node, static_cast<Tzu_xnode*>(nullptr), [&](Tzu_xnode& n) -> Tzu_xnode* {
     std::string name = to_utf8(key);
+    if (name.empty()) return nullptr;
     pugi::xml_node child = n.node.child(name.c_str());
     return handed_out(child ? child : n.node.append_child(name.c_str()));
   });

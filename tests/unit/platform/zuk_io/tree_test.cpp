@@ -93,6 +93,67 @@ TEST_F(tree, channels_come_back_with_names_and_limits) {
   zu_rgb_channels_destroy(loaded);
 }
 
+TEST_F(tree, keys_that_are_no_xml_names_work) {
+  for (const wchar_t* key : {L"two words", L"1st", L"a=\"b\"", L"\x0412\x044B\x0441"}) {
+    zu_xnode_set_attr_wstr(root, key, L"here");
+    EXPECT_TRUE(text_of([&](auto* a) { zu_xnode_get_attr_wstr(root, key, a); }) == L"here");
+    zu_xnode_close(zu_xnode_set_node_w(root, key));
+    Tzu_xnode* child = zu_xnode_get_node_w(root, key);
+    EXPECT_NE(child, nullptr);
+    zu_xnode_close(child);
+  }
+}
+
+TEST_F(tree, what_is_no_value_gives_the_default) {
+  for (const wchar_t* bad : {L"", L"x", L"1,5", L"12 ", L"99999999999999999999", L"yes"}) {
+    zu_xnode_set_attr_wstr(root, L"v", bad);
+    EXPECT_EQ(zu_xnode_get_attr_int_w(root, L"v", 42), 42);
+    EXPECT_TRUE(zu_xnode_get_attr_bool_w(root, L"v", true));
+    EXPECT_FALSE(zu_xnode_get_attr_bool_w(root, L"v", false));
+  }
+  zu_xnode_set_attr_wstr(root, L"v", L"1,5");
+  EXPECT_EQ(zu_xnode_get_attr_dbl_w(root, L"v", 42), 42.0);
+  EXPECT_EQ(zu_xnode_get_attr_dbl_w(root, L"absent", 42), 42.0);
+}
+
+TEST_F(tree, bools_are_read_as_digits_and_as_words) {
+  struct {
+    const wchar_t* text;
+    bool value;
+  } const rows[] = {{L"1", true}, {L"0", false}, {L"true", true}, {L"false", false}};
+  for (const auto& row : rows) {
+    zu_xnode_set_attr_wstr(root, L"b", row.text);
+    EXPECT_EQ(zu_xnode_get_attr_bool_w(root, L"b", !row.value), row.value);
+  }
+}
+
+TEST_F(tree, a_missing_or_empty_key_holds_nothing) {
+  for (const wchar_t* key : {static_cast<const wchar_t*>(nullptr), L""}) {
+    zu_xnode_set_attr_int_w(root, key, 1);
+    EXPECT_EQ(zu_xnode_get_attr_int_w(root, key, 5), 5);
+    EXPECT_EQ(zu_xnode_set_node_w(root, key), nullptr);
+    EXPECT_EQ(zu_xnode_get_node_w(root, key), nullptr);
+  }
+}
+
+TEST_F(tree, a_channel_keeps_what_its_group_does_not_say) {
+  Tzu_rgb_channels* channels = zu_rgb_channels_create();
+  Tzu_clr_channel* green = zu_rgb_channels_get_green(channels);
+  zu_clr_channel_set_prop_name_w(green, L"Band 2");
+  zu_clr_channel_set_limits(green, -1.5, 3);
+  Tzu_xnode* group = zu_xnode_set_node_w(root, L"channels");
+  Tzu_xnode* child = zu_xnode_set_node_w(group, L"green");
+  zu_xnode_set_attr_dbl_w(child, L"max", 9);
+  EXPECT_TRUE(zu_xml_save_style_load_rgb_channels(nullptr, root, L"channels", channels));
+  EXPECT_EQ(text_of([&](Tzu_string_adp* t) { zu_clr_channel_get_prop_name_w(green, t); }),
+            L"Band 2");
+  EXPECT_EQ(zu_clr_channel_get_minimum(green), -1.5);
+  EXPECT_EQ(zu_clr_channel_get_maximum(green), 9);
+  zu_xnode_close(child);
+  zu_xnode_close(group);
+  zu_rgb_channels_destroy(channels);
+}
+
 TEST(json, keeps_the_order_and_writes_numbers_with_a_point) {
   Tzu_json_obj* root = zu_json_obj_create();
   zu_json_obj_add_str(root, L"я", L"\"кавычки\"");
@@ -104,6 +165,14 @@ TEST(json, keeps_the_order_and_writes_numbers_with_a_point) {
       text_of([&](Tzu_string_adp* t) { zu_json_obj_get_text_w(root, t); }),
       L"{\n  \"я\": \"\\\"кавычки\\\"\",\n  \"group\": {\n    \"d\": 0.5,\n    \"nan\": null\n"
       L"  },\n  \"a\": -5\n}");
+  zu_json_obj_destroy(root);
+}
+
+TEST(json, a_missing_key_counts_as_empty) {
+  Tzu_json_obj* root = zu_json_obj_create();
+  zu_json_obj_add_str(root, nullptr, nullptr);
+  EXPECT_EQ(text_of([&](Tzu_string_adp* t) { zu_json_obj_get_text_w(root, t); }),
+            L"{\n  \"\": \"\"\n}");
   zu_json_obj_destroy(root);
 }
 

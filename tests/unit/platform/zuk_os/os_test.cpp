@@ -48,6 +48,7 @@ TEST(multibyte_to_wide, takes_the_code_page_or_says_that_it_has_none) {
   EXPECT_EQ(converted(65001, "a\xff")[1], L'\xfffd');
   EXPECT_TRUE(texts_of([](Tzu_string_adp* t) {
                 EXPECT_FALSE(zu_os_multibyte_to_wide(932, "a", -1, t));
+                EXPECT_FALSE(zu_os_multibyte_to_wide(1251, "a", std::int64_t{1} << 32, t));
               }).empty());
 }
 

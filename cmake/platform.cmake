@@ -6,13 +6,16 @@ pkg_check_modules(PROJ REQUIRED IMPORTED_TARGET proj)
 pkg_check_modules(CAIRO REQUIRED IMPORTED_TARGET cairo)
 pkg_check_modules(ICU REQUIRED IMPORTED_TARGET icu-i18n icu-uc)
 pkg_check_modules(PUGIXML REQUIRED IMPORTED_TARGET pugixml)
+pkg_check_modules(PANGOCAIRO REQUIRED IMPORTED_TARGET pangocairo)
+pkg_check_modules(SQLITE REQUIRED IMPORTED_TARGET sqlite3)
+find_library(SEGYIO segyio REQUIRED)
 find_package(nlohmann_json 3 REQUIRED)
 find_package(Threads REQUIRED)
 
 zu_sources(platform_sources platform)
 add_library(zuk_platform_objects OBJECT ${platform_sources})
 target_link_libraries(zuk_platform_objects PUBLIC zu_house PkgConfig::GDAL PkgConfig::PROJ PkgConfig::CAIRO
-                      PkgConfig::ICU PkgConfig::PUGIXML nlohmann_json::nlohmann_json Threads::Threads)
+                      PkgConfig::ICU PkgConfig::PUGIXML PkgConfig::PANGOCAIRO PkgConfig::SQLITE ${SEGYIO} nlohmann_json::nlohmann_json Threads::Threads)
 target_precompile_headers(zuk_platform_objects PRIVATE <algorithm> <cmath> <cstdint> <cstring> <map> <memory>
                           <string> <vector>)
 

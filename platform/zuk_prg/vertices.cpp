@@ -32,6 +32,7 @@ void zu_ov_d2_assign(Tzu_ov_d2* set, const Tzu_ov_d2* from) {
   if (from == nullptr || from == set) return;
   guarded(set, [&](Tzu_ov_d2& s) {
     s.lists.clear();
+    s.level = from->level;
     for (const auto& list : from->lists) s.lists.push_back(std::make_unique<Tzu_pv_d2>(*list));
   });
 }
@@ -41,7 +42,18 @@ Tzu_pv_d2* zu_ov_d2_add(Tzu_ov_d2* set) {
   });
 }
 void zu_ov_d2_clear(Tzu_ov_d2* set) {
-  guarded(set, [](Tzu_ov_d2& s) { s.lists.clear(); });
+  guarded(set, [](Tzu_ov_d2& s) {
+    s.lists.clear();
+    s.level.reset();
+  });
+}
+void zu_ov_d2_set_level(Tzu_ov_d2* set, double level) {
+  if (set != nullptr) set->level = level;
+}
+bool zu_ov_d2_get_level(const Tzu_ov_d2* set, double* level) {
+  if (set == nullptr || !set->level) return false;
+  *level = *set->level;
+  return true;
 }
 uint64_t zu_ov_d2_get_size(const Tzu_ov_d2* set) { return set != nullptr ? set->lists.size() : 0; }
 Tzu_pv_d2* zu_ov_d2_get_pv_ptr(Tzu_ov_d2* set, uint64_t index) {

@@ -1,5 +1,6 @@
 #include <new>
 #include <string>
+#include <string_view>
 
 #include "platform/zuk_basic/guarded.h"
 #include "platform/zuk_styles/scales.h"
@@ -8,19 +9,16 @@ using zu::platform::guarded;
 
 struct Tzu_rotate_params {};
 
+static constexpr char color_type[] = "clr_mngr_style";
+static constexpr char line_type[] = "pln_mngr_style";
+
 struct Tzu_stl_mngr {
+  const char* type = color_type;
   int32_t mode = zu_style_simple;
   Tzu_stl_prm simple = zu::platform::new_row().style;
   std::wstring value_field, range_field;
   zu::platform::value_scale values;
   zu::platform::range_scale ranges;
-};
-
-struct Tzu_hillshade_style {
-  bool use = false;
-};
-struct Tzu_isoline_style {
-  bool use = false;
 };
 
 namespace {
@@ -36,6 +34,16 @@ void take(Tzu_stl_mngr* manager, std::wstring Tzu_stl_mngr::*name, const wchar_t
 }  // namespace
 
 Tzu_stl_mngr* zu_clr_stl_mngr_create() { return new (std::nothrow) Tzu_stl_mngr; }
+Tzu_stl_mngr* zu_stl_mngr_create(const char* type) {
+  std::string_view name = type != nullptr ? type : "";
+  if (name != color_type && name != line_type) return nullptr;
+  Tzu_stl_mngr* made = zu_clr_stl_mngr_create();
+  if (made != nullptr) made->type = name == line_type ? line_type : color_type;
+  return made;
+}
+const char* zu_stl_mngr_get_style_type(const Tzu_stl_mngr* manager) {
+  return manager != nullptr ? manager->type : "";
+}
 void zu_stl_mngr_destroy(Tzu_stl_mngr* manager) { delete manager; }
 void zu_stl_mngr_assign(Tzu_stl_mngr* manager, const Tzu_stl_mngr* from) {
   if (from != nullptr) guarded(manager, [&](Tzu_stl_mngr& m) { m = *from; });
@@ -78,21 +86,3 @@ bool zu_stl_mngr_get_rotate_flag(const Tzu_stl_mngr*) { return false; }
 bool zu_stl_mngr_get_rotate_hatch_flag(const Tzu_stl_mngr*) { return false; }
 bool zu_stl_mngr_get_rotate_spot_flag(const Tzu_stl_mngr*) { return false; }
 const Tzu_rotate_params* zu_stl_mngr_get_rotate_params(const Tzu_stl_mngr*) { return nullptr; }
-
-Tzu_hillshade_style* zu_hillshade_style_create() { return new (std::nothrow) Tzu_hillshade_style; }
-void zu_hillshade_style_destroy(Tzu_hillshade_style* style) { delete style; }
-void zu_hillshade_style_assign(Tzu_hillshade_style* style, const Tzu_hillshade_style* from) {
-  if (style != nullptr && from != nullptr) *style = *from;
-}
-bool zu_hillshade_style_get_use(const Tzu_hillshade_style* style) {
-  return style != nullptr && style->use;
-}
-
-Tzu_isoline_style* zu_isoline_style_create() { return new (std::nothrow) Tzu_isoline_style; }
-void zu_isoline_style_destroy(Tzu_isoline_style* style) { delete style; }
-void zu_isoline_style_assign(Tzu_isoline_style* style, const Tzu_isoline_style* from) {
-  if (style != nullptr && from != nullptr) *style = *from;
-}
-bool zu_isoline_style_get_use(const Tzu_isoline_style* style) {
-  return style != nullptr && style->use;
-}

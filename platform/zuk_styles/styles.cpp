@@ -39,6 +39,9 @@ void zu_scale_prm_set_visible(Tzu_scale_prm* prm, bool visible) {
 void zu_stl_prm_clr_set_all(Tzu_stl_prm* prm, Tzu_color color, int32_t index) {
   if (prm != nullptr) prm->colors[index != 0] = color;
 }
+Tzu_pln_style* zu_stl_prm_get_pln_style_ptr(Tzu_stl_prm* prm, int32_t index) {
+  return prm != nullptr ? &prm->lines[index != 0] : nullptr;
+}
 
 // --- Range scale
 

@@ -88,7 +88,10 @@ ZU_API Tzu_ov_d2* zu_ov_d2_create(void);
 ZU_API void zu_ov_d2_destroy(Tzu_ov_d2* set);
 ZU_API void zu_ov_d2_assign(Tzu_ov_d2* set, const Tzu_ov_d2* from);
 ZU_API Tzu_pv_d2* zu_ov_d2_add(Tzu_ov_d2* set);  ///< adds an empty list and gives it
-ZU_API void zu_ov_d2_clear(Tzu_ov_d2* set);
+ZU_API void zu_ov_d2_clear(Tzu_ov_d2* set);      ///< its level is forgotten too
+/// The value along all its lines, in the unit of the field traced, which may be drawn as a number.
+ZU_API void zu_ov_d2_set_level(Tzu_ov_d2* set, double level);
+ZU_API bool zu_ov_d2_get_level(const Tzu_ov_d2* set, double* level);    ///< false if there is none
 ZU_API uint64_t zu_ov_d2_get_size(const Tzu_ov_d2* set);                ///< lists in the set
 ZU_API Tzu_pv_d2* zu_ov_d2_get_pv_ptr(Tzu_ov_d2* set, uint64_t index);  ///< null if there is none
 ZU_API void zu_ov_d2_apply_matrix3x3(Tzu_ov_d2* set, const Tzu_matrix3x3* matrix);

@@ -11,11 +11,37 @@ enum Tzu_style_mode {
   zu_style_rule = 3,
 };
 
+// --- Line styles
+
+enum Tzu_line_cap { zu_cap_butt = 0, zu_cap_round = 1, zu_cap_square = 2 };
+enum Tzu_line_join { zu_join_miter = 0, zu_join_round = 1, zu_join_bevel = 2 };
+enum { zu_line_dashes = 8 };
+
+/// How a line is drawn. A plain record: copying it is `zu_pln_style_assign`.
+typedef struct Tzu_pln_style {
+  double width;                   ///< millimetres
+  double dashes[zu_line_dashes];  ///< on, off, … in millimetres
+  int32_t dash_count;             ///< 0: a solid line
+  int32_t cap, join;
+  Tzu_color color;
+  bool visible;
+  bool label;  ///< a set that carries its level is drawn with the number on its lines
+} Tzu_pln_style;
+
+/// A visible black line of 0.2 mm, round caps and joins; null if out of memory.
+ZU_API Tzu_pln_style* zu_pln_style_create(void);
+ZU_API void zu_pln_style_destroy(Tzu_pln_style* style);
+ZU_API void zu_pln_style_assign(Tzu_pln_style* style, const Tzu_pln_style* from);
+/// The style that `zu_pln_style_create` gives.
+ZU_API void zu_pln_style_init(Tzu_pln_style* style);
+
 // --- Parameters
 
-/// Two colours: index 0 draws, index 1 draws what is selected.
+/// Colours of cells and styles of lines: index 0 draws, index 1 draws what is selected. A manager
+/// uses the kind of its type.
 typedef struct Tzu_stl_prm {
   Tzu_color colors[2];
+  Tzu_pln_style lines[2];
 } Tzu_stl_prm;
 
 /// What a row of a scale owns.
@@ -27,6 +53,8 @@ typedef struct Tzu_scale_prm {
 ZU_API void zu_scale_prm_set_visible(Tzu_scale_prm* prm, bool visible);
 /// Sets one colour (index 0 or 1).
 ZU_API void zu_stl_prm_clr_set_all(Tzu_stl_prm* prm, Tzu_color color, int32_t index);
+/// Line style `index` (0 or 1), owned by the parameters; null for null.
+ZU_API Tzu_pln_style* zu_stl_prm_get_pln_style_ptr(Tzu_stl_prm* prm, int32_t index);
 
 #ifdef __cplusplus
 ZU_HOT bool zu_scale_prm_get_visible(const Tzu_scale_prm* prm) { return prm->visible; }
@@ -147,7 +175,11 @@ ZU_API Tzu_scale_prm* zu_val_scale_find_scale_prm_ptr_d(Tzu_val_scale* scale, do
 // --- Managers
 
 typedef struct Tzu_stl_mngr Tzu_stl_mngr;
-ZU_API Tzu_stl_mngr* zu_clr_stl_mngr_create(void);  ///< simple mode, one gray
+ZU_API Tzu_stl_mngr* zu_clr_stl_mngr_create(void);  ///< colours: simple mode, one gray
+/// A manager of the type named "clr_mngr_style" (colours of cells) or "pln_mngr_style" (lines);
+/// null for another name.
+ZU_API Tzu_stl_mngr* zu_stl_mngr_create(const char* type);
+ZU_API const char* zu_stl_mngr_get_style_type(const Tzu_stl_mngr* manager);  ///< empty for null
 ZU_API void zu_stl_mngr_destroy(Tzu_stl_mngr* manager);
 ZU_API void zu_stl_mngr_assign(Tzu_stl_mngr* manager, const Tzu_stl_mngr* from);
 ZU_API int32_t zu_stl_mngr_get_mode(const Tzu_stl_mngr* manager);
@@ -170,16 +202,53 @@ ZU_API bool zu_stl_mngr_get_rotate_hatch_flag(const Tzu_stl_mngr* manager);
 ZU_API bool zu_stl_mngr_get_rotate_spot_flag(const Tzu_stl_mngr* manager);
 ZU_API const Tzu_rotate_params* zu_stl_mngr_get_rotate_params(const Tzu_stl_mngr* manager);
 
-// --- Hillshade and isolines
+// --- Hillshade and isolines. A null style gives the value of a new one.
 
 typedef struct Tzu_hillshade_style Tzu_hillshade_style;
+/// Not in use; z factor 1, sun at 45 degrees above the horizon and azimuth 315, part 0.5.
 ZU_API Tzu_hillshade_style* zu_hillshade_style_create(void);
 ZU_API void zu_hillshade_style_destroy(Tzu_hillshade_style* style);
 ZU_API void zu_hillshade_style_assign(Tzu_hillshade_style* style, const Tzu_hillshade_style* from);
 ZU_API bool zu_hillshade_style_get_use(const Tzu_hillshade_style* style);
+ZU_API void zu_hillshade_style_set_use(Tzu_hillshade_style* style, bool use);
+/// The field shaded; empty: the field of the layer's style manager.
+ZU_API void zu_hillshade_style_get_propname(const Tzu_hillshade_style* style, Tzu_string_adp* adp);
+ZU_API void zu_hillshade_style_set_propname(Tzu_hillshade_style* style, const wchar_t* name);
+/// Factor on heights, so that they have the unit of x and y.
+ZU_API double zu_hillshade_style_get_z_coeff(const Tzu_hillshade_style* style);
+ZU_API void zu_hillshade_style_set_z_coeff(Tzu_hillshade_style* style, double factor);
+/// Height of the sun above the horizon, degrees.
+ZU_API double zu_hillshade_style_get_sun_slope_degree(const Tzu_hillshade_style* style);
+ZU_API void zu_hillshade_style_set_sun_slope_degree(Tzu_hillshade_style* style, double degrees);
+/// Azimuth of the sun, degrees clockwise from the north of the map.
+ZU_API double zu_hillshade_style_get_sun_aspect_degree(const Tzu_hillshade_style* style);
+ZU_API void zu_hillshade_style_set_sun_aspect_degree(Tzu_hillshade_style* style, double degrees);
+ZU_API bool zu_hillshade_style_get_multidir(const Tzu_hillshade_style* style);
+ZU_API void zu_hillshade_style_set_multidir(Tzu_hillshade_style* style, bool multidirectional);
+/// Share of the shade in the final colour, 0 to 1.
+ZU_API double zu_hillshade_style_get_part(const Tzu_hillshade_style* style);
+ZU_API void zu_hillshade_style_set_part(Tzu_hillshade_style* style, double part);
 
 typedef struct Tzu_isoline_style Tzu_isoline_style;
+/// Not in use; thin lines of 0.15 mm each 100, bold ones of 0.35 mm each 500, no numbers.
 ZU_API Tzu_isoline_style* zu_isoline_style_create(void);
 ZU_API void zu_isoline_style_destroy(Tzu_isoline_style* style);
 ZU_API void zu_isoline_style_assign(Tzu_isoline_style* style, const Tzu_isoline_style* from);
 ZU_API bool zu_isoline_style_get_use(const Tzu_isoline_style* style);
+ZU_API void zu_isoline_style_set_use(Tzu_isoline_style* style, bool use);
+/// The field traced; empty: the field of the layer's style manager.
+ZU_API void zu_isoline_style_get_propname(const Tzu_isoline_style* style, Tzu_string_adp* adapter);
+ZU_API void zu_isoline_style_set_propname(Tzu_isoline_style* style, const wchar_t* name);
+/// Steps in the unit of the field.
+ZU_API double zu_isoline_style_get_thin_step(const Tzu_isoline_style* style);
+ZU_API void zu_isoline_style_set_thin_step(Tzu_isoline_style* style, double step);
+ZU_API double zu_isoline_style_get_bold_step(const Tzu_isoline_style* style);
+ZU_API void zu_isoline_style_set_bold_step(Tzu_isoline_style* style, double step);
+/// Fill the caller's line style; the bold one carries the flag of the numbers.
+ZU_API void zu_isoline_style_get_thin_style(const Tzu_isoline_style* style, Tzu_pln_style* out);
+ZU_API void zu_isoline_style_set_thin_style(Tzu_isoline_style* style, const Tzu_pln_style* line);
+ZU_API void zu_isoline_style_get_bold_style(const Tzu_isoline_style* style, Tzu_pln_style* out);
+ZU_API void zu_isoline_style_set_bold_style(Tzu_isoline_style* style, const Tzu_pln_style* line);
+/// Whether bold lines bear their number.
+ZU_API bool zu_isoline_style_get_label(const Tzu_isoline_style* style);
+ZU_API void zu_isoline_style_set_label(Tzu_isoline_style* style, bool label);

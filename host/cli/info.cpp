@@ -20,7 +20,7 @@ namespace {
 using json = nlohmann::ordered_json;
 
 constexpr char footer[] =
-    R"(With --json the same as data: "source", "driver", "georeference", "size", "box", "spacing",
+    R"(With --json the same as data: "source", "driver", "georeference", "georeference_file", "size", "box", "spacing",
 "rows_run_south", "projection" (name, code, wkt), "fields" (name, type, role, nodata, statistics)
 and "parts" (name, description). A number that is not finite is a text: "nan", "inf", "-inf".)";
 
@@ -69,14 +69,17 @@ json statistics_of(const host::source& source, std::size_t field, bool exact) {
       std::vector<std::string> why = host::reasons(host::wide(source.name()), zu_problem_read);
       throw host::failure(source.name(), why.empty() ? "cannot be read" : why.back());
     }
-  } else if (!info.has_stat) {
+  } else if (std::optional<Tzu_field_stat> known = source.limits(field)) {
+    stat = *known;
+  } else {
     return nullptr;
   }
   json all = {{"minimum", number(stat.minimum)},
               {"maximum", number(stat.maximum)},
               {"mean", number(stat.mean)},
               {"deviation", number(stat.stddev)}};
-  if (exact) all["count"] = stat.count;
+  if (stat.count > 0) all["count"] = stat.count;
+  all["estimate"] = stat.estimate;
   return all;
 }
 
@@ -102,6 +105,9 @@ json describe(const host::source& source, bool exact) {
   all["driver"] = text([&](Tzu_string_adp* a) { zu_datasource_get_driver_w(opened, a); });
   all["georeference"] =
       text([&](Tzu_string_adp* a) { zu_datasource_get_georeference_w(opened, a); });
+  std::string file =
+      text([&](Tzu_string_adp* a) { zu_datasource_get_georeference_file_w(opened, a); });
+  all["georeference_file"] = file.empty() ? json() : json(file);
   all["size"] = {sizes[0], sizes[1], sizes[2]};
   all["box"] = has_box ? json{box[0], box[1], box[2], box[3]} : json();
   all["spacing"] = {spacing[0], spacing[1]};
@@ -148,7 +154,9 @@ void print(const json& all) {
   if (!all["box"].is_null())
     line("box", plain(all["box"][0]) + ", " + plain(all["box"][1]) + ", " + plain(all["box"][2]) +
                     ", " + plain(all["box"][3]));
-  line("georeference", plain(all["georeference"]));
+  const json& file = all["georeference_file"];
+  bool beside = !file.is_null() && file != all["source"];
+  line("georeference", plain(all["georeference"]) + (beside ? " of " + plain(file) : ""));
   const json& projection = all["projection"];
   if (projection.is_null())
     line("projection", "none");
@@ -167,7 +175,8 @@ void print(const json& all) {
     if (!stat.is_null())
       line("", "minimum " + plain(stat["minimum"]) + ", maximum " + plain(stat["maximum"]) +
                    ", mean " + plain(stat["mean"]) + ", deviation " + plain(stat["deviation"]) +
-                   (stat.contains("count") ? ", " + plain(stat["count"]) + " values" : ""));
+                   (stat.contains("count") ? ", " + plain(stat["count"]) + " values" : "") +
+                   (stat["estimate"].get<bool>() ? ", an estimate" : ""));
   }
   for (const json& part : all["parts"])
     line("part", plain(part["name"]) + "  " + plain(part["description"]));

@@ -1,11 +1,15 @@
 // zugrid: the command line.
 
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <exception>
 #include <iostream>
+#include <string>
+#include <vector>
 
 #include "host/cli/commands.h"
+#include "host/cli/option_texts.h"
 #include "host/core/failure.h"
 
 namespace {
@@ -56,7 +60,9 @@ int main(int argc, char** argv) {
   }
   std::signal(SIGXFSZ, SIG_IGN);  // a file that may not grow is a failed write, with its reason
   try {
-    parser.parse(argc, argv);
+    std::vector<std::string> arguments = with_settings({argv + 1, argv + argc});
+    std::reverse(arguments.begin(), arguments.end());  // as the parser takes them
+    parser.parse(arguments);
     if (running.empty()) return refuse("a command is required: render or info", "");
     bool written = std::fflush(stdout) == 0 && std::ferror(stdout) == 0;
     return written ? result : fail("standard output: cannot be written");

@@ -1,7 +1,10 @@
 #include "host/cli/option_texts.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <functional>
+#include <map>
 
 #include "host/cli/commands.h"
 
@@ -13,6 +16,64 @@ namespace {
 }
 
 std::string quoted(const std::string& text) { return "\"" + text + "\""; }
+
+/// What each key of an overlay's settings does with its value; a key of a mark has none.
+struct setting_keys {
+  std::map<std::string, std::function<void(const std::string&)>> values;
+  std::map<std::string, std::function<void()>> marks;
+};
+
+void read_settings(const std::string& option, const std::string& text, const setting_keys& keys) {
+  if (text == as_it_comes) return;
+  for (const std::string& part : parts_of(option, text)) {
+    std::size_t equals = part.find('=');
+    std::string key = part.substr(0, equals);
+    auto value = keys.values.find(key);
+    auto mark = keys.marks.find(key);
+    if (equals != std::string::npos && value != keys.values.end())
+      value->second(part.substr(equals + 1));
+    else if (equals == std::string::npos && mark != keys.marks.end())
+      mark->second();
+    else
+      refuse(option, quoted(part) + " is no setting of it");
+  }
+}
+
+/// Whether a text is settings of that option, and no source.
+bool are_settings(const std::string& option, const std::string& text) {
+  std::string key = text.substr(0, text.find_first_of("=,"));
+  static const std::map<std::string, std::vector<std::string>> keys = {
+      {"--hillshade", {"z", "altitude", "azimuth", "part", "field", "multidirectional"}},
+      {"--isolines", {"thin", "bold", "field", "label"}}};
+  const std::vector<std::string>& known = keys.at(option);
+  bool mark = key == "multidirectional" || key == "label";
+  return text == as_it_comes || (std::find(known.begin(), known.end(), key) != known.end() &&
+                                 (mark || text.find('=') != std::string::npos));
+}
+
+/// Takes a number that lies in a range.
+auto number_into(const std::string& option, double least, double most, double& into) {
+  return [=, &into](const std::string& text) {
+    double number = number_of(option, text);
+    if (number < least || number > most) refuse(option, quoted(text) + " is out of range");
+    into = number;
+  };
+}
+
+auto step_into(const std::string& option, std::optional<double>& into) {
+  return [=, &into](const std::string& text) {
+    double step = number_of(option, text);
+    if (!(step > 0)) refuse(option, "a step must be above 0");
+    into = step;
+  };
+}
+
+auto text_into(const std::string& option, std::string& into) {
+  return [=, &into](const std::string& text) {
+    if (text.empty()) refuse(option, "an empty name says nothing");
+    into = text;
+  };
+}
 
 }  // namespace
 
@@ -117,6 +178,41 @@ std::vector<std::pair<std::string, Tzu_color>> values_of(const std::string& opti
     values.emplace_back(part.substr(0, equals), color_of(option, part.substr(equals + 1)));
   }
   return values;
+}
+
+std::vector<std::string> with_settings(const std::vector<std::string>& arguments) {
+  std::vector<std::string> all;
+  bool options = true;
+  for (std::size_t i = 0; i < arguments.size(); ++i) {
+    const std::string& each = arguments[i];
+    std::string next = i + 1 < arguments.size() ? arguments[i + 1] : "";
+    options = options && each != "--";
+    bool overlay = options && (each == "--hillshade" || each == "--isolines");
+    all.push_back(overlay && !are_settings(each, next) ? each + "=" + as_it_comes : each);
+  }
+  return all;
+}
+
+host::hillshade_look hillshade_of(const std::string& option, const std::string& text) {
+  host::hillshade_look look;
+  read_settings(option, text,
+                {{{"z", number_into(option, -1e9, 1e9, look.z_factor)},
+                  {"altitude", number_into(option, 0, 90, look.altitude)},
+                  {"azimuth", number_into(option, -360, 360, look.azimuth)},
+                  {"part", number_into(option, 0, 1, look.part)},
+                  {"field", text_into(option, look.field)}},
+                 {{"multidirectional", [&look] { look.multidirectional = true; }}}});
+  return look;
+}
+
+host::isoline_look isolines_of(const std::string& option, const std::string& text) {
+  host::isoline_look look;
+  read_settings(option, text,
+                {{{"thin", step_into(option, look.thin)},
+                  {"bold", step_into(option, look.bold)},
+                  {"field", text_into(option, look.field)}},
+                 {{"label", [&look] { look.label = true; }}}});
+  return look;
 }
 
 }  // namespace zu::cli

@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "host/core/layer_look.h"
 #include "zu/platform/zuk_basic.h"
 #include "zu/platform/zuk_prg.h"
 
@@ -30,5 +31,15 @@ std::vector<double> breaks_of(const std::string& option, const std::string& text
 /// V=COLOR,…; each V is a number, and its text is kept.
 std::vector<std::pair<std::string, Tzu_color>> values_of(const std::string& option,
                                                          const std::string& text);
+
+/// What stands for an overlay's settings where none are given.
+inline constexpr char as_it_comes[] = "default";
+/// The command line with `as_it_comes` given to each --hillshade and --isolines that is followed by
+/// no settings, so that a source may stand behind it.
+std::vector<std::string> with_settings(const std::vector<std::string>& arguments);
+/// z=…,altitude=…,azimuth=…,part=…,field=…,multidirectional; or `as_it_comes`.
+host::hillshade_look hillshade_of(const std::string& option, const std::string& text);
+/// thin=…,bold=…,field=…,label; or `as_it_comes`.
+host::isoline_look isolines_of(const std::string& option, const std::string& text);
 
 }  // namespace zu::cli

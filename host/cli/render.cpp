@@ -34,7 +34,7 @@ still written where only a part of a file is damaged), 2 bad usage.)";
 struct texts {
   std::vector<std::string> sources;
   std::string output, size, extent, crs, draw, field, rgb, limits, breaks, colors, other, values,
-      simple, background;
+      simple, background, hillshade, isolines;
   bool interpolate = false;
   int transparency = 0;
 };
@@ -87,6 +87,8 @@ host::layer_look look_of(const texts& given) {
   if (!given.other.empty()) look.other = color_of("--other", given.other);
   if (!given.values.empty()) look.values = values_of("--values", given.values);
   if (!given.simple.empty()) look.simple = color_of("--simple", given.simple);
+  if (!given.hillshade.empty()) look.hillshade = hillshade_of("--hillshade", given.hillshade);
+  if (!given.isolines.empty()) look.isolines = isolines_of("--isolines", given.isolines);
   look.interpolate = given.interpolate;
   look.transparency = given.transparency;
   check(look);
@@ -237,6 +239,15 @@ command add_render(CLI::App& options) {
   options.add_option("--transparency", given->transparency, "0 (opaque) to 100 percent")
       ->check(CLI::Range(0, 100))
       ->type_name("PERCENT");
+  options
+      .add_option("--hillshade", given->hillshade,
+                  "shade of the relief: z=1,altitude=45,azimuth=315,part=0.5,field=NAME,"
+                  "multidirectional")
+      ->type_name("[SETTINGS]");
+  options
+      .add_option("--isolines", given->isolines,
+                  "lines of equal value: thin=10,bold=50,field=NAME,label")
+      ->type_name("[SETTINGS]");
   options
       .add_option("--background", given->background,
                   "colour of the page (none: the picture keeps its transparency)")

@@ -1,6 +1,7 @@
 #include "host/core/layer_look.h"
 
 #include <algorithm>
+#include <cmath>
 #include <memory>
 
 #include "host/core/failure.h"
@@ -132,6 +133,70 @@ bool makes_image(const source& data) {
   });
 }
 
+draw_type drawn_as(const layer_look& look, draw_type own) {
+  if (look.draw) return *look.draw;
+  if (!look.rgb.empty()) return draw_type::rgb;
+  return look.styles_a_scale() ? draw_type::scale : own;
+}
+
+/// Fields that something besides colours is made of; empty names stand for the coloured one.
+std::vector<std::string> overlay_fields(const layer_look& look) {
+  std::vector<std::string> fields;
+  if (look.hillshade) fields.push_back(look.hillshade->field);
+  if (look.isolines) fields.push_back(look.isolines->field);
+  return fields;
+}
+
+std::size_t overlay_field(const std::string& named, const layer_look& look, const source& data) {
+  return named.empty() ? colored_field(look, data) : data.find(named).value();
+}
+
+void set_hillshade(const layer_look& look, const source& data, Tzu_hillshade_style* style) {
+  zu_hillshade_style_set_use(style, look.hillshade.has_value());
+  if (!look.hillshade) return;
+  const hillshade_look& shade = *look.hillshade;
+  const field& of = data.fields().at(overlay_field(shade.field, look, data));
+  zu_hillshade_style_set_propname(style, wide(of.name).c_str());
+  zu_hillshade_style_set_z_coeff(style, shade.z_factor);
+  zu_hillshade_style_set_sun_slope_degree(style, shade.altitude);
+  zu_hillshade_style_set_sun_aspect_degree(style, shade.azimuth);
+  zu_hillshade_style_set_multidir(style, shade.multidirectional);
+  zu_hillshade_style_set_part(style, shade.part);
+}
+
+/// 1, 2 or 5 times a power of ten, so that it goes into the range some 20 times.
+double even_step(double range) {
+  double wanted = range / 20, power = std::pow(10.0, std::floor(std::log10(wanted)));
+  for (double times : {1.0, 2.0, 5.0})
+    if (power * times >= wanted) return power * times;
+  return power * 10;
+}
+
+/// Thin and bold step: bold is five times thin.
+std::pair<double, double> isoline_steps(const isoline_look& lines, const source& data,
+                                        std::size_t field) {
+  if (lines.thin) return {*lines.thin, lines.bold.value_or(*lines.thin * 5)};
+  if (lines.bold) return {*lines.bold / 5, *lines.bold};
+  std::optional<Tzu_field_stat> stat = data.limits(field);
+  double range = stat ? stat->maximum - stat->minimum : 0.0;
+  bool suits = range >= default_thin_step && range <= default_thin_step * 300;
+  if (suits || !(range > 0.0) || !std::isfinite(range))
+    return {default_thin_step, default_bold_step};
+  double step = even_step(range);
+  return {step, step * 5};
+}
+
+void set_isolines(const layer_look& look, const source& data, Tzu_isoline_style* style) {
+  zu_isoline_style_set_use(style, look.isolines.has_value());
+  if (!look.isolines) return;
+  std::size_t field = overlay_field(look.isolines->field, look, data);
+  zu_isoline_style_set_propname(style, wide(data.fields().at(field).name).c_str());
+  auto [thin, bold] = isoline_steps(*look.isolines, data, field);
+  zu_isoline_style_set_thin_step(style, thin);
+  zu_isoline_style_set_bold_step(style, bold);
+  zu_isoline_style_set_label(style, look.isolines->label);
+}
+
 }  // namespace
 
 std::string why_not(const layer_look& look, const source& data) {
@@ -139,6 +204,15 @@ std::string why_not(const layer_look& look, const source& data) {
   if (look.draw == draw_type::image && !makes_image(data)) return "its bands make no image";
   std::vector<std::string> wanted = look.rgb;
   if (!look.field.empty()) wanted.push_back(look.field);
+  bool colors_a_field =
+      drawn_as(look, makes_image(data) ? draw_type::image : draw_type::scale) != draw_type::image &&
+      look.draw != draw_type::rgb && look.rgb.empty();
+  for (const std::string& name : overlay_fields(look)) {
+    if (!name.empty())
+      wanted.push_back(name);
+    else if (!colors_a_field)
+      return "colours no field; name that of the hillshade or the isolines: field=NAME";
+  }
   for (const std::string& name : wanted) {
     if (data.find(name)) continue;
     std::string reason = "has no field \"" + name + "\"; its fields are: ";
@@ -158,13 +232,8 @@ void apply_look(const layer_look& look, const source& data, layer_2d layer,
   call<&layer_2d_externalization_service_impl::save>(tree, layer, root.get(),
                                                      static_cast<void*>(nullptr));
   node_ptr params(zu_xnode_set_node_w(root.get(), L"grid_params"));
-  auto draw = static_cast<draw_type>(zu_xnode_get_attr_int_w(params.get(), L"draw_type", 0));
-  if (look.draw)
-    draw = *look.draw;
-  else if (!look.rgb.empty())
-    draw = draw_type::rgb;
-  else if (look.styles_a_scale())
-    draw = draw_type::scale;
+  draw_type draw = drawn_as(
+      look, static_cast<draw_type>(zu_xnode_get_attr_int_w(params.get(), L"draw_type", 0)));
 
   if (draw == draw_type::scale)
     set_style(look, data, call<&layer_2d_impl::get_style_manager>(layer));
@@ -176,6 +245,8 @@ void apply_look(const layer_look& look, const source& data, layer_2d layer,
   zu_xnode_set_attr_bool_w(params.get(), L"interpolate", look.interpolate);
   call<&layer_2d_externalization_service_impl::load>(tree, layer, root.get(),
                                                      static_cast<void*>(nullptr));
+  set_hillshade(look, data, call<&layer_2d_impl::get_hillshade_style>(layer));
+  set_isolines(look, data, call<&layer_2d_impl::get_isoline_style>(layer));
 }
 
 }  // namespace zu::host

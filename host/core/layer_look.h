@@ -15,6 +15,24 @@ namespace zu::host {
 /// Numbers of the layer's draw types.
 enum class draw_type { scale = 0, image = 1, gray = 2, rgb = 3 };
 
+/// The shade of the relief. Degrees; azimuth clockwise from the north of the map.
+struct hillshade_look {
+  std::string field;  ///< empty: the coloured one
+  double z_factor = 1, altitude = 45, azimuth = 315;
+  double part = 0.5;  ///< of the shade in the colour, 0 to 1
+  bool multidirectional = false;
+};
+
+/// Lines of equal value. Steps in the unit of the field.
+struct isoline_look {
+  std::string field;                 ///< empty: the coloured one
+  std::optional<double> thin, bold;  ///< none: from the other one, or `default_thin_step`
+  bool label = false;                ///< numbers on the bold lines
+};
+
+/// Steps of isolines where none is asked for and the field's range takes them.
+inline constexpr double default_thin_step = 10, default_bold_step = 50;
+
 struct layer_look {
   std::optional<draw_type> draw;                    ///< none: the source's own
   std::string field;                                ///< empty: the default one
@@ -27,6 +45,8 @@ struct layer_look {
   std::optional<Tzu_color> other;  ///< of what no class or value holds; none: invisible
   bool interpolate = false;
   int transparency = 0;  ///< percent
+  std::optional<hillshade_look> hillshade;
+  std::optional<isoline_look> isolines;
 
   bool styles_a_scale() const {
     return !field.empty() || !breaks.empty() || !colors.empty() || !values.empty() || simple ||

@@ -245,6 +245,11 @@ void gdal_source::georeference_text(string_visitor visitor) {
   tell(visitor, words[static_cast<int>(place().kind)]);
 }
 
+void gdal_source::georeference_file(string_visitor visitor) {
+  if (place().kind == georeference_kind::none) return;
+  tell(visitor, georeference_file_of(dataset_->gdal()).c_str());
+}
+
 std::uint32_t gdal_source::part_count() {
   return static_cast<std::uint32_t>(CSLCount(dataset_->gdal().GetMetadata("SUBDATASETS")) / 2);
 }

@@ -48,6 +48,7 @@ class gdal_source final : public polymorphic<data_source_impl>,
   void driver(string_visitor visitor) override;
   bool rows_run_south() override { return place().rows_run_south; }
   void georeference_text(string_visitor visitor) override;
+  void georeference_file(string_visitor visitor) override;
   std::uint32_t part_count() override;
   void part(std::uint32_t index, string_visitor name, string_visitor description) override;
   bool compute_stat(std::int64_t field, std::uint64_t most, bool (*progress)(double, void*),

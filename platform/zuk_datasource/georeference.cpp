@@ -1,9 +1,12 @@
 #include "platform/zuk_datasource/georeference.h"
 
 #include <algorithm>
+#include <cctype>
 #include <cmath>
 
 #include <cpl_conv.h>
+#include <cpl_minixml.h>
+#include <cpl_string.h>
 #include <gdal_priv.h>
 
 namespace zu::platform {
@@ -46,7 +49,33 @@ georeference_kind find_geotransform(GDALDataset& dataset, double (&g)[6], std::s
   return georeference_kind::none;
 }
 
+bool holds_geotransform(const char* aux_file) {
+  CPLXMLTreeCloser tree(CPLParseXMLFile(aux_file));
+  return tree.get() != nullptr && (CPLSearchXMLNode(tree.get(), "GeoTransform") != nullptr ||
+                                   CPLSearchXMLNode(tree.get(), "GCPList") != nullptr);
+}
+
+/// World files end in a w ("tfw", "wld"), after which GDAL lists one only if it took it.
+bool places_its_neighbour(const char* file) {
+  std::string ending = CPLGetExtension(file);
+  for (char& c : ending) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+  return ending == "wld" || ending == "tab" || ending == "hdr" ||
+         (ending.size() >= 3 && ending.size() <= 5 && ending.back() == 'w');
+}
+
 }  // namespace
+
+std::string georeference_file_of(GDALDataset& dataset) {
+  char** files = dataset.GetFileList();
+  std::string found = dataset.GetDescription();
+  for (int i = 1; i < CSLCount(files); ++i)
+    if (places_its_neighbour(files[i])) found = files[i];
+  // What was said later, beside the file, holds before what the file and its neighbours say.
+  for (int i = 1; i < CSLCount(files); ++i)
+    if (EQUAL(CPLGetExtension(files[i]), "xml") && holds_geotransform(files[i])) found = files[i];
+  CSLDestroy(files);
+  return found;
+}
 
 georeference georeference_of(GDALDataset& dataset) {
   georeference out;

@@ -21,6 +21,10 @@ struct georeference {
 /// A dataset without a place gets pixel coordinates: x to the right, y up, from 0.
 georeference georeference_of(GDALDataset& dataset);
 
+/// The file that the place of a placed dataset was read from: the dataset's own, or one beside it
+/// (a world file, an .aux.xml, a header).
+std::string georeference_file_of(GDALDataset& dataset);
+
 /// The inverse of the above: six numbers of a geotransform from a matrix.
 std::array<double, 6> geotransform_of(const std::array<double, 9>& matrix, bool rows_run_south,
                                       int rows);

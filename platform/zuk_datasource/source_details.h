@@ -13,6 +13,7 @@ struct source_details_impl : plain_interface<source_details_impl> {
   virtual void driver(string_visitor) {}
   virtual bool rows_run_south() { return false; }
   virtual void georeference_text(string_visitor) {}
+  virtual void georeference_file(string_visitor) {}
   virtual std::uint32_t part_count() { return 0; }
   virtual void part(std::uint32_t /*index*/, string_visitor /*name*/, string_visitor /*word*/) {}
   /// As zu_datasource_compute_stat.
@@ -23,8 +24,8 @@ struct source_details_impl : plain_interface<source_details_impl> {
   using operations =
       in_order<&source_details_impl::field_info, &source_details_impl::driver,
                &source_details_impl::rows_run_south, &source_details_impl::georeference_text,
-               &source_details_impl::part_count, &source_details_impl::part,
-               &source_details_impl::compute_stat>;
+               &source_details_impl::georeference_file, &source_details_impl::part_count,
+               &source_details_impl::part, &source_details_impl::compute_stat>;
 };
 
 }  // namespace zu::platform

@@ -58,6 +58,12 @@ void zu_datasource_get_georeference_w(Tzu_handle source, Tzu_string_adp* adapter
                                                 handle_of<string_visitor_impl>(visitor));
 }
 
+void zu_datasource_get_georeference_file_w(Tzu_handle source, Tzu_string_adp* adapter) {
+  to_adapter visitor(adapter);
+  call<&source_details_impl::georeference_file>(cast<source_details_impl>(source),
+                                                handle_of<string_visitor_impl>(visitor));
+}
+
 uint32_t zu_datasource_get_part_count(Tzu_handle source) {
   return call<&source_details_impl::part_count>(cast<source_details_impl>(source));
 }

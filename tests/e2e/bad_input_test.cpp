@@ -69,7 +69,8 @@ TEST_F(bad_input, usage_is_refused_with_exit_code_2) {
       {{"--transparency", "101"}, "--transparency"},
       {{"--transparency", "-1"}, "--transparency"},
       {{"--transparency", "half"}, "--transparency"},
-      {{"--hillshade"}, "--hillshade"},
+      {{"--hillshade", "z=high"}, "--hillshade"},
+      {{"--isolines", "thin=-1"}, "--isolines"},
       {{"-o", "twice.png"}, "--output"},
   };
   for (const auto& each : cases) {

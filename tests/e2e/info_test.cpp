@@ -43,7 +43,10 @@ TEST_F(info, tells_size_box_projection_and_fields) {
   EXPECT_EQ(data["fields"][0]["name"], "height");
   EXPECT_EQ(data["fields"][0]["type"], "int16");
   EXPECT_EQ(data["fields"][0]["nodata"], -1);
-  EXPECT_TRUE(data["fields"][0]["statistics"].is_null());
+  EXPECT_EQ(data["fields"][0]["statistics"]["minimum"], 1);
+  EXPECT_EQ(data["fields"][0]["statistics"]["maximum"], 5);
+  EXPECT_EQ(data["fields"][0]["statistics"]["estimate"], false);
+  EXPECT_EQ(data["georeference_file"], path("g.tif"));
   EXPECT_EQ(data["parts"], json::array());
 }
 
@@ -81,6 +84,23 @@ TEST_F(info, says_where_the_georeference_comes_from) {
   json data = told(path("gcp.tif"));
   EXPECT_EQ(data["georeference"], "ground control points");
   EXPECT_EQ(data["box"], json({10, 18, 12, 20}));
+}
+
+TEST_F(info, names_the_file_that_gave_the_georeference) {
+  std::string bare = path("bare.tif");
+  GDALAllRegister();
+  GDALClose(GetGDALDriverManager()->GetDriverByName("GTiff")->Create(bare.c_str(), 2, 2, 1,
+                                                                     GDT_Float32, nullptr));
+  EXPECT_TRUE(told(bare)["georeference_file"].is_null());
+  std::ofstream(path("bare.tfw")) << "10\n0\n0\n-10\n105\n995\n";
+  json data = told(bare);
+  EXPECT_EQ(data["georeference_file"], path("bare.tfw"));
+  EXPECT_EQ(data["box"], json({100, 980, 120, 1000}));
+  std::ofstream(path("bare.tif.aux.xml"))
+      << "<PAMDataset><GeoTransform>0,1,0,2,0,-1</GeoTransform></PAMDataset>";
+  data = told(bare);
+  EXPECT_EQ(data["georeference_file"], path("bare.tif.aux.xml"));
+  EXPECT_EQ(data["box"], json({0, 0, 2, 2}));
 }
 
 TEST_F(info, a_container_of_several_grids_names_its_parts_which_open_by_these_names) {

@@ -30,6 +30,8 @@ ZU_API void zu_datasource_get_driver_w(Tzu_handle source, Tzu_string_adp* adapte
 ZU_API bool zu_datasource_rows_run_south(Tzu_handle source);
 /// Where the georeference comes from: "geotransform", "ground control points" or "none".
 ZU_API void zu_datasource_get_georeference_w(Tzu_handle source, Tzu_string_adp* adapter);
+/// The file that gave it: the source's own, or one beside it; no text if there is no georeference.
+ZU_API void zu_datasource_get_georeference_file_w(Tzu_handle source, Tzu_string_adp* adapter);
 /// Names of what is inside a container (subdatasets), to open by name; and a word on each.
 ZU_API uint32_t zu_datasource_get_part_count(Tzu_handle source);
 ZU_API void zu_datasource_get_part_w(Tzu_handle source, uint32_t index, Tzu_string_adp* name,

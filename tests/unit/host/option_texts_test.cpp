@@ -66,6 +66,38 @@ TEST(option_texts, a_value_keeps_its_text_and_must_be_a_number) {
     EXPECT_THROW(values_of("--values", text), usage_error) << text;
 }
 
+TEST(option_texts, an_overlay_keeps_the_settings_that_are_not_given) {
+  host::hillshade_look shade = hillshade_of("--hillshade", "z=2.5, part=0.25,multidirectional");
+  EXPECT_EQ(shade.z_factor, 2.5);
+  EXPECT_EQ(shade.part, 0.25);
+  EXPECT_TRUE(shade.multidirectional);
+  EXPECT_EQ(shade.altitude, 45);
+  EXPECT_EQ(shade.azimuth, 315);
+  host::isoline_look lines = isolines_of("--isolines", "bold=100,label,field=a b");
+  EXPECT_FALSE(lines.thin);
+  EXPECT_EQ(lines.bold, 100);
+  EXPECT_TRUE(lines.label);
+  EXPECT_EQ(lines.field, "a b");
+  EXPECT_FALSE(isolines_of("--isolines", as_it_comes).label);
+}
+
+TEST(option_texts, an_overlay_refuses_settings_that_mean_nothing) {
+  for (const char* text : {"z", "z=", "z=x", "altitude=91", "part=1.5", "sun=1", "label", "z=1,,"})
+    EXPECT_THROW(hillshade_of("--hillshade", text), usage_error) << text;
+  for (const char* text : {"thin=0", "thin=-1", "thin=nan", "bold", "field=", "multidirectional"})
+    EXPECT_THROW(isolines_of("--isolines", text), usage_error) << text;
+}
+
+TEST(option_texts, an_overlay_option_takes_no_source_for_its_settings) {
+  using line = std::vector<std::string>;
+  EXPECT_EQ(with_settings({"render", "--hillshade", "a.tif", "--isolines"}),
+            (line{"render", "--hillshade=default", "a.tif", "--isolines=default"}));
+  EXPECT_EQ(with_settings({"--hillshade", "z=2", "--isolines", "label"}),
+            (line{"--hillshade", "z=2", "--isolines", "label"}));
+  EXPECT_EQ(with_settings({"--isolines", "a=b.tif"}), (line{"--isolines=default", "a=b.tif"}));
+  EXPECT_EQ(with_settings({"--", "--isolines"}), (line{"--", "--isolines"}));
+}
+
 TEST(option_texts, what_is_refused_names_its_option) {
   try {
     limits_of("--limits", "2,1");

@@ -1,0 +1,93 @@
+#include "host/core/layer.h"
+
+#include "host/core/failure.h"
+#include "host/core/texts.h"
+
+namespace zu::host {
+namespace {
+
+std::string file_name_of(const std::string& path) {
+  std::size_t slash = path.find_last_of("/\\");
+  return slash == std::string::npos ? path : path.substr(slash + 1);
+}
+
+}  // namespace
+
+layer::layer(const bundle& services, const std::string& type, const std::string& source)
+    : services_(services), entity_(zu_lr2d_create(type.c_str())) {
+  call<&layer_2d_service_impl::create_layer>(
+      services.layers(type), layer_2d_visitor(handle_of<layer_2d_visitor_impl>(*this)));
+  if (!object_ || entity_ == nullptr) {
+    zu_lr2d_destroy(entity_);
+    throw failure(source, "there are no layers of type " + type);
+  }
+  zu_lr2d_set_wsource(entity_, wide_name(source).c_str());
+  set_caption(file_name_of(source));
+  zu_lr2d_set_plugin_interface(entity_, object_);
+  call<&layer_2d_impl::bind_entity>(object_, entity_);
+  call<&layer_2d_impl::source_changed>(object_);
+  call<&layer_2d_impl::update_validity>(object_);
+}
+
+layer::~layer() {
+  call<&layer_2d_impl::bind_entity>(object_, static_cast<Izu_layer*>(nullptr));
+  zu_lr2d_destroy(entity_);
+}
+
+std::string layer::type() const { return zu_lr2d_get_lr_type(entity_); }
+
+std::string layer::source_name() const {
+  return narrow(text_of([&](Tzu_string_adp* adapter) { zu_lr2d_get_wsource(entity_, adapter); }));
+}
+
+std::string layer::caption() const {
+  return narrow(text_of([&](Tzu_string_adp* adapter) { zu_lr2d_get_wcaption(entity_, adapter); }));
+}
+
+void layer::set_caption(const std::string& caption) {
+  zu_lr_set_wcaption(entity_, wide(caption).c_str());
+}
+
+const source& layer::data() const {
+  if (!data_) data_ = std::make_unique<source>(source_name());
+  return *data_;
+}
+
+std::string layer::projection() const {
+  return narrow(text_of([&](Tzu_string_adp* adapter) { zu_lr2d_get_pj4wstr(entity_, adapter); }));
+}
+
+std::optional<Tzu_box_d2> layer::box() const {
+  Tzu_box_d2 found;
+  if (!zu_lr2d_get_box(entity_, &found)) return {};
+  return found;
+}
+
+Tzu_stl_mngr* layer::style_manager() const {
+  return call<&layer_2d_impl::get_style_manager>(object_);
+}
+Tzu_hillshade_style* layer::hillshade_style() const {
+  return call<&layer_2d_impl::get_hillshade_style>(object_);
+}
+Tzu_isoline_style* layer::isoline_style() const {
+  return call<&layer_2d_impl::get_isoline_style>(object_);
+}
+
+void layer::save(Tzu_xnode* node) const {
+  call<&layer_2d_externalization_service_impl::save>(services_.externalization(type()), object_,
+                                                     node, static_cast<void*>(nullptr));
+}
+
+void layer::load(Tzu_xnode* node) {
+  call<&layer_2d_externalization_service_impl::load>(services_.externalization(type()), object_,
+                                                     node, static_cast<void*>(nullptr));
+}
+
+void layer::update() { call<&layer_2d_impl::update_box>(object_); }
+
+void layer::draw(Izu_render* render) const {
+  call<&layer_2d_renderer_extension_service_impl::render>(services_.renderer(type()), render,
+                                                          entity_);
+}
+
+}  // namespace zu::host

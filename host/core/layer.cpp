@@ -2,6 +2,7 @@
 
 #include "host/core/failure.h"
 #include "host/core/texts.h"
+#include "zu/platform/zuk_io.h"
 
 namespace zu::host {
 namespace {
@@ -10,6 +11,11 @@ std::string file_name_of(const std::string& path) {
   std::size_t slash = path.find_last_of("/\\");
   return slash == std::string::npos ? path : path.substr(slash + 1);
 }
+
+struct closed {
+  void operator()(Tzu_xnode* node) const { zu_xnode_close(node); }
+};
+using node_ptr = std::unique_ptr<Tzu_xnode, closed>;
 
 }  // namespace
 
@@ -71,6 +77,31 @@ Tzu_hillshade_style* layer::hillshade_style() const {
 }
 Tzu_isoline_style* layer::isoline_style() const {
   return call<&layer_2d_impl::get_isoline_style>(object_);
+}
+
+// A grid layer gives and takes them in its tree.
+draw_settings layer::settings() const {
+  node_ptr root(zu_xnode_create_root_w(L"layer"));
+  save(root.get());
+  node_ptr params(zu_xnode_set_node_w(root.get(), L"grid_params"));
+  draw_settings found;
+  found.draw = static_cast<draw_type>(zu_xnode_get_attr_int_w(params.get(), L"draw_type", 0));
+  found.transparency = static_cast<int>(zu_xnode_get_attr_int_w(params.get(), L"opacity", 0));
+  found.interpolate = zu_xnode_get_attr_bool_w(params.get(), L"interpolate", false);
+  found.channels.reset(zu_rgb_channels_create());
+  zu_xml_save_style_load_rgb_channels(nullptr, root.get(), L"channels", found.channels.get());
+  return found;
+}
+
+void layer::set_settings(const draw_settings& settings) {
+  node_ptr root(zu_xnode_create_root_w(L"layer"));
+  save(root.get());
+  node_ptr params(zu_xnode_set_node_w(root.get(), L"grid_params"));
+  zu_xml_save_style_save_rgb_channels(nullptr, root.get(), L"channels", settings.channels.get());
+  zu_xnode_set_attr_int_w(params.get(), L"draw_type", static_cast<std::int64_t>(settings.draw));
+  zu_xnode_set_attr_int_w(params.get(), L"opacity", settings.transparency);
+  zu_xnode_set_attr_bool_w(params.get(), L"interpolate", settings.interpolate);
+  load(root.get());
 }
 
 void layer::save(Tzu_xnode* node) const {

@@ -13,6 +13,22 @@
 
 namespace zu::host {
 
+/// Numbers of the grid layer's draw types.
+enum class draw_type { scale = 0, image = 1, gray = 2, rgb = 3 };
+
+struct ended {
+  void operator()(Tzu_rgb_channels* channels) const { zu_rgb_channels_destroy(channels); }
+};
+using channels_ptr = std::unique_ptr<Tzu_rgb_channels, ended>;
+
+/// How a layer is coloured, besides its styles.
+struct draw_settings {
+  draw_type draw = draw_type::scale;
+  channels_ptr channels;
+  int transparency = 0;  ///< percent
+  bool interpolate = false;
+};
+
 class layer final : layer_2d_visitor_impl {
  public:
   /// A layer of a type that the bundle or the platform knows, on a source that may be missing.
@@ -40,6 +56,8 @@ class layer final : layer_2d_visitor_impl {
   Tzu_hillshade_style* hillshade_style() const;  ///< null if the type has none
   Tzu_isoline_style* isoline_style() const;      ///< null if the type has none
 
+  draw_settings settings() const;
+  void set_settings(const draw_settings& settings);
   /// The layer's own state under a node of a tree, and back.
   void save(Tzu_xnode* node) const;
   void load(Tzu_xnode* node);

@@ -11,9 +11,6 @@
 
 namespace zu::host {
 
-/// Numbers of the layer's draw types.
-enum class draw_type { scale = 0, image = 1, gray = 2, rgb = 3 };
-
 /// The shade of the relief. Degrees; azimuth clockwise from the north of the map.
 struct hillshade_look {
   std::string field;  ///< empty: the coloured one

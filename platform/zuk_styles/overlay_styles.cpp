@@ -1,5 +1,6 @@
 // The settings of the two overlays.
 
+#include <cmath>
 #include <new>
 #include <string>
 
@@ -38,6 +39,29 @@ namespace {
 template <class style> const style& shown(const style* s) {
   static const style fresh;
   return s != nullptr ? *s : fresh;
+}
+
+bool is_step(double step) { return step > 0.0 && std::isfinite(step); }
+
+/// The first multiple of `step` above `low`, in steps, and how many lie below `high`; 0 if there
+/// are too many to draw or to tell apart.
+int multiples_between(double step, double low, double high, double& first) {
+  constexpr double most = 10000.0, farthest = 9007199254740992.0;  // 2^53: from there on k + 1 == k
+  first = std::floor(low / step);
+  double last = std::ceil(high / step);
+  if (!(std::abs(first) < farthest && std::abs(last) < farthest)) return 0;
+  // By the multiples themselves, which division may have placed on the other side.
+  while (first * step <= low) first += 1.0;
+  while (last * step >= high) last -= 1.0;
+  double count = last - first + 1.0;
+  return count >= 1.0 && count <= most ? static_cast<int>(count) : 0;
+}
+
+/// Within 1e-9 of a step, and what rounding may have done to so many steps.
+bool is_multiple(double value, double step) {
+  double steps = value / step;
+  double tolerance = std::fmax(1e-9, 4e-16 * std::abs(steps));
+  return std::abs(steps - std::round(steps)) <= tolerance;
 }
 
 }  // namespace
@@ -88,6 +112,13 @@ void zu_hillshade_style_set_part(Tzu_hillshade_style* style, double value) {
   if (style != nullptr) style->part = value;
 }
 
+void zu_hillshade_style_get_params(const Tzu_hillshade_style* style, Tzu_hillshade_params* params) {
+  const Tzu_hillshade_style& s = shown(style);
+  zu_hillshade_params_set_z_factor(params, s.z_factor);
+  zu_hillshade_params_set_sun(params, s.altitude, s.azimuth);
+  zu_hillshade_params_set_multidirectional(params, s.multidirectional);
+}
+
 // --- Isolines
 
 Tzu_isoline_style* zu_isoline_style_create() { return new (std::nothrow) Tzu_isoline_style; }
@@ -132,4 +163,23 @@ void zu_isoline_style_set_bold_style(Tzu_isoline_style* style, const Tzu_pln_sty
 bool zu_isoline_style_get_label(const Tzu_isoline_style* style) { return shown(style).bold.label; }
 void zu_isoline_style_set_label(Tzu_isoline_style* style, bool value) {
   if (style != nullptr) style->bold.label = value;
+}
+
+bool zu_isoline_style_get_levels(const Tzu_isoline_style* style, double minimum, double maximum,
+                                 Tzu_dbls* levels, Tzu_bits* bold) {
+  zu_dbls_clear(levels);
+  zu_bits_clear(bold);
+  const Tzu_isoline_style& s = shown(style);
+  double first = 0.0;
+  int count = is_step(s.thin_step) ? multiples_between(s.thin_step, minimum, maximum, first) : 0;
+  for (int i = 0; i < count; ++i) {
+    double level = (first + i) * s.thin_step;
+    if (!zu_dbls_add(levels, level) ||
+        !zu_bits_add(bold, is_step(s.bold_step) && is_multiple(level, s.bold_step))) {
+      zu_dbls_clear(levels);
+      zu_bits_clear(bold);
+      return false;
+    }
+  }
+  return count > 0;
 }

@@ -2,8 +2,9 @@
 
 #include "src/bundle/owned.h"
 #include "src/bundle/strings.h"
+#include "src/render/clip.h"
 #include "src/render/fill_dibs.h"
-#include "src/render/overlays.h"
+#include "src/render/isolines.h"
 #include "zu/platform/zuk_datasource.h"
 #include "zu/platform/zuk_lr2d.h"
 #include "zu/platform/zuk_render.h"
@@ -42,17 +43,6 @@ Tzu_box_d2 to_millimetres(const grid_render_context& context, const Tzu_box_d2& 
   return mm;
 }
 
-bool set_clip(const grid_render_context& context) {
-  Tzu_ov_d2* polygon = context.params.clip_polygon;
-  if (polygon == nullptr || zu_ov_d2_get_size(polygon) == 0) return false;
-  owned<zu_ov_d2_destroy> copy(zu_ov_d2_create());
-  zu_ov_d2_assign(copy.get(), polygon);
-  if (context.reprojection.needed) zu_rpj_fb_d2_apply_ov(context.reprojection.rpj, copy.get(), 1);
-  zu_ov_d2_apply_matrix3x3(copy.get(), zu_render_get_matrix_cr2mm(context.render));
-  zu_drwc_set_clip_pgn(context.drwc, 0, copy.get());
-  return true;
-}
-
 owned<zu_dib_destroy> make_dib(std::uint64_t nx, std::uint64_t ny) {
   owned<zu_dib_destroy> dib(zu_dib_create());
   zu_dib_set_nxy(dib.get(), nx, ny);
@@ -81,10 +71,9 @@ void draw_dib_pass(const grid_render_context& context, data::grid_datasource& so
   if (!main && !selection) return;
   if (!fill_dibs({context, source, main.get(), selection.get(), box, nx, ny})) return;
 
-  bool clipped = set_clip(context);
+  layer_clip clip(context);
   if (main) draw_dib(context, mm, 0, static_cast<std::uint8_t>(context.params.alpha), main.get());
   if (selection) draw_dib(context, mm, 1, 255, selection.get());
-  if (clipped) zu_drwc_set_clip_none(context.drwc);
 }
 
 void draw_piece(const grid_render_context& context, data::grid_datasource& source,

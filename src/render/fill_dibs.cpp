@@ -4,7 +4,7 @@
 
 #include "src/bundle/strings.h"
 #include "src/render/fills.h"
-#include "src/render/overlays.h"
+#include "src/render/hillshade.h"
 
 namespace zu {
 namespace {

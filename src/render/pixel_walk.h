@@ -1,6 +1,7 @@
 #pragma once
-// Visits every pixel of a DIB in rows and finds the sample under it: by one matrix, or, where a
-// reprojection is in force, by a triangle mesh with a vertex every 25 pixels.
+// Visits every pixel of a DIB, or node of a grid in its place, in rows and finds the sample under
+// it: by one matrix, or, where a reprojection is in force, by a triangle mesh with a vertex every
+// 25 pixels.
 
 #include "src/bundle/owned.h"
 #include "src/render/sample_window.h"
@@ -17,36 +18,49 @@ class pixel_walk {
   /// False if a mesh is needed and could not be had.
   bool ready() const { return !by_mesh_ || mesh_; }
 
-  /// Stores `shade(sx, sy)`, a pixel for a point among the samples, in every pixel. Pixels are
-  /// addressed by their low corners.
+  /// Stores `shade(sx, sy)`, a pixel for a point among the samples, in every pixel.
   template <class shader> void paint(Tzu_dib* dib, const shader& shade) const {
+    auto store = [dib](std::uint64_t x, std::uint64_t y, pixel p) {
+      zu_dib_set_rgba(dib, x, y, p.r, p.g, p.b, p.a);
+    };
+    visit(
+        zu_dib_get_nx(dib), zu_dib_get_ny(dib),
+        [&](std::uint64_t x, std::uint64_t y, double sx, double sy) { store(x, y, shade(sx, sy)); },
+        [&](std::uint64_t x, std::uint64_t y) { store(x, y, transparent_pixel); });
+  }
+
+  /// Calls `at(x, y, sx, sy)` with the point among the samples of every pixel of nx by ny, and
+  /// `beside(x, y)` where a mesh covers none. Pixels are addressed by their low corners.
+  template <class visitor, class without>
+  void visit(std::uint64_t nx, std::uint64_t ny, const visitor& at, const without& beside) const {
     if (by_mesh_)
-      paint_mesh(dib, shade);
+      visit_mesh(nx, ny, at, beside);
     else
-      paint_direct(dib, shade);
+      visit_direct(nx, ny, at);
   }
 
  private:
-  template <class shader> void paint_direct(Tzu_dib* dib, const shader& shade) const {
+  template <class visitor>
+  void visit_direct(std::uint64_t nx, std::uint64_t ny, const visitor& at) const {
     const Tzu_matrix3x3 matrix = pixel_to_sample_;
-    std::uint64_t nx = zu_dib_get_nx(dib), ny = zu_dib_get_ny(dib);
     for (std::uint64_t y = 0; y < ny; ++y)
       for (std::uint64_t x = 0; x < nx; ++x) {
         auto sx = static_cast<double>(x), sy = static_cast<double>(y);
         zu_xy_apply_matrix3x3(&sx, &sy, &matrix);
-        pixel p = shade(sx, sy);
-        zu_dib_set_rgba(dib, x, y, p.r, p.g, p.b, p.a);
+        at(x, y, sx, sy);
       }
   }
-  template <class shader> void paint_mesh(Tzu_dib* dib, const shader& shade) const {
-    std::uint64_t nx = zu_dib_get_nx(dib), ny = zu_dib_get_ny(dib);
+  template <class visitor, class without>
+  void visit_mesh(std::uint64_t nx, std::uint64_t ny, const visitor& at,
+                  const without& beside) const {
     for (std::uint64_t y = 0; y < ny; ++y) {
       zu_trimesh_d2_init(mesh_.get(), 0.0, -static_cast<double>(y));
       for (std::uint64_t x = 0; x < nx; ++x) {
         double sx = 0.0, sy = 0.0;
-        pixel p = transparent_pixel;
-        if (zu_trimesh_d2_scan(mesh_.get(), &sx, &sy)) p = shade(sx, sy);
-        zu_dib_set_rgba(dib, x, y, p.r, p.g, p.b, p.a);
+        if (zu_trimesh_d2_scan(mesh_.get(), &sx, &sy))
+          at(x, y, sx, sy);
+        else
+          beside(x, y);
       }
     }
   }

@@ -42,6 +42,7 @@ template <class element> class sample_block {
   std::uint64_t nx() const { return nx_; }
   std::uint64_t ny() const { return ny_; }
   element at(std::uint64_t index) const { return samples_.get()[index]; }
+  element at(std::uint64_t x, std::uint64_t y) const { return at(y * nx_ + x); }
   bool valid(element sample) const { return nodata_.valid(static_cast<double>(sample)); }
 
  private:

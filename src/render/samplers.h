@@ -34,36 +34,37 @@ template <class color> class nearest {
   color of_index_;
 };
 
-/// The value between the middles of four samples: `color(value)`. One sample without a value, and
-/// the outermost half of a cell, are transparent.
+/// The value between the middles of four samples. False for a sample without a value, and in the
+/// outermost half of a cell.
+template <class block>
+inline bool bilinear_value(const block& samples, double sx, double sy, double& value) {
+  double last_x = static_cast<double>(samples.nx()) - 1.0;
+  double last_y = static_cast<double>(samples.ny()) - 1.0;
+  double ux = sx - 0.5, uy = sy - 0.5;
+  if (!(ux >= 0.0 && ux < last_x && uy >= 0.0 && uy < last_y)) return false;
+  auto ix = static_cast<std::uint64_t>(static_cast<std::int64_t>(ux));
+  auto iy = static_cast<std::uint64_t>(static_cast<std::int64_t>(uy));
+  double s00 = samples.at(ix, iy), s10 = samples.at(ix + 1, iy);
+  double s01 = samples.at(ix, iy + 1), s11 = samples.at(ix + 1, iy + 1);
+  if (!samples.valid(s00) || !samples.valid(s10) || !samples.valid(s01) || !samples.valid(s11))
+    return false;
+  double fx = ux - static_cast<double>(ix), fy = uy - static_cast<double>(iy);
+  value = (1 - fx) * (1 - fy) * s00 + fx * (1 - fy) * s10 + (1 - fx) * fy * s01 + fx * fy * s11;
+  return true;
+}
+
+/// `color(value)` of the value between the samples.
 template <class block, class color> class bilinear {
  public:
-  bilinear(const block& samples, color of_value)
-      : samples_(samples),
-        last_x_(static_cast<double>(samples.nx()) - 1.0),
-        last_y_(static_cast<double>(samples.ny()) - 1.0),
-        of_value_(of_value) {}
+  bilinear(const block& samples, color of_value) : samples_(samples), of_value_(of_value) {}
 
   pixel operator()(double sx, double sy) const {
-    double ux = sx - 0.5, uy = sy - 0.5;
-    if (!(ux >= 0.0 && ux < last_x_ && uy >= 0.0 && uy < last_y_)) return transparent_pixel;
-    auto ix = static_cast<std::int64_t>(ux), iy = static_cast<std::int64_t>(uy);
-    std::uint64_t low =
-        static_cast<std::uint64_t>(iy) * samples_.nx() + static_cast<std::uint64_t>(ix);
-    std::uint64_t high = low + samples_.nx();
-    double s00 = samples_.at(low), s10 = samples_.at(low + 1);
-    double s01 = samples_.at(high), s11 = samples_.at(high + 1);
-    if (!samples_.valid(s00) || !samples_.valid(s10) || !samples_.valid(s01) ||
-        !samples_.valid(s11))
-      return transparent_pixel;
-    double fx = ux - static_cast<double>(ix), fy = uy - static_cast<double>(iy);
-    return of_value_((1 - fx) * (1 - fy) * s00 + fx * (1 - fy) * s10 + (1 - fx) * fy * s01 +
-                     fx * fy * s11);
+    double value;
+    return bilinear_value(samples_, sx, sy, value) ? of_value_(value) : transparent_pixel;
   }
 
  private:
   const block& samples_;
-  double last_x_, last_y_;
   color of_value_;
 };
 

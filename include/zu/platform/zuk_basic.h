@@ -80,6 +80,26 @@ ZU_API uint32_t zu_clr_init_rgba(uint8_t r, uint8_t g, uint8_t b, uint8_t a);
 /// turn. Transparencies of `colors` are kept. False if there is no such array.
 ZU_API bool zu_clr_arrays_generate_ex(int32_t id, uint64_t count, Tzu_color* colors, int32_t flag);
 
+// --- Lists
+
+/// A list of doubles.
+typedef struct Tzu_dbls Tzu_dbls;
+ZU_API Tzu_dbls* zu_dbls_create(void);        ///< empty; null if out of memory
+ZU_API void zu_dbls_destroy(Tzu_dbls* list);  ///< null is ignored
+ZU_API void zu_dbls_clear(Tzu_dbls* list);
+ZU_API bool zu_dbls_add(Tzu_dbls* list, double value);            ///< false if out of memory
+ZU_API uint64_t zu_dbls_get_size(const Tzu_dbls* list);           ///< 0 for null
+ZU_API double zu_dbls_get(const Tzu_dbls* list, uint64_t index);  ///< NaN if there is none
+
+/// A list of bits.
+typedef struct Tzu_bits Tzu_bits;
+ZU_API Tzu_bits* zu_bits_create(void);        ///< empty; null if out of memory
+ZU_API void zu_bits_destroy(Tzu_bits* list);  ///< null is ignored
+ZU_API void zu_bits_clear(Tzu_bits* list);
+ZU_API bool zu_bits_add(Tzu_bits* list, bool bit);                  ///< false if out of memory
+ZU_API uint64_t zu_bits_get_size(const Tzu_bits* list);             ///< 0 for null
+ZU_API bool zu_bits_get_bit(const Tzu_bits* list, uint64_t index);  ///< false if there is none
+
 // --- Reasons
 
 /// Why something about a source or layer did not work. The bundle stays silent; the platform keeps

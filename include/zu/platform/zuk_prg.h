@@ -1,7 +1,8 @@
 #pragma once
-// Plane geometry: matrices, boxes, vertices, polylines, polygons and the triangle mesh.
+// Plane geometry: matrices, boxes, vertices, polylines, polygons, the triangle mesh, and grids of
+// doubles with their contours and shades.
 
-#include "zu/platform/zuk_api.h"
+#include "zu/platform/zuk_basic.h"
 
 // --- Records
 
@@ -132,3 +133,85 @@ ZU_HOT bool zu_trimesh_d2_scan(Tzu_trimesh_d2* mesh, double* x, double* y) {
 #else
 ZU_API bool zu_trimesh_d2_scan(Tzu_trimesh_d2* mesh, double* x, double* y);
 #endif
+
+// --- Double grids
+
+/// Where the nodes of a grid lie: node (x, y) is at the origin plus x and y spacings, and all of it
+/// is turned about the origin. A spacing may be negative: then rows or columns run the other way.
+typedef struct Tzu_mgrid2d_topology {
+  double x0, y0, dx, dy;
+  double azimuth;  ///< degrees, counter-clockwise
+} Tzu_mgrid2d_topology;
+
+/// A grid of doubles in memory. A node without a value holds a quiet NaN.
+typedef struct Tzu_mgrid2d {
+  double* nodes;  ///< row by row; null until the grid is initialised
+  uint64_t nx, ny;
+} Tzu_mgrid2d;
+
+ZU_API Tzu_mgrid2d* zu_dbl_mgrid2d_create(void);    ///< without nodes; null if out of memory
+ZU_API void zu_mgrid2d_destroy(Tzu_mgrid2d* grid);  ///< null is ignored
+/// Takes nx * ny nodes, whose values are undefined until they are set. False, and the grid has no
+/// nodes, if a side is 0, a spacing is 0, a number of the topology is not finite, or there is no
+/// memory.
+ZU_API bool zu_mgrid2d_init(Tzu_mgrid2d* grid, uint64_t nx, uint64_t ny,
+                            const Tzu_mgrid2d_topology* topology);
+ZU_API uint64_t zu_mgrid2d_get_nx(const Tzu_mgrid2d* grid);  ///< 0 for null
+ZU_API uint64_t zu_mgrid2d_get_ny(const Tzu_mgrid2d* grid);  ///< 0 for null
+/// Least and largest finite value; false, and the outputs as they were, if no node has one.
+ZU_API bool zu_mgrid2d_min_max(const Tzu_mgrid2d* grid, double* minimum, double* maximum);
+
+#ifdef __cplusplus
+/// Stores one node; x < nx and y < ny are the caller's duty.
+ZU_HOT void zu_mgrid2d_set_dbl(Tzu_mgrid2d* grid, uint64_t x, uint64_t y, double value) {
+  grid->nodes[y * grid->nx + x] = value;
+}
+/// Reads one node; x < nx and y < ny are the caller's duty.
+ZU_HOT double zu_mgrid2d_get_dbl(const Tzu_mgrid2d* grid, uint64_t x, uint64_t y) {
+  return grid->nodes[y * grid->nx + x];
+}
+#else
+ZU_API void zu_mgrid2d_set_dbl(Tzu_mgrid2d* grid, uint64_t x, uint64_t y, double value);
+ZU_API double zu_mgrid2d_get_dbl(const Tzu_mgrid2d* grid, uint64_t x, uint64_t y);
+#endif
+
+/// A list of polyline sets.
+typedef struct Tzu_cv_d2 Tzu_cv_d2;
+ZU_API Tzu_cv_d2* zu_cv_d2_create(void);                   ///< empty; null if out of memory
+ZU_API void zu_cv_d2_destroy(Tzu_cv_d2* list);             ///< null is ignored
+ZU_API uint64_t zu_cv_d2_get_size(const Tzu_cv_d2* list);  ///< 0 for null
+ZU_API Tzu_ov_d2* zu_cv_d2_get_ov_ptr(Tzu_cv_d2* list, uint64_t index);  ///< null if there is none
+
+/// Traces the lines of equal value between the nodes, in the coordinates of the topology. Set i of
+/// the result holds the lines of level i and bears that level; it is empty if no line has it. A
+/// closed line ends where it began. Lines go on, straight, for half a spacing beyond the outermost
+/// nodes and beside nodes without a value, so that those of adjoining grids meet. Levels are finite
+/// and rise; false, and an empty result, if they do not, if the grid has no nodes or more than
+/// 32,767 in a direction, or if there is no memory.
+ZU_API bool zu_mgrid2d_isolines(const Tzu_mgrid2d* grid, const Tzu_dbls* levels, Tzu_cv_d2* out);
+
+/// How a grid is lit.
+typedef struct Tzu_hillshade_params Tzu_hillshade_params;
+/// z factor 1, sun at 45 degrees above the horizon and azimuth 315; null if out of memory.
+ZU_API Tzu_hillshade_params* zu_hillshade_params_create(void);
+ZU_API void zu_hillshade_params_destroy(Tzu_hillshade_params* params);  ///< null is ignored
+/// Factor on the values, so that they have the unit of x and y.
+ZU_API void zu_hillshade_params_set_z_factor(Tzu_hillshade_params* params, double factor);
+/// Where the sun is: degrees above the horizon, and degrees clockwise from the y axis (the north of
+/// a map), whichever way rows run.
+ZU_API void zu_hillshade_params_set_sun(Tzu_hillshade_params* params, double altitude,
+                                        double azimuth);
+/// Light from 225, 270, 315 and 360 degrees together, each weighed by the squared sine of the angle
+/// to the aspect of the slope (U.S. Geological Survey, Open-File Report 92-422); the azimuth of the
+/// sun then has no effect.
+ZU_API void zu_hillshade_params_set_multidirectional(Tzu_hillshade_params* params, bool use);
+
+/// Shades of a grid's relief, 1 (in the dark) to 255 (facing the light), as a grid of the same size
+/// and topology. The gradient (p, q) is Horn's (1981, Proc. IEEE 69(1), p. 14) times the z factor;
+/// the shade is 1 + 254 * max(0, (sin h - cos h (q cos a - p sin a)) / sqrt(1 + p² + q²)) with the
+/// sun at height h and azimuth a, where p falls to the east and q rises to the north. At the frame
+/// the gradient is one-sided. A node without a value, and one with such a neighbour, has no shade.
+/// False if the grid is not at least 2 by 2, a parameter is not finite, `out` is null or the grid
+/// itself, or there is no memory.
+ZU_API bool zu_mgrid2d_hillshade(const Tzu_mgrid2d* grid, const Tzu_hillshade_params* params,
+                                 Tzu_mgrid2d* out);

@@ -3,6 +3,7 @@
 // of them in use; and the styles of hillshade and isolines.
 
 #include "zu/platform/zuk_basic.h"
+#include "zu/platform/zuk_prg.h"
 
 enum Tzu_style_mode {
   zu_style_simple = 0,
@@ -228,6 +229,9 @@ ZU_API void zu_hillshade_style_set_multidir(Tzu_hillshade_style* style, bool mul
 /// Share of the shade in the final colour, 0 to 1.
 ZU_API double zu_hillshade_style_get_part(const Tzu_hillshade_style* style);
 ZU_API void zu_hillshade_style_set_part(Tzu_hillshade_style* style, double part);
+/// The light of a style: z factor, sun and the multidirectional mode.
+ZU_API void zu_hillshade_style_get_params(const Tzu_hillshade_style* style,
+                                          Tzu_hillshade_params* params);
 
 typedef struct Tzu_isoline_style Tzu_isoline_style;
 /// Not in use; thin lines of 0.15 mm each 100, bold ones of 0.35 mm each 500, no numbers.
@@ -252,3 +256,10 @@ ZU_API void zu_isoline_style_set_bold_style(Tzu_isoline_style* style, const Tzu_
 /// Whether bold lines bear their number.
 ZU_API bool zu_isoline_style_get_label(const Tzu_isoline_style* style);
 ZU_API void zu_isoline_style_set_label(Tzu_isoline_style* style, bool label);
+/// Levels of a field whose values lie between `minimum` and `maximum`, rising: the multiples of the
+/// thin step strictly between them. `bold` says of each whether it is a multiple of the bold step
+/// too, within 1e-9 of that step. A thin step that is 0, negative or not finite gives no levels; a
+/// bold step like that gives no bold ones. False, and both lists empty, if there are no levels,
+/// more than 10,000, or so far from zero that steps cannot be told apart.
+ZU_API bool zu_isoline_style_get_levels(const Tzu_isoline_style* style, double minimum,
+                                        double maximum, Tzu_dbls* levels, Tzu_bits* bold);

@@ -1,10 +1,8 @@
-#include "src/render/overlays.h"
+#include "src/render/isolines.h"
 
 namespace zu {
 
 void draw_isoline_pass(const grid_render_context&, const Tzu_box_d2&, std::uint64_t, std::uint64_t,
                        data::grid_datasource&) {}
-
-bool apply_hillshade(const grid_draw_job&) { return false; }
 
 }  // namespace zu

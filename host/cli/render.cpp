@@ -10,7 +10,8 @@
 #include "host/cli/commands.h"
 #include "host/cli/option_texts.h"
 #include "host/core/failure.h"
-#include "host/core/scene.h"
+#include "host/core/layer_look.h"
+#include "host/core/picture.h"
 #include "host/core/texts.h"
 #include "zu/platform/zuk_proj4_d2.h"
 
@@ -134,7 +135,7 @@ void dress(host::scene& scene, const host::layer_look& look) {
     std::string reason = host::why_not(look, layer->data());
     if (reason.empty()) ++dressed;
     if (!reason.empty() && refusal.empty()) refusal = layer->data().name() + ": " + reason;
-    layer->take_look(reason.empty() ? look : plain);
+    host::apply_look(reason.empty() ? look : plain, *layer);
   }
   if (dressed == 0) throw failure(refusal);
 }

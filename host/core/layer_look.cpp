@@ -2,27 +2,15 @@
 
 #include <algorithm>
 #include <cmath>
-#include <memory>
 
 #include "host/core/failure.h"
 #include "host/core/texts.h"
-#include "zu/platform/zuk_io.h"
 
 namespace zu::host {
 namespace {
 
 /// Array 5 runs from blue through white to red.
 constexpr std::int32_t default_colors = 5;
-
-struct closed {
-  void operator()(Tzu_xnode* node) const { zu_xnode_close(node); }
-};
-using node_ptr = std::unique_ptr<Tzu_xnode, closed>;
-
-struct ended {
-  void operator()(Tzu_rgb_channels* channels) const { zu_rgb_channels_destroy(channels); }
-};
-using channels_ptr = std::unique_ptr<Tzu_rgb_channels, ended>;
 
 void paint(Tzu_scale_prm* row, Tzu_color color, bool visible) {
   zu_scale_prm_set_visible(row, visible);
@@ -225,28 +213,19 @@ std::string why_not(const layer_look& look, const source& data) {
   return {};
 }
 
-void apply_look(const layer_look& look, const source& data, layer_2d layer,
-                layer_2d_externalization_service tree) {
+void apply_look(const layer_look& look, layer& dressed) {
+  const source& data = dressed.data();
   if (std::string reason = why_not(look, data); !reason.empty()) throw failure(data.name(), reason);
-  node_ptr root(zu_xnode_create_root_w(L"layer"));
-  call<&layer_2d_externalization_service_impl::save>(tree, layer, root.get(),
-                                                     static_cast<void*>(nullptr));
-  node_ptr params(zu_xnode_set_node_w(root.get(), L"grid_params"));
-  draw_type draw = drawn_as(
-      look, static_cast<draw_type>(zu_xnode_get_attr_int_w(params.get(), L"draw_type", 0)));
-
-  if (draw == draw_type::scale)
-    set_style(look, data, call<&layer_2d_impl::get_style_manager>(layer));
-  channels_ptr channels(zu_rgb_channels_create());
-  set_channels(draw, look, data, channels.get());
-  zu_xml_save_style_save_rgb_channels(nullptr, root.get(), L"channels", channels.get());
-  zu_xnode_set_attr_int_w(params.get(), L"draw_type", static_cast<std::int64_t>(draw));
-  zu_xnode_set_attr_int_w(params.get(), L"opacity", look.transparency);
-  zu_xnode_set_attr_bool_w(params.get(), L"interpolate", look.interpolate);
-  call<&layer_2d_externalization_service_impl::load>(tree, layer, root.get(),
-                                                     static_cast<void*>(nullptr));
-  set_hillshade(look, data, call<&layer_2d_impl::get_hillshade_style>(layer));
-  set_isolines(look, data, call<&layer_2d_impl::get_isoline_style>(layer));
+  draw_settings settings = dressed.settings();
+  settings.draw = drawn_as(look, settings.draw);
+  settings.transparency = look.transparency;
+  settings.interpolate = look.interpolate;
+  settings.channels.reset(zu_rgb_channels_create());
+  set_channels(settings.draw, look, data, settings.channels.get());
+  dressed.set_settings(settings);
+  if (settings.draw == draw_type::scale) set_style(look, data, dressed.style_manager());
+  set_hillshade(look, data, dressed.hillshade_style());
+  set_isolines(look, data, dressed.isoline_style());
 }
 
 }  // namespace zu::host

@@ -6,14 +6,10 @@
 #include <utility>
 #include <vector>
 
-#include "host/core/source.h"
-#include "zu/layer2d.h"
+#include "host/core/layer.h"
 #include "zu/platform/zuk_styles.h"
 
 namespace zu::host {
-
-/// Numbers of the layer's draw types.
-enum class draw_type { scale = 0, image = 1, gray = 2, rgb = 3 };
 
 /// The shade of the relief. Degrees; azimuth clockwise from the north of the map.
 struct hillshade_look {
@@ -61,9 +57,7 @@ inline constexpr std::size_t default_classes = 10;
 /// it can.
 std::string why_not(const layer_look& look, const source& data);
 
-/// Gives a bound layer, whose source is set, the look. `tree` is the externalization service of its
-/// type. Throws `failure`.
-void apply_look(const layer_look& look, const source& data, layer_2d layer,
-                layer_2d_externalization_service tree);
+/// Gives a layer the look. Throws `failure` with `why_not`.
+void apply_look(const layer_look& look, layer& dressed);
 
 }  // namespace zu::host

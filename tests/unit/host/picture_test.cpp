@@ -1,4 +1,4 @@
-#include "host/core/scene.h"
+#include "host/core/picture.h"
 
 #include <gtest/gtest.h>
 

@@ -1,0 +1,78 @@
+#pragma once
+// One layer of a scene: the platform's entity, the bundle's object behind it if its type has one,
+// and the source that it shows.
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "host/core/bundle.h"
+#include "host/core/source.h"
+#include "zu/platform/zuk_lr2d.h"
+#include "zu/platform/zuk_render.h"
+
+namespace zu::host {
+
+/// Numbers of the grid layer's draw types.
+enum class draw_type { scale = 0, image = 1, gray = 2, rgb = 3 };
+
+struct ended {
+  void operator()(Tzu_rgb_channels* channels) const { zu_rgb_channels_destroy(channels); }
+};
+using channels_ptr = std::unique_ptr<Tzu_rgb_channels, ended>;
+
+/// How a layer is coloured, besides its styles.
+struct draw_settings {
+  draw_type draw = draw_type::scale;
+  channels_ptr channels;
+  int transparency = 0;  ///< percent
+  bool interpolate = false;
+};
+
+class layer final : layer_2d_visitor_impl {
+ public:
+  /// A layer of a type that the bundle or the platform knows, on a source that may be missing.
+  /// Throws `failure` for an unknown type.
+  layer(const bundle& services, const std::string& type, const std::string& source);
+  ~layer();
+  layer(const layer&) = delete;
+  layer& operator=(const layer&) = delete;
+
+  Izu_layer* entity() const { return entity_; }
+  std::string type() const;
+  std::string source_name() const;
+  std::string caption() const;
+  void set_caption(const std::string& caption);
+  /// The source, opened when it is first asked for. Throws `failure` if it will not open.
+  const source& data() const;
+  bool is_missing() const { return zu_lr2d_is_missing(entity_); }
+  std::string projection() const;
+  /// In scene coordinates; nothing if it cannot be brought there.
+  std::optional<Tzu_box_d2> box() const;
+
+  /// The bundle's object; empty for a layer that the platform keeps itself.
+  layer_2d object() const { return object_; }
+  Tzu_stl_mngr* style_manager() const;           ///< null if the type has none
+  Tzu_hillshade_style* hillshade_style() const;  ///< null if the type has none
+  Tzu_isoline_style* isoline_style() const;      ///< null if the type has none
+
+  draw_settings settings() const;
+  void set_settings(const draw_settings& settings);
+  /// The layer's own state under a node of a tree, and back.
+  void save(Tzu_xnode* node) const;
+  void load(Tzu_xnode* node);
+
+  /// After a change of the scene's projection.
+  void update();
+  void draw(Izu_render* render) const;
+
+ private:
+  void visit(layer_2d made) override { object_ = made; }
+
+  const bundle& services_;
+  Izu_layer* entity_;
+  layer_2d object_;
+  mutable std::unique_ptr<source> data_;
+};
+
+}  // namespace zu::host

@@ -7,6 +7,7 @@
 #include "src/bundle/service_factory.h"
 #include "src/layer/grid_layer2d.h"
 #include "src/layer/layer_services.h"
+#include "src/sources/scene_editor_services.h"
 
 namespace zu {
 namespace {
@@ -21,8 +22,12 @@ constexpr wchar_t layer_2d_path[] = ZU_NAMESPACE(L"/layer/2d");
 constexpr wchar_t tool[] = ZU_NAMESPACE(L"/tool");
 constexpr wchar_t none[] = L"";
 
-vacant grid_editor2d_extension_service(scene_2d);
-vacant grids_editor2d_extension_service(scene_2d);
+factory<grid_editor2d_extension_service, scene_2d_editor_extension_service_impl,
+        scene_2d_editor_extension_service_visitor_impl>
+    grid_scene_editor_service(scene_2d);
+factory<grids_editor2d_extension_service, scene_2d_editor_extension_service_impl,
+        scene_2d_editor_extension_service_visitor_impl>
+    grids_scene_editor_service(scene_2d);
 dialog_factory<dialog::nameless> nameless_dialog;
 factory<toolkit::layer2d_service<grid_layer2d, c_grid_lr2d>, layer_2d_service_impl,
         layer_2d_service_visitor_impl>

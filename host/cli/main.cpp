@@ -27,6 +27,12 @@ constexpr entry commands[] = {
     {"info", "say what a grid holds", &add_info},
 };
 
+std::string names() {
+  std::string all;
+  for (const entry& each : commands) all += (all.empty() ? "" : ", ") + std::string(each.name);
+  return all;
+}
+
 int refuse(const std::string& reason, const std::string& command) {
   std::fprintf(stderr, "zugrid: %s; see zugrid %s--help\n", reason.c_str(),
                command.empty() ? "" : (command + " ").c_str());
@@ -63,7 +69,7 @@ int main(int argc, char** argv) {
     std::vector<std::string> arguments = with_settings({argv + 1, argv + argc});
     std::reverse(arguments.begin(), arguments.end());  // as the parser takes them
     parser.parse(arguments);
-    if (running.empty()) return refuse("a command is required: render or info", "");
+    if (running.empty()) return refuse("a command is required: " + names(), "");
     bool written = std::fflush(stdout) == 0 && std::ferror(stdout) == 0;
     return written ? result : fail("standard output: cannot be written");
   } catch (const CLI::Success& asked) {  // help and version

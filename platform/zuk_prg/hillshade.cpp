@@ -64,7 +64,7 @@ struct four_suns {
     auto lit = [](double light) { return light <= 0.0 ? 0.0 : light; };
     double light = (0.5 * steep - across) * lit(level - (p - q) * diagonal) +
                    p * p * lit(level - p * straight) +
-                   (0.5 * steep + across) * lit(level + (p + q) * diagonal) +
+                   (0.5 * steep + across) * lit(level - (p + q) * diagonal) +
                    q * q * lit(level - q * straight);
     double flat = 2.0 * level;
     double mixed = light / steep / std::sqrt(1.0 + steep);

@@ -6,10 +6,13 @@
 #include "platform/zuk_basic/guarded.h"
 #include "platform/zuk_basic/utf8.h"
 #include "platform/zuk_drwc/image_context.h"
+#include "platform/zuk_drwc/vector_context.h"
 
+using zu::platform::document_kind;
 using zu::platform::drawing_context;
 using zu::platform::guarded;
 using zu::platform::pixel_box;
+using zu::platform::vector_context;
 
 struct Tzu_drwc {
   std::unique_ptr<zu::platform::drawing_context> context;
@@ -34,6 +37,12 @@ template <class context, class... args> Tzu_drwc* made(args... given) {
 
 Tzu_drwc* zu_drwc_create_image(uint64_t nx, uint64_t ny, double dots_per_inch, bool accurate) {
   return made<zu::platform::image_context>(nx, ny, dots_per_inch, accurate);
+}
+Tzu_drwc* zu_drwc_create_pdf(double width_mm, double height_mm, double dots_per_inch) {
+  return made<vector_context>(document_kind::pdf, width_mm, height_mm, dots_per_inch);
+}
+Tzu_drwc* zu_drwc_create_svg(double width_mm, double height_mm, double dots_per_inch) {
+  return made<vector_context>(document_kind::svg, width_mm, height_mm, dots_per_inch);
 }
 void zu_drwc_destroy(Tzu_drwc* drwc) { delete drwc; }
 void zu_drwc_fill(Tzu_drwc* drwc, Tzu_color color) {

@@ -13,7 +13,6 @@
 #include "host/core/layer_look.h"
 #include "host/core/picture.h"
 #include "host/core/texts.h"
-#include "zu/platform/zuk_proj4_d2.h"
 
 namespace zu::cli {
 namespace {
@@ -104,15 +103,6 @@ host::picture_request request_of(const texts& given) {
   return request;
 }
 
-void check_projection(const std::string& text) {
-  bool known = false;
-  std::wstring why = host::text_of(
-      [&](Tzu_string_adp* reason) { known = zu_pj_check_w(host::wide(text).c_str(), reason); });
-  if (!known)
-    throw usage_error("--crs: \"" + text + "\" is no coordinate system" +
-                      (why.empty() ? "" : ": " + host::narrow(why)));
-}
-
 void check_output(const std::string& output, const std::vector<std::string>& sources) {
   std::string ending = std::filesystem::path(output).extension().string();
   for (char& c : ending)
@@ -171,7 +161,7 @@ void save(const host::drawn_picture& picture, const std::string& output,
 int run(const texts& given) {
   host::layer_look look = look_of(given);
   host::picture_request request = request_of(given);
-  if (!given.crs.empty()) check_projection(given.crs);
+  if (!given.crs.empty()) check_projection("--crs", given.crs);
   check_output(given.output, given.sources);
 
   host::bundle services;

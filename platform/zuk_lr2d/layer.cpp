@@ -44,6 +44,13 @@ void zu_lr2d_destroy(Izu_layer* layer) {
 const char* zu_lr2d_get_lr_type(const Izu_layer* layer) {
   return layer != nullptr ? layer->type.c_str() : "";
 }
+const char* zu_lr_get_lr_type(const Izu_layer* layer) { return zu_lr2d_get_lr_type(layer); }
+void zu_lr_get_lr_subtype(const Izu_layer* layer, Tzu_string_adp* adapter) {
+  guarded(layer, [&](const Izu_layer& l) { zu_string_adp_feed(adapter, l.subtype.c_str()); });
+}
+void zu_lr_set_lr_subtype(Izu_layer* layer, const wchar_t* subtype) {
+  guarded(layer, [&](Izu_layer& l) { l.subtype = text_or_empty(subtype); });
+}
 const Tzu_handle* zu_lr2d_get_plugin_interface(const Izu_layer* layer) {
   return layer != nullptr && layer->plugin ? &layer->plugin : nullptr;
 }

@@ -9,7 +9,7 @@
 
 struct Izu_layer {
   std::string type;
-  std::wstring source, caption;
+  std::wstring source, caption, subtype;
   Tzu_handle plugin;
   Tzu_scn_2d* scene = nullptr;
   Tzu_attr_data* data = nullptr;

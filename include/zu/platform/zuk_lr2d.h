@@ -15,6 +15,10 @@ typedef struct Tzu_scn_2d Tzu_scn_2d;
 ZU_API Izu_layer* zu_lr2d_create(const char* type);
 ZU_API void zu_lr2d_destroy(Izu_layer* layer);
 ZU_API const char* zu_lr2d_get_lr_type(const Izu_layer* layer);  ///< owned by the entity
+ZU_API const char* zu_lr_get_lr_type(const Izu_layer* layer);    ///< the same
+/// A kind within the type, such as "segy_sub_lr2d"; a new entity has none.
+ZU_API void zu_lr_get_lr_subtype(const Izu_layer* layer, Tzu_string_adp* adapter);
+ZU_API void zu_lr_set_lr_subtype(Izu_layer* layer, const wchar_t* subtype);
 /// Where the plug-in handle of the layer stands; null if there is none.
 ZU_API const Tzu_handle* zu_lr2d_get_plugin_interface(const Izu_layer* layer);
 ZU_API void zu_lr2d_set_plugin_interface(Izu_layer* layer, Tzu_handle plugin);
@@ -62,3 +66,23 @@ ZU_API Tzu_optional_color zu_scn_2d_get_selected_style_clr(const Tzu_scn_2d* sce
 ZU_API void zu_scn_2d_set_selected_style_clr(Tzu_scn_2d* scene, Tzu_optional_color color);
 ZU_API Tzu_scn_2d* zu_lr_get_scene(const Izu_layer* layer);  ///< null if it stands in none
 ZU_API Tzu_scn_2d* zu_lr2d_get_scn_2d(const Izu_layer* layer);
+
+// --- Builders: how whoever opens a file asks the host for layers, and tells it what failed.
+
+typedef struct Tzu_lr_builder Tzu_lr_builder;
+/// Makes a layer of a type on a path and gives its entity, which the host owns; null if it cannot.
+typedef Izu_layer* (*Tzu_lr_builder_add)(const wchar_t* path, const char* type, void* user);
+/// Hears what failed, in words for a person.
+typedef void (*Tzu_lr_builder_error)(const wchar_t* path, const wchar_t* text, void* user);
+
+/// A builder that calls the host with `user`. Null functions make no layers and hear nothing. Null
+/// if out of memory.
+ZU_API Tzu_lr_builder* zu_lr_builder_create(Tzu_lr_builder_add add, Tzu_lr_builder_error error,
+                                            void* user);
+ZU_API void zu_lr_builder_destroy(Tzu_lr_builder* builder);  ///< null is ignored
+/// Adds a layer of a type such as "grid_lr2d"; null if that failed. Null texts count as empty.
+ZU_API Izu_layer* zu_lr_builder_add_layer(Tzu_lr_builder* builder, const wchar_t* path,
+                                          const char* type);
+/// Tells the host that the file failed.
+ZU_API void zu_lr_builder_add_error(Tzu_lr_builder* builder, const wchar_t* path,
+                                    const wchar_t* text);

@@ -4,6 +4,7 @@
 #include "zu/platform/zuk_basic.h"
 #include "zu/platform/zuk_dib.h"
 #include "zu/platform/zuk_prg.h"
+#include "zu/platform/zuk_styles.h"
 
 typedef struct Tzu_drwc Tzu_drwc;
 
@@ -34,6 +35,18 @@ ZU_API void zu_drwc_draw_dib(Tzu_drwc* drwc, const Tzu_dib_draw_record* record, 
 /// Clips what follows to a polygon in millimetres (even-odd); `mode` is 0.
 ZU_API void zu_drwc_set_clip_pgn(Tzu_drwc* drwc, int32_t mode, const Tzu_ov_d2* polygon);
 ZU_API void zu_drwc_set_clip_none(Tzu_drwc* drwc);
+
+/// Limits all that follows to a box, rounded to whole pixels as a DIB's; null lifts the limit.
+/// Unlike a clip it has no soft edges, and `zu_drwc_set_clip_none` leaves it.
+ZU_API void zu_drwc_set_region(Tzu_drwc* drwc, const Tzu_box_d2* millimetres);
+
+/// Draws polylines given in millimetres. An invisible style, a width that is not above 0 and a
+/// wholly transparent colour draw nothing; a vertex that is not finite breaks its line. If the set
+/// carries a level and the style asks for it, the lines bear its number where they are long and
+/// straight enough, upright, in a gap of the line.
+ZU_API void zu_drwc_draw_pln(Tzu_drwc* drwc, const Tzu_ov_d2* lines, const Tzu_pln_style* style);
+/// Fills a box over what is there; its sides are not rounded to pixels.
+ZU_API void zu_drwc_fill_box(Tzu_drwc* drwc, const Tzu_box_d2* millimetres, Tzu_color color);
 
 /// Pixels of the picture, top row first, four bytes red, green, blue, opacity, not premultiplied,
 /// into nx * ny * 4 bytes.

@@ -8,6 +8,7 @@ namespace {
 
 constexpr std::uint32_t default_classes = 10;
 constexpr std::int32_t default_colors = 5;
+constexpr std::int32_t no_rounding = -30;
 
 /// Style parameters from the lower tail to the upper one.
 std::vector<Tzu_stl_prm*> styles_of(Tzu_rng_scale* scale) {
@@ -39,6 +40,22 @@ void set_equal_intervals(Tzu_rng_scale* scale, std::uint32_t count, double minim
     zu_rng_scale_set_max(scale, i, minimum + (i + 1.0) * step);
   }
   zu_rng_scale_set_max_value(scale, minimum + count * step);
+}
+
+void round_boundaries(Tzu_rng_scale* scale, std::int32_t digits) {
+  if (digits == no_rounding) return;
+  double to_units = std::pow(10.0, -digits), from_units = std::pow(10.0, digits);
+  auto rounded = [&](double x) {
+    double size = std::floor(std::abs(x) * to_units + 0.5) * from_units;
+    return x < 0.0 ? -size : size;
+  };
+  zu_rng_scale_set_min_value(scale, rounded(zu_rng_scale_get_min_value(scale)));
+  zu_rng_scale_set_max_value(scale, rounded(zu_rng_scale_get_max_value(scale)));
+  std::uint64_t size = zu_rng_scale_get_size(scale);
+  for (std::uint64_t i = 0; i < size; ++i) {
+    zu_rng_scale_set_min(scale, i, rounded(zu_rng_scale_get_min(scale, i)));
+    zu_rng_scale_set_max(scale, i, rounded(zu_rng_scale_get_max(scale, i)));
+  }
 }
 
 bool spread_colors(Tzu_rng_scale* scale, std::int32_t array) {

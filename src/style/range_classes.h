@@ -13,6 +13,10 @@ namespace zu::style {
 /// they are, also falling. Count 0 gives one class. A width that is no finite number becomes 0.
 void set_equal_intervals(Tzu_rng_scale* scale, std::uint32_t count, double minimum, double maximum);
 
+/// Rounds all boundaries to multiples of ten to the power `digits`, halves away from zero. -30
+/// leaves them as they are.
+void round_boundaries(Tzu_rng_scale* scale, std::int32_t digits);
+
 /// Spreads a numbered array of colours over lower tail, classes and upper tail; transparencies
 /// stay. False, and nothing changed, if there is no such array.
 bool spread_colors(Tzu_rng_scale* scale, std::int32_t array);

@@ -58,6 +58,22 @@ TEST_F(range_classes, have_no_width_where_it_is_no_finite_number) {
   EXPECT_EQ(boundaries(), (std::vector<double>{5, 5, 5, 5}));
 }
 
+TEST_F(range_classes, are_rounded_to_multiples_of_a_power_of_ten) {
+  auto rounded = [&](std::int32_t digits) {
+    set_equal_intervals(scale_, 2, -12.345, 87.655);
+    style::round_boundaries(scale_, digits);
+    return boundaries();
+  };
+  EXPECT_EQ(rounded(0), (std::vector<double>{-12, -12, 38, 38, 88, 88}));
+  EXPECT_EQ(rounded(1), (std::vector<double>{-10, -10, 40, 40, 90, 90}));
+  EXPECT_EQ(rounded(-1), (std::vector<double>{-12.3, -12.3, 37.7, 37.7, 87.7, 87.7}));
+  EXPECT_EQ(rounded(3), (std::vector<double>{0, 0, 0, 0, 0, 0}));
+  EXPECT_EQ(rounded(-30), (std::vector<double>{-12.345, -12.345, 37.655, 37.655, 87.655, 87.655}));
+  set_equal_intervals(scale_, 1, -2.5, 2.5);
+  style::round_boundaries(scale_, 0);
+  EXPECT_EQ(boundaries(), (std::vector<double>{-3, -3, 3, 3})) << "halves go away from zero";
+}
+
 TEST_F(range_classes, take_the_colours_of_an_array_from_tail_to_tail) {
   set_equal_intervals(scale_, 1, 0, 1);
   zu_stl_prm_clr_set_all(zu_scale_prm_get_stl_prm_ptr(zu_rng_scale_get_scale_prm_ptr(scale_, 0)),

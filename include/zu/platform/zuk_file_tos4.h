@@ -31,16 +31,17 @@ ZU_API void zu_tos4_get_prop_name_w(const Tzu_tos4_file* file, uint32_t index,
                                     Tzu_string_adp* adapter);
 ZU_API void zu_tos4_get_prop_caption_w(const Tzu_tos4_file* file, uint32_t index,
                                        Tzu_string_adp* adapter);
-/// The property that holds the coordinates along an axis, 0 to 2; -1 if the grid has no such column.
+/// The property that holds the coordinates along an axis, 0 to 2; -1 if the grid has no such
+/// column.
 ZU_API int32_t zu_tos4_get_coord_prop(const Tzu_tos4_file* file, int32_t axis);
 
 /// A grid to be made.
 typedef struct Tzu_tos4_grid {
-  int32_t type;                   ///< Tzu_tos4_grid_type
-  int32_t size[3];                ///< nodes, each at least 1; [y and] z is 1 where there is none
-  double origin[3], spacing[3];   ///< middle of the first cell; spacing finite and not 0
-  double azimuth;                 ///< of the x axis, degrees, counter-clockwise
-  const wchar_t* projection;      ///< WKT or PROJ text; null or empty: none
+  int32_t type;                  ///< Tzu_tos4_grid_type
+  int32_t size[3];               ///< nodes, each at least 1; [y and] z is 1 where there is none
+  double origin[3], spacing[3];  ///< middle of the first cell; spacing finite and not 0
+  double azimuth;                ///< of the x axis, degrees, counter-clockwise
+  const wchar_t* projection;     ///< WKT or PROJ text; null or empty: none
 } Tzu_tos4_grid;
 /// A property to be added.
 typedef struct Tzu_tos4_prop {

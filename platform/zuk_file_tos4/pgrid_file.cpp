@@ -113,6 +113,11 @@ void pgrid_file::read_all() {
   for (const grid_property& property : properties_) empty_.push_back(empty_sample(property));
 }
 
+database& pgrid_file::base() {
+  if (base_ == nullptr) throw pgrid_failure("is finished");
+  return *base_;
+}
+
 const grid_property& pgrid_file::at(std::size_t property) const {
   if (property >= properties_.size()) throw pgrid_failure("has no such property");
   return properties_[property];
@@ -164,7 +169,7 @@ void pgrid_file::forget_statistics(std::size_t property) {
 // --- Transactions
 
 pgrid_file::reading::reading(pgrid_file& file)
-    : file_(file.base_->in_transaction() ? nullptr : &file) {
+    : file_(file.base().in_transaction() ? nullptr : &file) {
   if (file_ == nullptr) return;
   file_->base_->run("BEGIN");
   try {
@@ -189,7 +194,7 @@ pgrid_file::reading::~reading() {
   }
 }
 
-pgrid_file::edit::edit(pgrid_file& file) : file_(file), open_(!file.base_->in_transaction()) {
+pgrid_file::edit::edit(pgrid_file& file) : file_(file), open_(!file.base().in_transaction()) {
   if (!file_.can_write()) throw pgrid_failure("is open for reading alone");
   if (!open_) return;
   file_.base_->run("BEGIN IMMEDIATE");
@@ -215,8 +220,9 @@ void pgrid_file::edit::commit() {
 }
 
 void pgrid_file::commit() {
+  if (temporary_ == nullptr) throw pgrid_failure("is in its place already");
   store_changed();
-  base_->run("COMMIT");
+  base().run("COMMIT");
   version_.reset(), remove_.reset(), insert_.reset(), select_.reset();
   base_.reset();
   try {
@@ -292,6 +298,31 @@ void pgrid_file::forget_tiles() {
 const std::byte* pgrid_file::tile(std::size_t property, int level, std::int64_t z, std::int64_t y,
                                   std::int64_t x) {
   return hold(property, plan_.id(at(property).slot, level, z, y, x)).samples.data();
+}
+
+bool pgrid_file::for_tiles(std::size_t property, int level, bool skip_missing,
+                           const std::function<bool(const seen_tile&)>& see) {
+  const tile_level& l = plan_.level(level);
+  const std::int64_t first = plan_.id(at(property).slot, level, 0, 0, 0);
+  const std::int64_t in_slice = l.tiles[0] * l.tiles[1], all = in_slice * head_.size[2];
+  statement next(base().get(),
+                 "SELECT id FROM tile WHERE id >= ?1 AND id < ?2 ORDER BY id LIMIT 1");
+  for (std::int64_t number = 0; number < all; ++number) {
+    if (skip_missing) {
+      next.bind(1, first + number).bind(2, first + all);
+      if (!next.step()) break;
+      number = next.integer(0) - first;
+      next.reset();
+    }
+    std::int64_t z = number / in_slice, y = number % in_slice / l.tiles[0];
+    std::int64_t x = number % in_slice % l.tiles[0];
+    seen_tile seen{tile(property, level, z, y, x),
+                   std::min(head_.tile[0], l.size[0] - x * head_.tile[0]),
+                   std::min(head_.tile[1], l.size[1] - y * head_.tile[1]),
+                   static_cast<double>(number + 1) / static_cast<double>(all)};
+    if (!see(seen)) return false;
+  }
+  return true;
 }
 
 // --- Samples

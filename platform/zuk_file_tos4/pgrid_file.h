@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <list>
 #include <memory>
 #include <span>
@@ -34,7 +35,7 @@ class pgrid_file {
   const grid_head& head() const { return head_; }
   const tile_plan& plan() const { return plan_; }
   const std::vector<grid_property>& properties() const { return properties_; }
-  bool can_write() const { return base_->mode() != access::read; }
+  bool can_write() const { return base_ != nullptr && base_->mode() != access::read; }
 
   std::size_t add_property(grid_property property);  ///< the slot is chosen here; gives the index
   void set_head(const grid_head& head);              ///< place, projection and columns; sizes stay
@@ -57,6 +58,16 @@ class pgrid_file {
                         std::int64_t x);
   std::size_t tile_bytes(std::size_t property) const;
 
+  struct seen_tile {
+    const std::byte* samples;  ///< as of `tile`
+    std::int64_t nx, ny;       ///< samples in it that are no padding
+    double share;              ///< of the tiles, with this one
+  };
+  /// Shows every tile of a level, or only those that are there; false if `see` gave false. Inside a
+  /// reading.
+  bool for_tiles(std::size_t property, int level, bool skip_missing,
+                 const std::function<bool(const seen_tile&)>& see);
+
   /// One edit; undone unless committed. Statistics of what it writes are dropped.
   class edit {
    public:
@@ -78,7 +89,7 @@ class pgrid_file {
                  const std::byte* samples);
   void read_run(std::size_t property, std::int64_t start, std::int64_t count, std::byte* samples);
 
-  void commit();  ///< of a new file
+  void commit();  ///< of a new file; it is closed by that
 
  private:
   struct held_tile {
@@ -89,6 +100,7 @@ class pgrid_file {
   };
   using held_tiles = std::list<held_tile>;  // the latest used first
 
+  database& base();  // throws once a new file is in its place
   void prepare();
   void read_all();
   void forget_statistics(std::size_t property);

@@ -5,6 +5,7 @@
 #include "src/bundle/localizer_client.h"
 #include "src/bundle/modal_dialog.h"
 #include "src/bundle/service_factory.h"
+#include "src/layer/grid2d_objinfo_service.h"
 #include "src/layer/grid_layer2d.h"
 #include "src/layer/layer_services.h"
 #include "src/sources/scene_editor_services.h"
@@ -41,7 +42,8 @@ factory<toolkit::layer2d_render_service<grid_layer2d, c_grid_lr2d>,
 vacant grid_layer2d_editor(layer_2d_path);
 vacant grid_layer2d_hillshade(layer_2d_path);
 vacant grid_layer2d_isoline(layer_2d_path);
-vacant grid2d_objinfo_service(none);
+factory<grid2d_objinfo_service, objinfo_service_impl, objinfo_service_visitor_impl>
+    grid_objinfo_service(none);
 vacant grid2d_tools_service(tool);
 vacant grid2d_table_view_service(none);
 vacant rastr_lr2d_render_service(none);

@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 #include <cstring>
+#include <set>
 #include <vector>
 
 #include "platform/zuk_basic/utf8.h"
@@ -103,6 +104,16 @@ bool same_nodata(const grid_property& a, const grid_property& b) {
   return !a.has_nodata || a.nodata == b.nodata || (std::isnan(a.nodata) && std::isnan(b.nodata));
 }
 
+/// Bands may bear one name; properties are told apart by theirs.
+void make_names_differ(std::vector<grid_property>& all) {
+  std::set<std::string> taken;
+  for (grid_property& each : all) {
+    std::string base = each.name.empty() ? "Field" : each.name;
+    for (int number = 2; !taken.insert(each.name).second || each.name.empty(); ++number)
+      each.name = base + " (" + std::to_string(number) + ")";
+  }
+}
+
 /// Copies fields of a source, slice by slice, and counts what has been read.
 class grid_copy {
  public:
@@ -148,8 +159,12 @@ class grid_copy {
     const std::int64_t origin[] = {box.x, box.y, slice};
     const std::uint64_t size[] = {static_cast<std::uint64_t>(box.nx),
                                   static_cast<std::uint64_t>(box.ny), 1};
-    std::int32_t result = call<&grid_block_impl::read_window_3d>(
-        block, origin, size, samples_.data(), size, p.type, nullptr);
+    // A source in two dimensions need not know the read with a slice.
+    auto read = [&](auto... given) {
+      return slice == 0 ? call<&grid_block_impl::read_window>(block, given...)
+                        : call<&grid_block_impl::read_window_3d>(block, given...);
+    };
+    std::int32_t result = read(&origin[0], &size[0], samples_.data(), &size[0], p.type, nullptr);
     if (result != 1) throw pgrid_failure("a field cannot be read");
     file_.write(property, box, samples_.data());
     valid_cells valid{p.has_nodata && std::isfinite(p.nodata), p.has_nodata ? p.nodata : 0};
@@ -210,6 +225,7 @@ bool write_pgrid(handle source, const std::wstring& path, const Tzu_pgrid_option
     made[0].name = to_utf8(options.volume_name);
     made[0].role = role_none, made[0].palette.clear();
   }
+  make_names_differ(made);
   pgrid_file file(to_utf8(path), head_of(source, options, fields.size()));
   auto passes = static_cast<std::int64_t>(options.volume ? 1 : fields.size());
   grid_copy copy(source, file, passes, progress, user);

@@ -27,6 +27,10 @@ class drawing_context {
   virtual void fill(Tzu_color color) = 0;
   virtual void draw(const Tzu_dib_draw_record& record, const Tzu_dib& dib) = 0;
   void draw_lines(const Tzu_ov_d2& set, const Tzu_pln_style& style);
+  /// The height is that of the font; the anchor is a `Tzu_text_anchor`. Throws std::bad_alloc.
+  void draw_text(double x_mm, double y_mm, double height_mm, int anchor, Tzu_color color,
+                 const std::string& utf8);
+  double text_width(double height_mm, const std::string& utf8) const;  ///< millimetres
   void fill_box(const Tzu_box_d2& millimetres, Tzu_color color);
   void set_clip(const Tzu_ov_d2* polygon);
   void clear_clip();
@@ -55,7 +59,8 @@ class drawing_context {
   bool accurate_, clipped_ = false;
   std::uint64_t largest_side_;  ///< of a DIB
   std::optional<pixel_box> region_;
-  cairo_ptr cairo_;  ///< user space: pixels of the page, y downwards
+  std::vector<Tzu_box_d2> labels_;  ///< boxes of the numbers on lines, in pixels, y downwards
+  cairo_ptr cairo_;                 ///< user space: pixels of the page, y downwards
 };
 
 }  // namespace zu::platform

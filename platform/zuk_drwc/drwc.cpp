@@ -78,6 +78,17 @@ void zu_drwc_draw_pln(Tzu_drwc* drwc, const Tzu_ov_d2* lines, const Tzu_pln_styl
   if (lines == nullptr || style == nullptr) return;
   drawn_by(drwc, [&](drawing_context& d) { d.draw_lines(*lines, *style); });
 }
+void zu_drwc_draw_text_w(Tzu_drwc* drwc, double x_mm, double y_mm, double height_mm, int32_t anchor,
+                         Tzu_color color, const wchar_t* text) {
+  drawn_by(drwc, [&](drawing_context& d) {
+    d.draw_text(x_mm, y_mm, height_mm, anchor, color, zu::platform::to_utf8(text));
+  });
+}
+double zu_drwc_text_size_w(const Tzu_drwc* drwc, double height_mm, const wchar_t* text) {
+  return guarded(drwc, 0.0, [&](const Tzu_drwc& d) {
+    return d.context->text_width(height_mm, zu::platform::to_utf8(text));
+  });
+}
 void zu_drwc_fill_box(Tzu_drwc* drwc, const Tzu_box_d2* millimetres, Tzu_color color) {
   drawn_by(drwc, [&](drawing_context& d) { d.fill_box(*millimetres, color); });
 }

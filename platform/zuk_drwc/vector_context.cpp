@@ -73,6 +73,7 @@ vector_context::~vector_context() {
 }
 
 void vector_context::fill(Tzu_color color) {
+  labels_.clear();
   if (color.a == 255) return;
   cairo_save(cairo_.get());
   cairo_reset_clip(cairo_.get());

@@ -48,9 +48,31 @@ ZU_API void zu_drwc_set_region(Tzu_drwc* drwc, const Tzu_box_d2* millimetres);
 
 /// Draws polylines given in millimetres. An invisible style, a width that is not above 0 and a
 /// wholly transparent colour draw nothing; a vertex that is not finite breaks its line. If the set
-/// carries a level and the style asks for it, the lines bear its number where they are long and
-/// straight enough, upright, in a gap of the line.
+/// carries a level and the style asks for it, lines longer than three times its number bear
+/// it where they are straight enough, upright, in a gap of the line, about once in 100 mm; no
+/// number leaves the page or the region or covers another one.
 ZU_API void zu_drwc_draw_pln(Tzu_drwc* drwc, const Tzu_ov_d2* lines, const Tzu_pln_style* style);
+
+/// Which point of a text lies at the given place: low is the base line, high the top of its
+/// capitals.
+enum Tzu_text_anchor {
+  zu_anchor_low_left = 0,
+  zu_anchor_low_center = 1,
+  zu_anchor_low_right = 2,
+  zu_anchor_middle_left = 3,
+  zu_anchor_middle_center = 4,
+  zu_anchor_middle_right = 5,
+  zu_anchor_high_left = 6,
+  zu_anchor_high_center = 7,
+  zu_anchor_high_right = 8,
+};
+/// Draws a text in one line, in DejaVu Sans. The height, in millimetres, is that of the font; its
+/// capitals are 0.73 of it. Nothing is drawn for a height that is not above 0, an unknown anchor
+/// and a place that is not finite.
+ZU_API void zu_drwc_draw_text_w(Tzu_drwc* drwc, double x_mm, double y_mm, double height_mm,
+                                int32_t anchor, Tzu_color color, const wchar_t* text);
+/// Width of such a text in millimetres, the same in every context; 0 if it cannot be drawn.
+ZU_API double zu_drwc_text_size_w(const Tzu_drwc* drwc, double height_mm, const wchar_t* text);
 /// Fills a box over what is there; its sides are not rounded to pixels.
 ZU_API void zu_drwc_fill_box(Tzu_drwc* drwc, const Tzu_box_d2* millimetres, Tzu_color color);
 

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "host/cli/commands.h"
+#include "host/cli/manual.h"
 #include "host/cli/option_texts.h"
 #include "host/core/failure.h"
 
@@ -25,7 +26,14 @@ struct entry {
 constexpr entry commands[] = {
     {"render", "draw grids into a picture", &add_render},
     {"info", "say what a grid holds", &add_info},
+    {"probe", "say what a grid has at a point", &add_probe},
 };
+
+std::string names() {
+  std::string all;
+  for (const entry& each : commands) all += (all.empty() ? "" : ", ") + std::string(each.name);
+  return all;
+}
 
 int refuse(const std::string& reason, const std::string& command) {
   std::fprintf(stderr, "zugrid: %s; see zugrid %s--help\n", reason.c_str(),
@@ -58,12 +66,21 @@ int main(int argc, char** argv) {
       result = run();
     });
   }
+  CLI::App* manual = parser.add_subcommand("manual", "print the manual page or a completion");
+  std::string kind;
+  manual->group("");  // for those who package the program
+  manual->add_option("KIND", kind)->required()->check(CLI::IsMember({"man", "bash"}));
+  manual->callback([&] {
+    running = "manual";
+    std::string text = kind == "man" ? man_page(parser, ZU_VERSION) : bash_completion(parser);
+    std::fputs(text.c_str(), stdout);
+  });
   std::signal(SIGXFSZ, SIG_IGN);  // a file that may not grow is a failed write, with its reason
   try {
     std::vector<std::string> arguments = with_settings({argv + 1, argv + argc});
     std::reverse(arguments.begin(), arguments.end());  // as the parser takes them
     parser.parse(arguments);
-    if (running.empty()) return refuse("a command is required: render or info", "");
+    if (running.empty()) return refuse("a command is required: " + names(), "");
     bool written = std::fflush(stdout) == 0 && std::ferror(stdout) == 0;
     return written ? result : fail("standard output: cannot be written");
   } catch (const CLI::Success& asked) {  // help and version

@@ -7,6 +7,8 @@
 #include <map>
 
 #include "host/cli/commands.h"
+#include "host/core/texts.h"
+#include "zu/platform/zuk_proj4_d2.h"
 
 namespace zu::cli {
 namespace {
@@ -191,6 +193,15 @@ std::vector<std::string> with_settings(const std::vector<std::string>& arguments
     all.push_back(overlay && !are_settings(each, next) ? each + "=" + as_it_comes : each);
   }
   return all;
+}
+
+void check_projection(const std::string& option, const std::string& text) {
+  bool known = false;
+  std::wstring why = host::text_of(
+      [&](Tzu_string_adp* reason) { known = zu_pj_check_w(host::wide(text).c_str(), reason); });
+  if (!known)
+    throw usage_error(option + ": \"" + text + "\" is no coordinate system" +
+                      (why.empty() ? "" : ": " + host::narrow(why)));
 }
 
 host::hillshade_look hillshade_of(const std::string& option, const std::string& text) {

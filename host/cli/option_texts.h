@@ -32,6 +32,8 @@ std::vector<double> breaks_of(const std::string& option, const std::string& text
 std::vector<std::pair<std::string, Tzu_color>> values_of(const std::string& option,
                                                          const std::string& text);
 
+/// Refuses what is no coordinate system.
+void check_projection(const std::string& option, const std::string& text);
 /// What stands for an overlay's settings where none are given.
 inline constexpr char as_it_comes[] = "default";
 /// The command line with `as_it_comes` given to each --hillshade and --isolines that is followed by

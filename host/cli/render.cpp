@@ -13,7 +13,6 @@
 #include "host/core/layer_look.h"
 #include "host/core/picture.h"
 #include "host/core/texts.h"
-#include "zu/platform/zuk_proj4_d2.h"
 
 namespace zu::cli {
 namespace {
@@ -36,6 +35,7 @@ struct texts {
   std::vector<std::string> sources;
   std::string output, size, extent, crs, draw, field, rgb, limits, breaks, colors, other, values,
       simple, background, hillshade, isolines;
+  std::optional<std::int64_t> slice;
   bool interpolate = false;
   int transparency = 0;
 };
@@ -90,6 +90,7 @@ host::layer_look look_of(const texts& given) {
   if (!given.simple.empty()) look.simple = color_of("--simple", given.simple);
   if (!given.hillshade.empty()) look.hillshade = hillshade_of("--hillshade", given.hillshade);
   if (!given.isolines.empty()) look.isolines = isolines_of("--isolines", given.isolines);
+  look.slice = given.slice;
   look.interpolate = given.interpolate;
   look.transparency = given.transparency;
   check(look);
@@ -102,15 +103,6 @@ host::picture_request request_of(const texts& given) {
   if (!given.extent.empty()) request.extent = box_of("--extent", given.extent);
   if (!given.background.empty()) request.background = color_of("--background", given.background);
   return request;
-}
-
-void check_projection(const std::string& text) {
-  bool known = false;
-  std::wstring why = host::text_of(
-      [&](Tzu_string_adp* reason) { known = zu_pj_check_w(host::wide(text).c_str(), reason); });
-  if (!known)
-    throw usage_error("--crs: \"" + text + "\" is no coordinate system" +
-                      (why.empty() ? "" : ": " + host::narrow(why)));
 }
 
 void check_output(const std::string& output, const std::vector<std::string>& sources) {
@@ -132,7 +124,7 @@ void dress(host::scene& scene, const host::layer_look& look) {
   std::string refusal;
   std::size_t dressed = 0;
   for (const auto& layer : scene.layers()) {
-    std::string reason = host::why_not(look, layer->data());
+    std::string reason = host::why_not(look, *layer);
     if (reason.empty()) ++dressed;
     if (!reason.empty() && refusal.empty()) refusal = layer->data().name() + ": " + reason;
     host::apply_look(reason.empty() ? look : plain, *layer);
@@ -171,7 +163,7 @@ void save(const host::drawn_picture& picture, const std::string& output,
 int run(const texts& given) {
   host::layer_look look = look_of(given);
   host::picture_request request = request_of(given);
-  if (!given.crs.empty()) check_projection(given.crs);
+  if (!given.crs.empty()) check_projection("--crs", given.crs);
   check_output(given.output, given.sources);
 
   host::bundle services;
@@ -249,6 +241,7 @@ command add_render(CLI::App& options) {
       .add_option("--isolines", given->isolines,
                   "lines of equal value: thin=10,bold=50,field=NAME,label")
       ->type_name("[SETTINGS]");
+  options.add_option("--slice", given->slice, "a slice of a volume, from 0")->type_name("N");
   options
       .add_option("--background", given->background,
                   "colour of the page (none: the picture keeps its transparency)")

@@ -2,6 +2,7 @@
 
 #include <dlfcn.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 
@@ -16,6 +17,14 @@ template <class interface, class visitor_impl> struct receiver final : visitor_i
   strong_ref<interface> held;
   void visit(of<interface> service) override { held.reset(service); }
 };
+
+template <class interface, class visitor_impl>
+void take_untyped(service_factory factory, handle owner,
+                  std::vector<strong_ref<interface>>& services) {
+  receiver<interface, visitor_impl> receiver;
+  call<&service_factory_impl::create>(factory, owner, handle(handle_of<visitor_impl>(receiver)));
+  if (receiver.held) services.push_back(receiver.held);
+}
 
 template <class interface, class visitor_impl>
 void take(service_factory factory, handle owner, std::vector<typed_service<interface>>& services) {
@@ -54,7 +63,31 @@ struct bundle::context final : referent<bundle_context_impl> {
   registry services;
 };
 
-bundle::bundle() {
+/// Answers the bundle's dialogs where nobody can: with the settings that they open with, where that
+/// is what a person would mostly take.
+struct bundle::dialogs final : modal_dialog_visitor_impl {
+  struct runner final : modal_dialog_runner_impl {
+    explicit runner(bool accepts) : accepts(accepts) {}
+    int run(handle) override { return accepts ? 1 : 0; }
+    bool accepts;
+  };
+  void visit(const wchar_t* id, modal_dialog dialog) override {
+    runners.push_back(std::make_unique<runner>(std::wstring(id) == L"zu_segy_params_dialog"));
+    call<&modal_dialog_impl::attach_view>(
+        dialog, modal_dialog_runner(handle_of<modal_dialog_runner_impl>(*runners.back())));
+  }
+  std::vector<std::unique_ptr<runner>> runners;
+  std::vector<strong_ref<modal_dialog_service_impl>> services;
+};
+
+/// Keeps the filters of a service.
+struct kept_filters final : scene_editor_filter_visitor_impl {
+  explicit kept_filters(std::vector<scene_editor_filter>& all) : all(all) {}
+  void visit(scene_editor_filter filter) override { all.push_back(filter); }
+  std::vector<scene_editor_filter>& all;
+};
+
+bundle::bundle() : dialogs_(std::make_unique<dialogs>()) {
   std::string path = bundle_path();
   library_ = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
   if (library_ == nullptr) throw failure(path, std::string("cannot be loaded: ") + dlerror());
@@ -68,6 +101,10 @@ bundle::bundle() {
 }
 
 bundle::~bundle() {
+  dialogs_->services.clear();
+  infos_.clear();
+  filters_.clear();
+  editors_.clear();
   renderers_.clear();
   trees_.clear();
   layers_.clear();
@@ -95,7 +132,24 @@ void bundle::take_services() {
         factory, owner, trees_);
     take<layer_2d_renderer_extension_service_impl,
          layer_2d_renderer_extension_service_visitor_impl>(factory, owner, renderers_);
+    take_untyped<scene_2d_editor_extension_service_impl,
+                 scene_2d_editor_extension_service_visitor_impl>(factory, owner, editors_);
+    take_untyped<objinfo_service_impl, objinfo_service_visitor_impl>(factory, owner, infos_);
+    take_untyped<modal_dialog_service_impl, modal_dialog_service_visitor_impl>(factory, owner,
+                                                                               dialogs_->services);
   }
+  for (const auto& service : dialogs_->services)
+    call<&modal_dialog_service_impl::get_dialog>(
+        service.get(), modal_dialog_visitor(handle_of<modal_dialog_visitor_impl>(*dialogs_)));
+  std::stable_sort(editors_.begin(), editors_.end(), [](const auto& a, const auto& b) {
+    return call<&scene_2d_editor_extension_service_impl::get_order>(a.get()) <
+           call<&scene_2d_editor_extension_service_impl::get_order>(b.get());
+  });
+  kept_filters keep(filters_);
+  for (const auto& service : editors_)
+    call<&scene_2d_editor_extension_service_impl::get_filters>(
+        service.get(),
+        scene_editor_filter_visitor(handle_of<scene_editor_filter_visitor_impl>(keep)));
 }
 
 layer_2d_service bundle::layers(const std::string& type) const { return find(layers_, type); }

@@ -1,11 +1,14 @@
 #pragma once
 // The plug-in bundle: found, loaded, and asked for its services.
 
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "zu/layer2d.h"
+#include "zu/objinfo.h"
+#include "zu/scene_editor.h"
 #include "zu/services.h"
 
 namespace zu::host {
@@ -29,6 +32,10 @@ class bundle final : service_factory_receiver_impl {
   layer_2d_externalization_service externalization(const std::string& type) const;
   layer_2d_renderer_extension_service renderer(const std::string& type) const;
 
+  /// What takes files, the filters of the service of least order first.
+  const std::vector<scene_editor_filter>& filters() const { return filters_; }
+  const std::vector<strong_ref<objinfo_service_impl>>& object_infos() const { return infos_; }
+
   /// Namespace and factory of every entry, in the bundle's order.
   const std::vector<std::pair<std::wstring, service_factory>>& factories() const {
     return factories_;
@@ -41,6 +48,7 @@ class bundle final : service_factory_receiver_impl {
 
   struct registry;
   struct context;
+  struct dialogs;
 
   void* library_ = nullptr;
   std::vector<std::pair<std::wstring, service_factory>> factories_;
@@ -48,6 +56,10 @@ class bundle final : service_factory_receiver_impl {
   std::vector<typed_service<layer_2d_service_impl>> layers_;
   std::vector<typed_service<layer_2d_externalization_service_impl>> trees_;
   std::vector<typed_service<layer_2d_renderer_extension_service_impl>> renderers_;
+  std::vector<strong_ref<scene_2d_editor_extension_service_impl>> editors_;
+  std::vector<scene_editor_filter> filters_;
+  std::vector<strong_ref<objinfo_service_impl>> infos_;
+  std::unique_ptr<dialogs> dialogs_;
 };
 
 }  // namespace zu::host

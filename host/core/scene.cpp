@@ -10,8 +10,42 @@ namespace zu::host {
 namespace {
 
 constexpr char grid_type[] = "grid_lr2d";
+constexpr char raster_type[] = "rtr_lr2d";
 
 }  // namespace
+
+/// The scene as the builder that a filter asks.
+struct scene::construction {
+  scene& owner;
+  std::string error_text;
+
+  static Izu_layer* add(const wchar_t* path, const char* type, void* user) {
+    auto& self = *static_cast<construction*>(user);
+    try {
+      return self.make(narrow(path), type);
+    } catch (const std::exception& problem) {
+      self.error_text = problem.what();
+      return nullptr;
+    }
+  }
+  static void error(const wchar_t*, const wchar_t* text, void* user) {
+    auto& self = *static_cast<construction*>(user);
+    if (self.error_text.empty()) self.error_text = narrow(text);
+  }
+
+ private:
+  Izu_layer* make(const std::string& path, const std::string& type) {
+    // A picture is a grid here: so its bands can be styled, and a grid in a picture's file is one.
+    layer& made = owner.add_layer(type == raster_type ? grid_type : type, path);
+    try {
+      made.data();
+    } catch (...) {
+      owner.remove(made);
+      throw;
+    }
+    return made.entity();
+  }
+};
 
 scene::scene(const bundle& services) : services_(services), scene_(zu_scn_2d_create()) {}
 
@@ -21,8 +55,28 @@ scene::~scene() {
 }
 
 layer& scene::add(const std::string& source) {
-  host::source opens(source);
-  return add_layer(grid_type, source);
+  std::wstring path = wide_name(source);
+  std::size_t before = layers_.size();
+  construction work{*this, {}};
+  std::unique_ptr<Tzu_lr_builder, void (*)(Tzu_lr_builder*)> builder(
+      zu_lr_builder_create(&construction::add, &construction::error, &work),
+      &zu_lr_builder_destroy);
+  zu_problems_clear(path.c_str());
+  auto takes = [&](scene_editor_filter filter) {
+    return call<&scene_editor_filter_impl::accepts>(filter, path.c_str());
+  };
+  const auto& filters = services_.filters();
+  auto found = std::find_if(filters.begin(), filters.end(), takes);
+  if (found != filters.end())
+    call<&scene_editor_filter_impl::add>(*found, builder.get(), path.c_str());
+  else
+    zu_lr_builder_add_layer(builder.get(), path.c_str(), grid_type);
+  if (layers_.size() == before) {
+    std::vector<std::string> why = reasons(path, zu_problem_open);
+    if (!why.empty()) throw failure(source, why.back());
+    throw failure(source, work.error_text.empty() ? "cannot be opened" : work.error_text);
+  }
+  return *layers_.back();
 }
 
 layer& scene::add_layer(const std::string& type, const std::string& source) {
@@ -32,6 +86,11 @@ layer& scene::add_layer(const std::string& type, const std::string& source) {
   if (projection().empty()) set_projection(added.projection());
   added.update();
   return added;
+}
+
+void scene::remove(const layer& removed) {
+  zu_scn_2d_remove_layer(scene_, removed.entity());
+  std::erase_if(layers_, [&](const auto& each) { return each.get() == &removed; });
 }
 
 void scene::set_projection(const std::string& text) {

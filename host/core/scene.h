@@ -16,10 +16,12 @@ class scene {
   scene(const scene&) = delete;
   scene& operator=(const scene&) = delete;
 
-  /// Opens a source as a layer on top. Throws `failure` if it will not open.
+  /// Opens a source as a layer on top, by the bundle's filter that takes it or, where none does, as
+  /// a grid. Throws `failure` if no layer came of it.
   layer& add(const std::string& source);
   /// Adds a layer of a type on top, whether its source is there or not.
   layer& add_layer(const std::string& type, const std::string& source);
+  void remove(const layer& removed);
   const std::vector<std::unique_ptr<layer>>& layers() const { return layers_; }
   /// EPSG:n, PROJ text or WKT; the first layer's own until it is set.
   void set_projection(const std::string& text);
@@ -29,6 +31,8 @@ class scene {
   Tzu_scn_2d* get() const { return scene_; }
 
  private:
+  struct construction;
+
   const bundle& services_;
   Tzu_scn_2d* scene_;
   std::vector<std::unique_ptr<layer>> layers_;

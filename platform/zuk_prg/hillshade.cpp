@@ -11,11 +11,6 @@
 #include "platform/zuk_basic/guarded.h"
 #include "platform/zuk_prg/double_grid.h"
 
-// The loop over a row is to be vectorised, for which a square root must not set errno.
-#ifndef __clang__
-#pragma GCC optimize("O3", "no-math-errno", "no-trapping-math")
-#endif
-
 namespace zu::platform {
 namespace {
 
@@ -64,7 +59,7 @@ struct four_suns {
     auto lit = [](double light) { return light <= 0.0 ? 0.0 : light; };
     double light = (0.5 * steep - across) * lit(level - (p - q) * diagonal) +
                    p * p * lit(level - p * straight) +
-                   (0.5 * steep + across) * lit(level + (p + q) * diagonal) +
+                   (0.5 * steep + across) * lit(level - (p + q) * diagonal) +
                    q * q * lit(level - q * straight);
     double flat = 2.0 * level;
     double mixed = light / steep / std::sqrt(1.0 + steep);

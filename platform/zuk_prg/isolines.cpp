@@ -94,6 +94,8 @@ std::unique_ptr<GDALDataset> dataset_of(const Tzu_mgrid2d& grid) {
   int nx = static_cast<int>(grid.nx), ny = static_cast<int>(grid.ny);
   std::unique_ptr<GDALDataset> made(driver->Create("", nx, ny, 1, GDT_Float64, nullptr));
   if (!made) return nullptr;
+  double cells[6] = {0, 1, 0, 0, 0, 1};  // without one, rows would run downwards
+  if (made->SetGeoTransform(cells) != CE_None) return nullptr;
   std::vector<double> values(grid.nodes, grid.nodes + grid.nx * grid.ny);
   for (double& value : values)
     if (!std::isfinite(value)) value = std::numeric_limits<double>::quiet_NaN();

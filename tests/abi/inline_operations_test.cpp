@@ -73,6 +73,21 @@ TEST(inline_operations, a_mesh_is_scanned_alike) {
   for (Tzu_pv_d2* list : {from, to}) zu_pv_d2_destroy(list);
 }
 
+TEST(inline_operations, nodes_are_stored_and_read_alike) {
+  auto* set = EXPORTED(zu_mgrid2d_set_dbl);
+  auto* get = EXPORTED(zu_mgrid2d_get_dbl);
+  ASSERT_NE(set, nullptr);
+  ASSERT_NE(get, nullptr);
+  Tzu_mgrid2d* grid = zu_dbl_mgrid2d_create();
+  Tzu_mgrid2d_topology unit{0, 0, 1, 1, 0};
+  ASSERT_TRUE(zu_mgrid2d_init(grid, 3, 2, &unit));
+  zu_mgrid2d_set_dbl(grid, 2, 1, 7.5);
+  set(grid, 1, 1, -3.25);
+  EXPECT_EQ(get(grid, 2, 1), 7.5);
+  EXPECT_EQ(zu_mgrid2d_get_dbl(grid, 1, 1), -3.25);
+  zu_mgrid2d_destroy(grid);
+}
+
 TEST(inline_operations, scales_are_looked_up_alike) {
   auto* find_range = EXPORTED(zu_rng_scale_find_scale_prm_ptr);
   auto* find_value = EXPORTED(zu_val_scale_find_scale_prm_ptr_d);

@@ -144,6 +144,17 @@ void drawing_context::clear_clip() {
   clipped_ = false;
 }
 
+void drawing_context::begin_object(const std::wstring& name) {
+  int outer = objects_.empty() ? 0 : objects_.back().noted;
+  objects_.push_back({name, note_object(outer, name)});
+}
+
+bool drawing_context::end_object(const std::wstring& name) {
+  if (objects_.empty() || objects_.back().name != name) return false;
+  objects_.pop_back();
+  return true;
+}
+
 void drawing_context::set_region(const Tzu_box_d2* millimetres) {
   region_.reset();
   if (millimetres != nullptr) region_ = pixels_of(*millimetres);

@@ -35,6 +35,9 @@ class drawing_context {
   void set_clip(const Tzu_ov_d2* polygon);
   void clear_clip();
   void set_region(const Tzu_box_d2* millimetres);
+  /// Objects nest: only the innermost open one can be ended, by its name; false for another name.
+  void begin_object(const std::wstring& name);
+  bool end_object(const std::wstring& name);
   /// Whether anything visible was drawn.
   virtual bool has_ink() const = 0;
   /// Straight (not premultiplied) r, g, b, opacity, the top row first. Only pictures have pixels.
@@ -53,6 +56,9 @@ class drawing_context {
   /// A clip to the region for what Cairo draws now; lifted by `cairo_restore`.
   void begin_region();
   virtual void inked() {}
+  /// Takes note of an object inside another one (0: the page itself); what it is to be called by as
+  /// the outer one of others.
+  virtual int note_object(int, const std::wstring&) { return 0; }
 
   double width_, height_;  ///< of the page in pixels
   double per_mm_;          ///< pixels a millimetre
@@ -61,6 +67,13 @@ class drawing_context {
   std::optional<pixel_box> region_;
   std::vector<Tzu_box_d2> labels_;  ///< boxes of the numbers on lines, in pixels, y downwards
   cairo_ptr cairo_;                 ///< user space: pixels of the page, y downwards
+
+ private:
+  struct open_object {
+    std::wstring name;
+    int noted;
+  };
+  std::vector<open_object> objects_;  // the innermost last
 };
 
 }  // namespace zu::platform

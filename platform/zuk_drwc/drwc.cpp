@@ -95,6 +95,12 @@ void zu_drwc_fill_box(Tzu_drwc* drwc, const Tzu_box_d2* millimetres, Tzu_color c
 void zu_drwc_set_region(Tzu_drwc* drwc, const Tzu_box_d2* millimetres) {
   drawn_by(drwc, [&](drawing_context& d) { d.set_region(millimetres); });
 }
+void zu_drwc_beg_object_w(Tzu_drwc* drwc, const wchar_t* name) {
+  drawn_by(drwc, [&](drawing_context& d) { d.begin_object(name != nullptr ? name : L""); });
+}
+void zu_drwc_end_object_w(Tzu_drwc* drwc, const wchar_t* name) {
+  drawn_by(drwc, [&](drawing_context& d) { d.end_object(name != nullptr ? name : L""); });
+}
 bool zu_drwc_has_ink(Tzu_drwc* drwc) { return drwc != nullptr && drwc->context->has_ink(); }
 
 bool zu_drwc_save_w(Tzu_drwc* drwc, const wchar_t* path, const Tzu_box_d2* georeference,

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -14,6 +15,9 @@ namespace zu::platform {
 namespace {
 
 constexpr double miter_limit = 10;
+/// Vertices after which an opaque set is stroked: Cairo sorts the edges of a path, and several
+/// paths are done sooner than a long one.
+constexpr std::size_t opaque_at_once = 200;
 
 /// Dashes in pixels; empty for a solid line. A pattern Cairo would refuse is a solid line.
 std::vector<double> dashes_of(const Tzu_pln_style& style, double per_mm) {
@@ -130,6 +134,7 @@ bool stroke(const stroke_page& page, const Tzu_ov_d2& lines, const Tzu_pln_style
   numbers level(page, lines, style);
   cairo_new_path(page.cairo);
   bool any = false;
+  std::size_t waiting = 0, at_once = style.color.a == 0 ? opaque_at_once : SIZE_MAX;
   auto& set = const_cast<Tzu_ov_d2&>(lines);  // read only; the getters give what may be edited
   std::vector<Tzu_vtx_d2> line;
   for (std::uint64_t i = 0; i < zu_ov_d2_get_size(&set); ++i) {
@@ -140,10 +145,13 @@ bool stroke(const stroke_page& page, const Tzu_ov_d2& lines, const Tzu_pln_style
     for (const line_piece& piece : cut_line(line.data(), line.size(), near_the_page)) {
       any = true;
       for (const line_piece& part : level.parted(piece)) {
-        if (dashes.empty())
-          add_path(page, part);
-        else
+        if (!dashes.empty()) {
           stroke_dashed(page, part, dashes);
+          continue;
+        }
+        add_path(page, part);
+        waiting += part.vertices.size();
+        if (waiting > at_once) cairo_stroke(page.cairo), waiting = 0;
       }
     }
   }

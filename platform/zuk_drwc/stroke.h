@@ -19,9 +19,9 @@ struct stroke_page {
   std::vector<Tzu_box_d2>& labels;  ///< boxes of numbers on the page, in its pixels
 };
 
-/// Strokes lines given in millimetres; false if none came near the page. Solid lines of a set are
-/// one stroke, so that where they cross a transparent colour shows once. Numbers are drawn where
-/// the style asks for them and the set has a level.
+/// Strokes lines given in millimetres; false if none came near the page. Solid lines of a
+/// transparent colour are one stroke, so that it shows once where they cross. Numbers are drawn
+/// where the style asks for them and the set has a level.
 bool stroke(const stroke_page& page, const Tzu_ov_d2& lines, const Tzu_pln_style& style);
 
 }  // namespace zu::platform

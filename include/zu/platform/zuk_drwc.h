@@ -76,6 +76,12 @@ ZU_API double zu_drwc_text_size_w(const Tzu_drwc* drwc, double height_mm, const 
 /// Fills a box over what is there; its sides are not rounded to pixels.
 ZU_API void zu_drwc_fill_box(Tzu_drwc* drwc, const Tzu_box_d2* millimetres, Tzu_color color);
 
+/// Brackets what is drawn between them as a named object; objects nest, and an end with another
+/// name than that of the innermost open one has no effect. A PDF lists its objects in its outline,
+/// each name once inside its outer object; other contexts make nothing of them.
+ZU_API void zu_drwc_beg_object_w(Tzu_drwc* drwc, const wchar_t* name);
+ZU_API void zu_drwc_end_object_w(Tzu_drwc* drwc, const wchar_t* name);
+
 /// Pixels of the picture, top row first, four bytes red, green, blue, opacity, not premultiplied,
 /// into nx * ny * 4 bytes. A document has no pixels: nothing is written.
 ZU_API void zu_drwc_get_pixels(Tzu_drwc* drwc, uint8_t* rgba);

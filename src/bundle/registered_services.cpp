@@ -8,6 +8,8 @@
 #include "src/layer/grid2d_objinfo_service.h"
 #include "src/layer/grid_layer2d.h"
 #include "src/layer/layer_services.h"
+#include "src/render/rastr_lr2d_render_service.h"
+#include "src/render/tos4_lr2d_render_services.h"
 #include "src/sources/scene_editor_services.h"
 
 namespace zu {
@@ -16,6 +18,9 @@ namespace {
 template <class dialog> using dialog_factory = util::detail::modal_dialog_service_factory<dialog>;
 template <class service, class interface, class visitor>
 using factory = util::single_service_factory<service, interface, visitor>;
+template <class service>
+using render_factory = factory<service, layer_2d_renderer_extension_service_impl,
+                               layer_2d_renderer_extension_service_visitor_impl>;
 using vacant = util::vacant_service_factory;
 
 constexpr wchar_t scene_2d[] = ZU_NAMESPACE(L"/scene/2d");
@@ -46,13 +51,13 @@ factory<grid2d_objinfo_service, objinfo_service_impl, objinfo_service_visitor_im
     grid_objinfo_service(none);
 vacant grid2d_tools_service(tool);
 vacant grid2d_table_view_service(none);
-vacant rastr_lr2d_render_service(none);
+render_factory<rastr_lr2d_render_service> raster_render_service(none);
 dialog_factory<dialog::segy_params> segy_params;
 vacant tos4_coord_xy_layer2d_editor(layer_2d_path);
 vacant tos4_grid1d_layer2d_editor(layer_2d_path);
-vacant tos4_grid1d_lr2d_render_service(none);
-vacant tos4_grid2d_lr2d_render_service(none);
-vacant tos4_grid3d_lr2d_render_service(none);
+render_factory<tos4_grid1d_lr2d_render_service> tos_profile_render_service(none);
+render_factory<tos4_grid2d_lr2d_render_service> tos_grid_render_service(none);
+render_factory<tos4_grid3d_lr2d_render_service> tos_slice_render_service(none);
 dialog_factory<dialog::clr_palettes> clr_palettes;
 dialog_factory<dialog::style_adavanced_dialog> style_adavanced_dialog;
 dialog_factory<dialog::data_grid_schema_dialog> data_grid_schema_dialog;

@@ -21,6 +21,7 @@ class drawing_context {
 
   bool is_accurate() const { return accurate_; }
   Tzu_box_d2 page() const;
+  double dots_per_mm() const { return per_mm_; }
   /// The box's sides on whole pixels; empty if nothing can be drawn.
   pixel_box pixels_of(const Tzu_box_d2& millimetres) const;
 

@@ -54,6 +54,9 @@ bool zu_drwc_is_accurate(const Tzu_drwc* drwc) {
 void zu_drwc_get_page(const Tzu_drwc* drwc, Tzu_box_d2* millimetres) {
   drawn_by(drwc, [&](drawing_context& d) { *millimetres = d.page(); });
 }
+double zu_drwc_get_dots_per_mm(const Tzu_drwc* drwc) {
+  return drwc != nullptr ? drwc->context->dots_per_mm() : 0.0;
+}
 void zu_drwc_get_dib_size(const Tzu_drwc* drwc, const Tzu_box_d2* box, uint64_t* nx, uint64_t* ny) {
   *nx = *ny = 0;
   drawn_by(drwc, [&](drawing_context& d) {

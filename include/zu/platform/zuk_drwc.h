@@ -31,6 +31,8 @@ ZU_API void zu_drwc_destroy(Tzu_drwc* drwc);
 ZU_API void zu_drwc_fill(Tzu_drwc* drwc, Tzu_color color);
 ZU_API bool zu_drwc_is_accurate(const Tzu_drwc* drwc);
 ZU_API void zu_drwc_get_page(const Tzu_drwc* drwc, Tzu_box_d2* millimetres);
+/// Pixels of a picture, or dots of the images of a document, a millimetre; 0 for null.
+ZU_API double zu_drwc_get_dots_per_mm(const Tzu_drwc* drwc);
 /// Size in pixels of a DIB for a box. The box's sides are rounded to whole pixels of the page, a
 /// box with area has at least one pixel; zero in either side means that nothing can be drawn.
 ZU_API void zu_drwc_get_dib_size(const Tzu_drwc* drwc, const Tzu_box_d2* box, uint64_t* nx,

@@ -1,7 +1,8 @@
 // Times one kind of redraw in this process and prints it as a line of JSON.
-//   draw FILE classes|values|image X0,Y0,X1,Y1 CRS|- kept|fresh [B0,B1,…]
+//   draw FILE classes|shade|isolines|values|image X0,Y0,X1,Y1 CRS|- kept|fresh [B0,B1,…]
 // A picture of 1920 x 1080 pixels: one warm-up, then the median of some runs. "kept" repaints one
-// layer of a file that stays open; "fresh" opens, draws and closes in the timed span.
+// layer of a file that stays open; "fresh" opens, draws and closes in the timed span. "shade" and
+// "isolines" lie above classes.
 
 #include <algorithm>
 #include <chrono>
@@ -30,7 +31,7 @@ std::vector<double> numbers(const std::string& text) {
 
 void style(bench::layer& layer, const std::string& kind, const std::vector<double>& breaks) {
   Tzu_stl_mngr* manager = layer.styles();
-  if (kind == "classes") {
+  if (kind == "classes" || kind == "shade" || kind == "isolines") {
     zu_stl_mngr_set_mode(manager, zu_style_range);
     zu_stl_mngr_set_rng_prop_name_w(manager, L"Band 1");
     Tzu_rng_scale* scale = zu_stl_mngr_get_rng_scale_ptr(manager);
@@ -48,6 +49,10 @@ void style(bench::layer& layer, const std::string& kind, const std::vector<doubl
       zu_stl_prm_clr_set_all(&zu_rng_scale_get_scale_prm_ptr(scale, i)->style, colours[i + 1], 0);
     }
     layer.set_draw_type(0);
+    zu_hillshade_style_set_use(layer.hillshade(), kind == "shade");
+    zu_isoline_style_set_use(layer.isolines(), kind == "isolines");
+    zu_isoline_style_set_thin_step(layer.isolines(), 50);
+    zu_isoline_style_set_bold_step(layer.isolines(), 250);
   } else if (kind == "values") {
     zu_stl_mngr_set_mode(manager, zu_style_value);
     zu_stl_mngr_set_val_prop_name_w(manager, L"Band 1");

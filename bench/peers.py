@@ -3,8 +3,9 @@
 
   peers.py PEER FILE KIND X0,Y0,X1,Y1 CRS fresh|kept [B0,B1,...]
 
-PEER is qgis, mapnik or gdal; KIND is classes, values or image (pictures of 1920 x 1080), or statistics
-(gdal and qgis). For pictures "gdal" is the floor: a bare nearest read of the same window into doubles (bytes
+PEER is qgis, mapnik or gdal; KIND is classes, values or image (pictures of 1920 x 1080), shade or isolines (the
+same, qgis alone), statistics (gdal and qgis), or shading (gdal alone: gdaldem on 1920 x 1080 made nodes, from
+memory to memory). For pictures "gdal" is the floor: a bare nearest read of the same window into doubles (bytes
 for an image) and one copy of the pixels.
 """
 import json
@@ -66,6 +67,13 @@ def qgis(path, kind, box, crs, fresh, breaks):
             shader = q.QgsRasterShader()
             shader.setRasterShaderFunction(ramp)
             made.setRenderer(q.QgsSingleBandPseudoColorRenderer(provider, 1, shader))
+        elif kind == "shade":
+            made.setRenderer(q.QgsHillshadeRenderer(provider, 1, 315, 45))
+        elif kind == "isolines":
+            lines = q.QgsRasterContourRenderer(provider)
+            lines.setContourInterval(50)
+            lines.setContourIndexInterval(250)
+            made.setRenderer(lines)
         elif kind == "values":
             made.setRenderer(q.QgsPalettedRasterRenderer(
                 provider, 1, [q.QgsPalettedRasterRenderer.Class(v, QColor(value_colour(v)))
@@ -127,9 +135,21 @@ def mapnik(path, kind, box, crs, fresh, breaks):
     return timed(lambda: draw(made))
 
 
+def gdaldem(g):
+    y, x = np.mgrid[HEIGHT - 1:-1:-1, 0:WIDTH]
+    heights = g.GetDriverByName("MEM").Create("", WIDTH, HEIGHT, 1, g.GDT_Float64)
+    heights.SetGeoTransform((0, 10, 0, HEIGHT * 10, 0, -10))
+    heights.GetRasterBand(1).WriteArray(200 * np.sin(x / 70) * np.cos(y / 50) + x)
+    shade = g.DEMProcessing("", heights, "hillshade", format="MEM").ReadAsArray()[1:-1, 1:-1]
+    return dict(timed(lambda: g.DEMProcessing("", heights, "hillshade", format="MEM"), 15),
+                check=float(shade.mean(dtype=float)))
+
+
 def gdal(path, kind, box, crs, fresh, breaks):
     from osgeo import gdal as g
     g.UseExceptions()
+    if kind == "shading":
+        return gdaldem(g)
     if kind == "statistics":
         found = []
 

@@ -81,6 +81,10 @@ class layer : zu::layer_2d_visitor_impl {
   layer& operator=(const layer&) = delete;
 
   Tzu_stl_mngr* styles() { return zu::call<&zu::layer_2d_impl::get_style_manager>(object_); }
+  Tzu_hillshade_style* hillshade() {
+    return zu::call<&zu::layer_2d_impl::get_hillshade_style>(object_);
+  }
+  Tzu_isoline_style* isolines() { return zu::call<&zu::layer_2d_impl::get_isoline_style>(object_); }
   Izu_layer* entity() { return entity_; }
   void draw(Izu_render* render) {
     zu::call<&zu::layer_2d_renderer_extension_service_impl::render>(host_.renderer.held.get(),

@@ -1,6 +1,6 @@
 # Programs that bench/run times beside other programs.
 
-foreach(name draw statistics)
+foreach(name draw shading statistics)
   add_executable(bench_${name} bench/${name}.cpp)
   target_link_libraries(bench_${name} PRIVATE zu_house zuk_platform ${CMAKE_DL_LIBS})
 endforeach()

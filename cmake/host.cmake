@@ -16,3 +16,16 @@ target_link_libraries(zugrid PRIVATE zu_host_cli)
 target_compile_definitions(zugrid PRIVATE ZU_VERSION="${PROJECT_VERSION}")
 add_dependencies(zugrid zuk_grid_layer2d)
 install(TARGETS zugrid RUNTIME DESTINATION bin)
+
+# The manual page and the completion say what the program says.
+set(manual ${CMAKE_BINARY_DIR}/share/man/man1/zugrid.1)
+set(completion ${CMAKE_BINARY_DIR}/share/bash-completion/completions/zugrid)
+add_custom_command(OUTPUT ${manual} ${completion}
+                   COMMAND ${CMAKE_COMMAND} -E make_directory share/man/man1 share/bash-completion/completions
+                   COMMAND zugrid manual man > ${manual}
+                   COMMAND zugrid manual bash > ${completion}
+                   WORKING_DIRECTORY ${CMAKE_BINARY_DIR}
+                   DEPENDS zugrid)
+add_custom_target(manual ALL DEPENDS ${manual} ${completion})
+install(FILES ${manual} DESTINATION share/man/man1)
+install(FILES ${completion} DESTINATION share/bash-completion/completions)

@@ -18,6 +18,10 @@ target_link_libraries(zuk_platform_objects PUBLIC zu_house PkgConfig::GDAL PkgCo
                       PkgConfig::ICU PkgConfig::PUGIXML PkgConfig::PANGOCAIRO PkgConfig::SQLITE ${SEGYIO} nlohmann_json::nlohmann_json Threads::Threads)
 target_precompile_headers(zuk_platform_objects PRIVATE <algorithm> <cmath> <cstdint> <cstring> <map> <memory>
                           <string> <vector>)
+# Vectorised, for which neither a root may set errno nor a comparison trap. The shared headers
+# were compiled with other options.
+set_source_files_properties(platform/zuk_prg/hillshade.cpp PROPERTIES SKIP_PRECOMPILE_HEADERS ON
+                            COMPILE_OPTIONS "-fno-math-errno;-fno-trapping-math;$<$<CONFIG:Release>:-O3>")
 
 add_library(zuk_platform SHARED)
 target_link_libraries(zuk_platform PRIVATE zuk_platform_objects)

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "host/cli/commands.h"
+#include "host/cli/manual.h"
 #include "host/cli/option_texts.h"
 #include "host/core/failure.h"
 
@@ -25,6 +26,8 @@ struct entry {
 constexpr entry commands[] = {
     {"render", "draw grids into a picture", &add_render},
     {"info", "say what a grid holds", &add_info},
+    {"convert", "put a grid into a .pgrid file", &add_convert},
+    {"probe", "say what a grid has at a point", &add_probe},
 };
 
 std::string names() {
@@ -64,6 +67,15 @@ int main(int argc, char** argv) {
       result = run();
     });
   }
+  CLI::App* manual = parser.add_subcommand("manual", "print the manual page or a completion");
+  std::string kind;
+  manual->group("");  // for those who package the program
+  manual->add_option("KIND", kind)->required()->check(CLI::IsMember({"man", "bash"}));
+  manual->callback([&] {
+    running = "manual";
+    std::string text = kind == "man" ? man_page(parser, ZU_VERSION) : bash_completion(parser);
+    std::fputs(text.c_str(), stdout);
+  });
   std::signal(SIGXFSZ, SIG_IGN);  // a file that may not grow is a failed write, with its reason
   try {
     std::vector<std::string> arguments = with_settings({argv + 1, argv + argc});

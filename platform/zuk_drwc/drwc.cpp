@@ -1,67 +1,98 @@
 // The plain functions of drawing contexts.
 
+#include <memory>
 #include <new>
 
 #include "platform/zuk_basic/guarded.h"
 #include "platform/zuk_basic/utf8.h"
 #include "platform/zuk_drwc/image_context.h"
-#include "platform/zuk_drwc/save_picture.h"
-#include "platform/zuk_io/atomic_file.h"
+#include "platform/zuk_drwc/vector_context.h"
 
+using zu::platform::document_kind;
+using zu::platform::drawing_context;
 using zu::platform::guarded;
 using zu::platform::pixel_box;
+using zu::platform::vector_context;
 
-struct Tzu_drwc : zu::platform::image_context {
-  using image_context::image_context;
+struct Tzu_drwc {
+  std::unique_ptr<zu::platform::drawing_context> context;
 };
 
-Tzu_drwc* zu_drwc_create_image(uint64_t nx, uint64_t ny, double dots_per_inch, bool accurate) {
+namespace {
+
+/// Work on the context behind a handle.
+template <class work> void drawn_by(const Tzu_drwc* drwc, work w) {
+  guarded(drwc, [&](const Tzu_drwc& d) { w(*d.context); });
+}
+
+template <class context, class... args> Tzu_drwc* made(args... given) {
   try {
-    return new Tzu_drwc(nx, ny, dots_per_inch, accurate);
+    return new Tzu_drwc{std::make_unique<context>(given...)};
   } catch (...) {
     return nullptr;
   }
 }
+
+}  // namespace
+
+Tzu_drwc* zu_drwc_create_image(uint64_t nx, uint64_t ny, double dots_per_inch, bool accurate) {
+  return made<zu::platform::image_context>(nx, ny, dots_per_inch, accurate);
+}
+Tzu_drwc* zu_drwc_create_pdf(double width_mm, double height_mm, double dots_per_inch) {
+  return made<vector_context>(document_kind::pdf, width_mm, height_mm, dots_per_inch);
+}
+Tzu_drwc* zu_drwc_create_svg(double width_mm, double height_mm, double dots_per_inch) {
+  return made<vector_context>(document_kind::svg, width_mm, height_mm, dots_per_inch);
+}
 void zu_drwc_destroy(Tzu_drwc* drwc) { delete drwc; }
 void zu_drwc_fill(Tzu_drwc* drwc, Tzu_color color) {
-  guarded(drwc, [&](Tzu_drwc& d) { d.fill(color); });
+  drawn_by(drwc, [&](drawing_context& d) { d.fill(color); });
 }
-bool zu_drwc_is_accurate(const Tzu_drwc* drwc) { return drwc != nullptr && drwc->is_accurate(); }
+bool zu_drwc_is_accurate(const Tzu_drwc* drwc) {
+  return drwc != nullptr && drwc->context->is_accurate();
+}
 void zu_drwc_get_page(const Tzu_drwc* drwc, Tzu_box_d2* millimetres) {
-  guarded(drwc, [&](const Tzu_drwc& d) { *millimetres = d.page(); });
+  drawn_by(drwc, [&](drawing_context& d) { *millimetres = d.page(); });
 }
 void zu_drwc_get_dib_size(const Tzu_drwc* drwc, const Tzu_box_d2* box, uint64_t* nx, uint64_t* ny) {
   *nx = *ny = 0;
-  guarded(drwc, [&](const Tzu_drwc& d) {
+  drawn_by(drwc, [&](drawing_context& d) {
     pixel_box pixels = d.pixels_of(*box);
     *nx = static_cast<uint64_t>(pixels.x1 - pixels.x0);
     *ny = static_cast<uint64_t>(pixels.y1 - pixels.y0);
   });
 }
 void zu_drwc_draw_dib(Tzu_drwc* drwc, const Tzu_dib_draw_record* record, const Tzu_dib* dib) {
-  guarded(drwc, [&](Tzu_drwc& d) { d.draw(*record, *dib); });
+  drawn_by(drwc, [&](drawing_context& d) { d.draw(*record, *dib); });
 }
 void zu_drwc_set_clip_pgn(Tzu_drwc* drwc, int32_t, const Tzu_ov_d2* polygon) {
-  guarded(drwc, [&](Tzu_drwc& d) { d.set_clip(polygon); });
+  drawn_by(drwc, [&](drawing_context& d) { d.set_clip(polygon); });
 }
 void zu_drwc_set_clip_none(Tzu_drwc* drwc) {
-  guarded(drwc, [](Tzu_drwc& d) { d.clear_clip(); });
+  drawn_by(drwc, [](drawing_context& d) { d.clear_clip(); });
 }
 void zu_drwc_get_pixels(Tzu_drwc* drwc, uint8_t* rgba) {
-  guarded(drwc, [&](Tzu_drwc& d) { d.copy_pixels(rgba); });
+  drawn_by(drwc, [&](drawing_context& d) { d.copy_pixels(rgba); });
 }
-bool zu_drwc_has_ink(Tzu_drwc* drwc) { return drwc != nullptr && drwc->has_ink(); }
+void zu_drwc_draw_pln(Tzu_drwc* drwc, const Tzu_ov_d2* lines, const Tzu_pln_style* style) {
+  if (lines == nullptr || style == nullptr) return;
+  drawn_by(drwc, [&](drawing_context& d) { d.draw_lines(*lines, *style); });
+}
+void zu_drwc_fill_box(Tzu_drwc* drwc, const Tzu_box_d2* millimetres, Tzu_color color) {
+  drawn_by(drwc, [&](drawing_context& d) { d.fill_box(*millimetres, color); });
+}
+void zu_drwc_set_region(Tzu_drwc* drwc, const Tzu_box_d2* millimetres) {
+  drawn_by(drwc, [&](drawing_context& d) { d.set_region(millimetres); });
+}
+bool zu_drwc_has_ink(Tzu_drwc* drwc) { return drwc != nullptr && drwc->context->has_ink(); }
 
 bool zu_drwc_save_w(Tzu_drwc* drwc, const wchar_t* path, const Tzu_box_d2* georeference,
                     const wchar_t* projection, Tzu_string_adp* reason) {
   if (drwc == nullptr || path == nullptr) return false;
   using zu::platform::to_utf8;
   try {
-    zu::platform::picture drawn{drwc->nx(), drwc->ny(), {}};
-    drawn.rgba.resize(drawn.nx * drawn.ny * 4);
-    drwc->copy_pixels(drawn.rgba.data());
-    zu::platform::save_picture(drawn, to_utf8(path), georeference,
-                               projection != nullptr ? to_utf8(projection) : std::string());
+    drwc->context->save(to_utf8(path), georeference,
+                        projection != nullptr ? to_utf8(projection) : std::string());
     return true;
   } catch (const std::bad_alloc&) {
     zu_string_adp_feed(reason, L"not enough memory");

@@ -5,12 +5,11 @@
 #include <gdal_priv.h>
 #include <ogr_spatialref.h>
 
-#include <algorithm>
 #include <cerrno>
 #include <csignal>
-#include <filesystem>
 #include <memory>
 
+#include "platform/zuk_drwc/save_document.h"
 #include "platform/zuk_io/atomic_file.h"
 
 namespace zu::platform {
@@ -23,9 +22,7 @@ struct format {
 };
 
 format format_of(const std::string& path) {
-  std::string ending = std::filesystem::path(path).extension().string();
-  std::transform(ending.begin(), ending.end(), ending.begin(),
-                 [](unsigned char c) { return c < 128 ? static_cast<char>(std::tolower(c)) : c; });
+  std::string ending = lower_ending(path);
   // A light compression: pictures of maps shrink little more, and the writing is the wait.
   if (ending == ".png") return {"PNG", {"ZLEVEL=3"}, false};
   if (ending == ".tif" || ending == ".tiff")

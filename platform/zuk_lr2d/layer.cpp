@@ -32,7 +32,10 @@ std::wstring text_or_empty(const wchar_t* text) { return text != nullptr ? text 
 
 Izu_layer* zu_lr2d_create(const char* type) {
   auto* layer = new (std::nothrow) Izu_layer;
-  guarded(layer, [&](Izu_layer& l) { l.type = type != nullptr ? type : ""; });
+  guarded(layer, [&](Izu_layer& l) {
+    l.type = type != nullptr ? type : "";
+    l.own = zu::platform::make_state(l.type);
+  });
   return layer;
 }
 
@@ -97,10 +100,19 @@ bool zu_lr2d_get_box(const Izu_layer* layer, Tzu_box_d2* box) {
 }
 void zu_lr2d_get_pj4wstr(const Izu_layer* layer, Tzu_string_adp* adapter) {
   guarded(layer, [&](const Izu_layer& l) {
+    if (l.own != nullptr) return zu_string_adp_feed(adapter, l.own->projection.c_str());
     if (!zu::call<&zu::layer_2d_impl::has_projection>(l.plugin)) return;
     adapter_visitor visitor(adapter);
     zu::call<&zu::layer_2d_impl::get_proj4>(
         l.plugin, zu::string_visitor(zu::handle_of<zu::string_visitor_impl>(visitor)));
+  });
+}
+void zu_lr2d_set_pj4wstr(Izu_layer* layer, const wchar_t* projection) {
+  guarded(layer, [&](Izu_layer& l) {
+    if (l.own != nullptr)
+      l.own->projection = text_or_empty(projection);
+    else
+      zu::call<&zu::layer_2d_impl::set_proj4>(l.plugin, projection);
   });
 }
 void zu_lr2d_get_dst_pj4wstr(const Izu_layer* layer, Tzu_string_adp* adapter) {
@@ -111,8 +123,11 @@ void zu_plugin_lr2d_bind_entity(Izu_layer* layer, Tzu_attr_data* data) {
 }
 Tzu_table_data* zu_lr2d_get_data_ptr(const Izu_layer* layer) {
   // Tables are the only attribute data that entities are tied to.
-  return layer != nullptr ? reinterpret_cast<Tzu_table_data*>(layer->data) : nullptr;
+  if (layer == nullptr) return nullptr;
+  if (layer->data != nullptr) return reinterpret_cast<Tzu_table_data*>(layer->data);
+  return layer->own ? layer->own->table.get() : nullptr;
 }
+Tzu_table_data* zu_lr_get_data_ptr(const Izu_layer* layer) { return zu_lr2d_get_data_ptr(layer); }
 bool zu_lr_get_own_selected_style_flag(const Izu_layer* layer) {
   return layer != nullptr && layer->own_selected_style;
 }

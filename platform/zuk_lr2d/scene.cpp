@@ -52,3 +52,12 @@ Tzu_optional_color zu_scn_2d_get_selected_style_clr(const Tzu_scn_2d* scene) {
 void zu_scn_2d_set_selected_style_clr(Tzu_scn_2d* scene, Tzu_optional_color color) {
   guarded(scene, [&](Tzu_scn_2d& s) { s.selected = color; });
 }
+const Tzu_pln_style* zu_scn_2d_get_selected_style_pln(const Tzu_scn_2d* scene) {
+  return scene != nullptr && scene->selected_line ? &*scene->selected_line : nullptr;
+}
+void zu_scn_2d_set_selected_style_pln(Tzu_scn_2d* scene, const Tzu_pln_style* style) {
+  guarded(scene, [&](Tzu_scn_2d& s) {
+    s.selected_line.reset();
+    if (style != nullptr) s.selected_line = *style;
+  });
+}

@@ -1,10 +1,12 @@
 #pragma once
 // The records of layers and scenes.
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "platform/zuk_lr2d/own_state.h"
 #include "zu/platform/zuk_lr2d.h"
 
 struct Izu_layer {
@@ -13,6 +15,7 @@ struct Izu_layer {
   Tzu_handle plugin;
   Tzu_scn_2d* scene = nullptr;
   Tzu_attr_data* data = nullptr;
+  std::unique_ptr<zu::platform::own_state> own;  // of a layer without a plug-in object
   std::optional<Tzu_box_d2> box;
   bool missing = false, own_selected_style = false;
   uint64_t changes = 0;
@@ -22,4 +25,5 @@ struct Tzu_scn_2d {
   std::vector<Izu_layer*> layers;  // the lowest first
   std::wstring projection;
   Tzu_optional_color selected{};
+  std::optional<Tzu_pln_style> selected_line;
 };

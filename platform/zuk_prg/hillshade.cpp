@@ -11,11 +11,6 @@
 #include "platform/zuk_basic/guarded.h"
 #include "platform/zuk_prg/double_grid.h"
 
-// The loop over a row is to be vectorised, for which a square root must not set errno.
-#ifndef __clang__
-#pragma GCC optimize("O3", "no-math-errno", "no-trapping-math")
-#endif
-
 namespace zu::platform {
 namespace {
 

@@ -8,6 +8,13 @@ void zu_affine_2d_init_x0y0dxdy_angle(Tzu_affine_2d* out, double x0, double y0, 
   *out = {x0, y0, dx, dy, angle};
 }
 
+bool zu_affine_2d_is_identity(const Tzu_affine_2d* affine) {
+  return affine->x0 == 0.0 && affine->y0 == 0.0 && affine->dx == 1.0 && affine->dy == 1.0 &&
+         affine->angle == 0.0;
+}
+
+double zu_grd2rad(double degrees) { return degrees * (std::acos(-1.0) / 180.0); }
+
 void zu_matrix3x3_init_affine(Tzu_matrix3x3* out, const Tzu_affine_2d* affine) {
   double c = std::cos(affine->angle), s = std::sin(affine->angle);
   *out = {{{affine->dx * c, -affine->dy * s, affine->x0},
@@ -16,6 +23,11 @@ void zu_matrix3x3_init_affine(Tzu_matrix3x3* out, const Tzu_affine_2d* affine) {
 }
 
 void zu_matrix3x3_init_single(Tzu_matrix3x3* out) { *out = {{{1, 0, 0}, {0, 1, 0}, {0, 0, 1}}}; }
+
+void zu_matrix3x3_init_rotate_center(Tzu_matrix3x3* out, double x, double y, double radians) {
+  double c = std::cos(radians), s = std::sin(radians);
+  *out = {{{c, -s, x - c * x + s * y}, {s, c, y - s * x - c * y}, {0, 0, 1}}};
+}
 
 void zu_matrix3x3_init_box2box(Tzu_matrix3x3* out, const Tzu_box_d2* from, const Tzu_box_d2* to) {
   double width = from->x1 - from->x0, height = from->y1 - from->y0;

@@ -72,6 +72,16 @@ bool zu_rpj_fb_d2_apply_box_approx(Tzu_rpj_fb_d2* rpj, Tzu_box_d2* box, int32_t 
   return zu_rpj_fb_d2_apply_box(rpj, box, direction);
 }
 
+bool zu_rpj_fb_d2_apply_xy(Tzu_rpj_fb_d2* rpj, double* x, double* y, int32_t direction) {
+  if (x == nullptr || y == nullptr) return false;
+  return guarded(rpj, false, [&](reprojector& r) {
+    Tzu_vtx_d2 point{*x, *y};
+    bool has_image = r.apply(&point, 1, direction != 0);
+    *x = point.x, *y = point.y;
+    return has_image;
+  });
+}
+
 bool zu_rpj_fb_d2_apply_pv(Tzu_rpj_fb_d2* rpj, Tzu_pv_d2* list, int32_t direction) {
   if (list == nullptr) return false;
   return guarded(rpj, false, [&](reprojector& r) {

@@ -1,3 +1,4 @@
+#include <memory>
 #include <new>
 #include <optional>
 #include <string>
@@ -13,13 +14,14 @@ struct Izu_render {
   Tzu_matrix3x3 cr2mm;
   std::wstring projection;
   std::optional<Tzu_matrix3x3> affine;
+  std::int32_t plane;
 };
 
 Izu_render* zu_render_create(Tzu_drwc* drwc, const Tzu_box_d2* map_box) {
   return guarded(map_box, static_cast<Izu_render*>(nullptr), [&](const Tzu_box_d2& box) {
     Tzu_box_d2 page{};
     zu_drwc_get_page(drwc, &page);
-    auto* render = new Izu_render{drwc, box, {}, {}, {}};
+    auto* render = new Izu_render{drwc, box, {}, {}, {}, 0};
     zu_matrix3x3_init_box2box(&render->cr2mm, &box, &page);
     return render;
   });
@@ -51,4 +53,19 @@ bool zu_render_has_affine_transform(const Izu_render* render) {
 }
 const Tzu_matrix3x3* zu_render_get_affine_matrix(const Izu_render* render) {
   return zu_render_has_affine_transform(render) ? &*render->affine : nullptr;
+}
+void zu_render_set_plane(Izu_render* render, int32_t plane) {
+  guarded(render, [&](Izu_render& r) { r.plane = plane; });
+}
+int32_t zu_render_get_plane(const Izu_render* render) {
+  return render != nullptr ? render->plane : 0;
+}
+void zu_render_cr_pln(Izu_render* render, const Tzu_ov_d2* lines, const Tzu_pln_style* style) {
+  if (lines == nullptr || style == nullptr) return;
+  guarded(render, [&](Izu_render& r) {
+    std::unique_ptr<Tzu_ov_d2, void (*)(Tzu_ov_d2*)> copy(zu_ov_d2_create(), &zu_ov_d2_destroy);
+    zu_ov_d2_assign(copy.get(), lines);
+    zu_ov_d2_apply_matrix3x3(copy.get(), &r.cr2mm);
+    zu_drwc_draw_pln(r.drwc, copy.get(), style);
+  });
 }

@@ -113,6 +113,16 @@ void zu_val_scale_set_text_w(Tzu_val_scale* scale, uint64_t index, const wchar_t
     c.text = text != nullptr ? text : L"";
   });
 }
+bool zu_val_scale_find_item_no_w(const Tzu_val_scale* scale, const wchar_t* text, uint64_t* index) {
+  if (text == nullptr || index == nullptr) return false;
+  uint64_t size = zu_val_scale_get_size(scale);
+  for (uint64_t i = 0; i < size; ++i)
+    if (whole(*scale).classes[i].text == text) {
+      *index = i;
+      return true;
+    }
+  return false;
+}
 Tzu_scale_prm* zu_val_scale_get_scale_prm_ptr(Tzu_val_scale* scale, uint64_t index) {
   value_class* c = class_at(scale, index);
   return c != nullptr ? c->row.get() : nullptr;

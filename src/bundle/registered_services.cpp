@@ -5,8 +5,12 @@
 #include "src/bundle/localizer_client.h"
 #include "src/bundle/modal_dialog.h"
 #include "src/bundle/service_factory.h"
+#include "src/layer/grid2d_objinfo_service.h"
 #include "src/layer/grid_layer2d.h"
 #include "src/layer/layer_services.h"
+#include "src/render/rastr_lr2d_render_service.h"
+#include "src/render/tos4_lr2d_render_services.h"
+#include "src/sources/scene_editor_services.h"
 
 namespace zu {
 namespace {
@@ -14,6 +18,9 @@ namespace {
 template <class dialog> using dialog_factory = util::detail::modal_dialog_service_factory<dialog>;
 template <class service, class interface, class visitor>
 using factory = util::single_service_factory<service, interface, visitor>;
+template <class service>
+using render_factory = factory<service, layer_2d_renderer_extension_service_impl,
+                               layer_2d_renderer_extension_service_visitor_impl>;
 using vacant = util::vacant_service_factory;
 
 constexpr wchar_t scene_2d[] = ZU_NAMESPACE(L"/scene/2d");
@@ -21,8 +28,12 @@ constexpr wchar_t layer_2d_path[] = ZU_NAMESPACE(L"/layer/2d");
 constexpr wchar_t tool[] = ZU_NAMESPACE(L"/tool");
 constexpr wchar_t none[] = L"";
 
-vacant grid_editor2d_extension_service(scene_2d);
-vacant grids_editor2d_extension_service(scene_2d);
+factory<grid_editor2d_extension_service, scene_2d_editor_extension_service_impl,
+        scene_2d_editor_extension_service_visitor_impl>
+    grid_scene_editor_service(scene_2d);
+factory<grids_editor2d_extension_service, scene_2d_editor_extension_service_impl,
+        scene_2d_editor_extension_service_visitor_impl>
+    grids_scene_editor_service(scene_2d);
 dialog_factory<dialog::nameless> nameless_dialog;
 factory<toolkit::layer2d_service<grid_layer2d, c_grid_lr2d>, layer_2d_service_impl,
         layer_2d_service_visitor_impl>
@@ -36,16 +47,17 @@ factory<toolkit::layer2d_render_service<grid_layer2d, c_grid_lr2d>,
 vacant grid_layer2d_editor(layer_2d_path);
 vacant grid_layer2d_hillshade(layer_2d_path);
 vacant grid_layer2d_isoline(layer_2d_path);
-vacant grid2d_objinfo_service(none);
+factory<grid2d_objinfo_service, objinfo_service_impl, objinfo_service_visitor_impl>
+    grid_objinfo_service(none);
 vacant grid2d_tools_service(tool);
 vacant grid2d_table_view_service(none);
-vacant rastr_lr2d_render_service(none);
+render_factory<rastr_lr2d_render_service> raster_render_service(none);
 dialog_factory<dialog::segy_params> segy_params;
 vacant tos4_coord_xy_layer2d_editor(layer_2d_path);
 vacant tos4_grid1d_layer2d_editor(layer_2d_path);
-vacant tos4_grid1d_lr2d_render_service(none);
-vacant tos4_grid2d_lr2d_render_service(none);
-vacant tos4_grid3d_lr2d_render_service(none);
+render_factory<tos4_grid1d_lr2d_render_service> tos_profile_render_service(none);
+render_factory<tos4_grid2d_lr2d_render_service> tos_grid_render_service(none);
+render_factory<tos4_grid3d_lr2d_render_service> tos_slice_render_service(none);
 dialog_factory<dialog::clr_palettes> clr_palettes;
 dialog_factory<dialog::style_adavanced_dialog> style_adavanced_dialog;
 dialog_factory<dialog::data_grid_schema_dialog> data_grid_schema_dialog;

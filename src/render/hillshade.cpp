@@ -30,7 +30,25 @@ std::uint8_t low_byte(double value) {
   return static_cast<std::uint8_t>(static_cast<std::int64_t>(value));
 }
 
-void blend(Tzu_dib* dib, const Tzu_mgrid2d* shade, double part) {
+}  // namespace
+
+bool apply_hillshade(const grid_draw_job& job) {
+  const Tzu_hillshade_style* style = job.context.params.hillshade_style;
+  if (style == nullptr || !zu_hillshade_style_get_use(style)) return false;
+  owned_grid heights = make_node_grid(job.box, job.nx, job.ny);
+  if (!heights) return false;
+  std::wstring field =
+      text_of([&](Tzu_string_adp* a) { zu_hillshade_style_get_propname(style, a); });
+  if (!resample(job.context, job.source, job.box, field, heights.get())) return false;
+  owned<zu_hillshade_params_destroy> light(zu_hillshade_params_create());
+  zu_hillshade_style_get_params(style, light.get());
+  owned_grid shade(zu_dbl_mgrid2d_create());
+  if (!zu_mgrid2d_hillshade(heights.get(), light.get(), shade.get())) return false;
+  mix_shade(job.main, shade.get(), zu_hillshade_style_get_part(style));
+  return true;
+}
+
+void mix_shade(Tzu_dib* dib, const Tzu_mgrid2d* shade, double part) {
   const shade_nodes nodes(shade);
   const double rest = 1.0 - part;
   auto mixed = [&](double gray, std::uint8_t colour) {
@@ -56,24 +74,6 @@ void blend(Tzu_dib* dib, const Tzu_mgrid2d* shade, double part) {
       std::memcpy(&p, &word, sizeof p);
       zu_dib_set_rgba(dib, x, y, p.r, p.g, p.b, p.a);
     }
-}
-
-}  // namespace
-
-bool apply_hillshade(const grid_draw_job& job) {
-  const Tzu_hillshade_style* style = job.context.params.hillshade_style;
-  if (style == nullptr || !zu_hillshade_style_get_use(style)) return false;
-  owned_grid heights = make_node_grid(job.box, job.nx, job.ny);
-  if (!heights) return false;
-  std::wstring field =
-      text_of([&](Tzu_string_adp* a) { zu_hillshade_style_get_propname(style, a); });
-  if (!resample(job.context, job.source, job.box, field, heights.get())) return false;
-  owned<zu_hillshade_params_destroy> light(zu_hillshade_params_create());
-  zu_hillshade_style_get_params(style, light.get());
-  owned_grid shade(zu_dbl_mgrid2d_create());
-  if (!zu_mgrid2d_hillshade(heights.get(), light.get(), shade.get())) return false;
-  blend(job.main, shade.get(), zu_hillshade_style_get_part(style));
-  return true;
 }
 
 }  // namespace zu

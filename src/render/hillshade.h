@@ -10,4 +10,8 @@ namespace zu {
 /// filled, if the layer wants no shade or it cannot be had.
 bool apply_hillshade(const grid_draw_job& job);
 
+/// Mixes shades, a node a pixel, into the colours of a DIB: `part` of the shade's low byte and the
+/// rest of the colour. A pixel lies between the four nodes at and below it.
+void mix_shade(Tzu_dib* dib, const Tzu_mgrid2d* shade, double part);
+
 }  // namespace zu

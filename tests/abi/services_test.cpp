@@ -17,7 +17,14 @@ void PrintTo(const service& s, std::ostream* out) { *out << "row " << s.row; }
 
 // One of each kind, and every dialog.
 std::vector<service> all_services() {
+  const service scene_editor = {1, "zu_scene_2d_editor_extension_service_visitor_interface_94",
+                                "zu_scene_2d_editor_extension_service_visitor_interface_93",
+                                "zu_scene_2d_editor_extension_service_interface_94"};
+  service other_scene_editor = scene_editor;
+  other_scene_editor.row = 2;
   std::vector<service> all = {
+      scene_editor,
+      other_scene_editor,
       {4, "zu_layer_2d_service_visitor_interface_12", "zu_layer_2d_service_visitor_interface_11",
        "zu_layer_2d_service_interface_12"},
       {5, "zu_layer_2d_externalization_service_visitor_interface_13",
@@ -26,6 +33,8 @@ std::vector<service> all_services() {
       {6, "zu_layer_2d_renderer_extension_service_visitor_interface_3",
        "zu_layer_2d_renderer_extension_service_visitor_interface_4",
        "zu_layer_2d_renderer_extension_service_interface_3"},
+      {10, "zu_objinfo_service_visitor_interface_6", "zu_objinfo_service_visitor_interface_5",
+       "zu_objinfo_service_interface_6"},
   };
   std::vector<std::size_t> dialogs = {3, 14};
   for (std::size_t row = 20; row <= 39; ++row) dialogs.push_back(row);

@@ -4,6 +4,7 @@
 #include "zu/platform/zuk_basic.h"
 #include "zu/platform/zuk_dib.h"
 #include "zu/platform/zuk_prg.h"
+#include "zu/platform/zuk_styles.h"
 
 typedef struct Tzu_drwc Tzu_drwc;
 
@@ -19,9 +20,15 @@ typedef struct Tzu_dib_draw_record {
 /// 32,767. An accurate context asks for full precision: what it shows is drawn in tiles.
 ZU_API Tzu_drwc* zu_drwc_create_image(uint64_t nx, uint64_t ny, double dots_per_inch,
                                       bool accurate);
+/// A page of a PDF or SVG document, empty; null for a side that is not above 0 or is over 5,080 mm,
+/// or dots that are not above 0 or are over 9,600. It is accurate. Bitmaps become images of that
+/// many dots an inch, lines stay lines and texts stay texts (in SVG their outlines).
+ZU_API Tzu_drwc* zu_drwc_create_pdf(double width_mm, double height_mm, double dots_per_inch);
+ZU_API Tzu_drwc* zu_drwc_create_svg(double width_mm, double height_mm, double dots_per_inch);
 ZU_API void zu_drwc_destroy(Tzu_drwc* drwc);
-ZU_API void zu_drwc_fill(Tzu_drwc* drwc,
-                         Tzu_color color);  ///< the whole page, replacing what is there
+/// The whole page, whatever the clip and the region: a picture's is replaced, a document's painted
+/// over.
+ZU_API void zu_drwc_fill(Tzu_drwc* drwc, Tzu_color color);
 ZU_API bool zu_drwc_is_accurate(const Tzu_drwc* drwc);
 ZU_API void zu_drwc_get_page(const Tzu_drwc* drwc, Tzu_box_d2* millimetres);
 /// Size in pixels of a DIB for a box. The box's sides are rounded to whole pixels of the page, a
@@ -35,13 +42,28 @@ ZU_API void zu_drwc_draw_dib(Tzu_drwc* drwc, const Tzu_dib_draw_record* record, 
 ZU_API void zu_drwc_set_clip_pgn(Tzu_drwc* drwc, int32_t mode, const Tzu_ov_d2* polygon);
 ZU_API void zu_drwc_set_clip_none(Tzu_drwc* drwc);
 
+/// Limits all that follows to a box, rounded to whole pixels as a DIB's; null lifts the limit.
+/// Unlike a clip it has no soft edges, and `zu_drwc_set_clip_none` leaves it.
+ZU_API void zu_drwc_set_region(Tzu_drwc* drwc, const Tzu_box_d2* millimetres);
+
+/// Draws polylines given in millimetres. An invisible style, a width that is not above 0 and a
+/// wholly transparent colour draw nothing; a vertex that is not finite breaks its line. If the set
+/// carries a level and the style asks for it, the lines bear its number where they are long and
+/// straight enough, upright, in a gap of the line.
+ZU_API void zu_drwc_draw_pln(Tzu_drwc* drwc, const Tzu_ov_d2* lines, const Tzu_pln_style* style);
+/// Fills a box over what is there; its sides are not rounded to pixels.
+ZU_API void zu_drwc_fill_box(Tzu_drwc* drwc, const Tzu_box_d2* millimetres, Tzu_color color);
+
 /// Pixels of the picture, top row first, four bytes red, green, blue, opacity, not premultiplied,
-/// into nx * ny * 4 bytes.
+/// into nx * ny * 4 bytes. A document has no pixels: nothing is written.
 ZU_API void zu_drwc_get_pixels(Tzu_drwc* drwc, uint8_t* rgba);
-/// Whether any pixel is not wholly transparent.
+/// Whether any pixel is not wholly transparent; of a document, whether anything was drawn.
 ZU_API bool zu_drwc_has_ink(Tzu_drwc* drwc);
-/// Writes PNG or TIFF by the name's ending, whole or not at all: an older file stays until the new
-/// one is complete. `georeference` may be null: the box of the page in coordinates of `projection`
-/// (EPSG:n, PROJ text or WKT; may be null), stored where the format can. False, with the reason.
+/// Writes a picture as PNG or TIFF by the name's ending, a document under a name with its own
+/// ending
+/// (".pdf", ".svg"), whole or not at all: an older file stays until the new one is complete. A
+/// saved document takes no more drawing. `georeference` may be null: the box of the page in
+/// coordinates of `projection` (EPSG:n, PROJ text or WKT; may be null), stored where the format
+/// can. False, with the reason.
 ZU_API bool zu_drwc_save_w(Tzu_drwc* drwc, const wchar_t* path, const Tzu_box_d2* georeference,
                            const wchar_t* projection, Tzu_string_adp* reason);

@@ -3,7 +3,9 @@
 
 #include "zu/platform/zuk_attr_data.h"
 #include "zu/platform/zuk_basic.h"
+#include "zu/platform/zuk_io.h"
 #include "zu/platform/zuk_prg.h"
+#include "zu/platform/zuk_styles.h"
 
 typedef struct Izu_layer Izu_layer;
 typedef struct Tzu_scn_2d Tzu_scn_2d;
@@ -11,7 +13,9 @@ typedef struct Tzu_scn_2d Tzu_scn_2d;
 // --- Entities. A null entity gives empty texts, false and null.
 
 /// A new entity of a type such as "grid_lr2d"; null if out of memory. Its plug-in object is the
-/// host's to end, before the entity.
+/// host's to end, before the entity. A layer of a picture ("rtr_lr2d") or of a TOS4 file has no
+/// plug-in object: what is set on it stands in the entity, and the headers of those libraries reach
+/// it.
 ZU_API Izu_layer* zu_lr2d_create(const char* type);
 ZU_API void zu_lr2d_destroy(Izu_layer* layer);
 ZU_API const char* zu_lr2d_get_lr_type(const Izu_layer* layer);  ///< owned by the entity
@@ -40,14 +44,39 @@ ZU_API uint64_t zu_lr2d_get_change_count(const Izu_layer* layer);  ///< calls of
 ZU_API void zu_lr2d_set_box(Izu_layer* layer, bool ok, const Tzu_box_d2* box);
 ZU_API bool zu_lr2d_get_box(const Izu_layer* layer, Tzu_box_d2* box);
 
-/// Projection of the layer's data, which its plug-in object knows; empty if it takes no part in
-/// reprojection.
+// What a host calls when a source was set or has changed, in this order. A plug-in object is told;
+// an entity without one does it itself.
+
+/// Takes the projection of the source, unless the layer has one.
+ZU_API void zu_lr2d_source_changed(Izu_layer* layer);
+/// Sets the box: the outer edge of the source's cells, in scene coordinates. Not known if the
+/// source does not open or does not lead there.
+ZU_API void zu_lr2d_update_box(Izu_layer* layer);
+/// Marks whether the file of the source is missing.
+ZU_API void zu_lr2d_update_validity(Izu_layer* layer);
+
+// Styles of a layer, owned by its plug-in object or its entity; null if its kind has none.
+ZU_API Tzu_stl_mngr* zu_lr_get_style_mngr_ptr(const Izu_layer* layer);
+ZU_API Tzu_hillshade_style* zu_lr2d_get_hillshade_style(const Izu_layer* layer);
+ZU_API Tzu_isoline_style* zu_lr2d_get_isoline_style(const Izu_layer* layer);
+
+// Settings of an entity without a plug-in object, in the project tree under `node`. `context` goes
+// to the groups of styles. What is absent keeps its value.
+ZU_API void zu_lr2d_save_state(const Izu_layer* layer, Tzu_xnode* node, void* context);
+ZU_API void zu_lr2d_load_state(Izu_layer* layer, Tzu_xnode* node, void* context);
+
+/// Projection of the layer's data, which its plug-in object or its source knows; empty if it takes
+/// no part in reprojection.
 ZU_API void zu_lr2d_get_pj4wstr(const Izu_layer* layer, Tzu_string_adp* adapter);
+/// Sets it; null or empty: none. A plug-in object may store it with its file.
+ZU_API void zu_lr2d_set_pj4wstr(Izu_layer* layer, const wchar_t* projection);
 /// Projection of the layer's scene; empty without one.
 ZU_API void zu_lr2d_get_dst_pj4wstr(const Izu_layer* layer, Tzu_string_adp* adapter);
 
 ZU_API void zu_plugin_lr2d_bind_entity(Izu_layer* layer, Tzu_attr_data* data);  ///< data not owned
+/// The table that the entity was tied to, else its own; null if it has neither.
 ZU_API Tzu_table_data* zu_lr2d_get_data_ptr(const Izu_layer* layer);
+ZU_API Tzu_table_data* zu_lr_get_data_ptr(const Izu_layer* layer);  ///< the same
 ZU_API bool zu_lr_get_own_selected_style_flag(const Izu_layer* layer);
 ZU_API void zu_lr_set_own_selected_style_flag(Izu_layer* layer, bool own);
 
@@ -64,6 +93,9 @@ ZU_API void zu_scn_2d_get_pj4wstr(const Tzu_scn_2d* scene, Tzu_string_adp* adapt
 /// Colour in which selected cells show; a new scene has none set.
 ZU_API Tzu_optional_color zu_scn_2d_get_selected_style_clr(const Tzu_scn_2d* scene);
 ZU_API void zu_scn_2d_set_selected_style_clr(Tzu_scn_2d* scene, Tzu_optional_color color);
+/// Line in which selected pieces of curves show, owned by the scene; null if none is set.
+ZU_API const Tzu_pln_style* zu_scn_2d_get_selected_style_pln(const Tzu_scn_2d* scene);
+ZU_API void zu_scn_2d_set_selected_style_pln(Tzu_scn_2d* scene, const Tzu_pln_style* style);
 ZU_API Tzu_scn_2d* zu_lr_get_scene(const Izu_layer* layer);  ///< null if it stands in none
 ZU_API Tzu_scn_2d* zu_lr2d_get_scn_2d(const Izu_layer* layer);
 

@@ -33,8 +33,13 @@ typedef struct Tzu_affine_2d {
 
 ZU_API void zu_affine_2d_init_x0y0dxdy_angle(Tzu_affine_2d* out, double x0, double y0, double dx,
                                              double dy, double angle);
+/// Whether it moves nothing: origin 0, spacings 1 and no turn, exactly.
+ZU_API bool zu_affine_2d_is_identity(const Tzu_affine_2d* affine);
+ZU_API double zu_grd2rad(double degrees);  ///< degrees to radians
 ZU_API void zu_matrix3x3_init_affine(Tzu_matrix3x3* out, const Tzu_affine_2d* affine);
 ZU_API void zu_matrix3x3_init_single(Tzu_matrix3x3* out);  ///< the identity
+/// A turn about the point (x, y), counter-clockwise.
+ZU_API void zu_matrix3x3_init_rotate_center(Tzu_matrix3x3* out, double x, double y, double radians);
 /// Maps box to box, corner to corner. A side of `from` without length maps to the low side of `to`.
 ZU_API void zu_matrix3x3_init_box2box(Tzu_matrix3x3* out, const Tzu_box_d2* from,
                                       const Tzu_box_d2* to);

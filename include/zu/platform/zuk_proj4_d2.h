@@ -21,6 +21,8 @@ ZU_API void zu_rpj_fb_d2_set_affine_after(Tzu_rpj_fb_d2* rpj, const Tzu_matrix3x
 /// also the poles' and date line's effect where PROJ tells it. False if no point has an image.
 ZU_API bool zu_rpj_fb_d2_apply_box(Tzu_rpj_fb_d2* rpj, Tzu_box_d2* box, int32_t direction);
 ZU_API bool zu_rpj_fb_d2_apply_box_approx(Tzu_rpj_fb_d2* rpj, Tzu_box_d2* box, int32_t direction);
+/// Transforms a point in place; one without an image becomes infinite, and that gives false.
+ZU_API bool zu_rpj_fb_d2_apply_xy(Tzu_rpj_fb_d2* rpj, double* x, double* y, int32_t direction);
 /// Transforms in place; a vertex without an image becomes infinite. False if none has one.
 ZU_API bool zu_rpj_fb_d2_apply_pv(Tzu_rpj_fb_d2* rpj, Tzu_pv_d2* list, int32_t direction);
 ZU_API bool zu_rpj_fb_d2_apply_ov(Tzu_rpj_fb_d2* rpj, Tzu_ov_d2* set, int32_t direction);

@@ -18,3 +18,10 @@ ZU_API void zu_render_set_pj4wstr(Izu_render* render, const wchar_t* projection)
 ZU_API void zu_render_set_affine_matrix(Izu_render* render, const Tzu_matrix3x3* matrix);
 ZU_API bool zu_render_has_affine_transform(const Izu_render* render);
 ZU_API const Tzu_matrix3x3* zu_render_get_affine_matrix(const Izu_render* render);
+/// The plane that what follows is drawn on; 0, that of a new render, is the picture. Contexts have
+/// one plane, on which all numbers draw.
+ZU_API void zu_render_set_plane(Izu_render* render, int32_t plane);
+ZU_API int32_t zu_render_get_plane(const Izu_render* render);
+/// Draws polylines given in render coordinates, as `zu_drwc_draw_pln` draws millimetres.
+ZU_API void zu_render_cr_pln(Izu_render* render, const Tzu_ov_d2* lines,
+                             const Tzu_pln_style* style);

@@ -162,6 +162,10 @@ ZU_API uint64_t zu_val_scale_add(Tzu_val_scale* scale);  ///< the new size
 ZU_API void zu_val_scale_get_text_w(const Tzu_val_scale* scale, uint64_t index,
                                     Tzu_string_adp* adp);
 ZU_API void zu_val_scale_set_text_w(Tzu_val_scale* scale, uint64_t index, const wchar_t* text);
+/// Number of the first row whose text is exactly `text`; false, and the output as it was, if there
+/// is none.
+ZU_API bool zu_val_scale_find_item_no_w(const Tzu_val_scale* scale, const wchar_t* text,
+                                        uint64_t* index);
 // Captions for legends, empty unless set; no call if there is no such row.
 ZU_API void zu_val_scale_get_caption_w(const Tzu_val_scale* scale, uint64_t index,
                                        Tzu_string_adp* adapter);

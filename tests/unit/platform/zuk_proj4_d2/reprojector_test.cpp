@@ -66,6 +66,27 @@ TEST(reprojector, x_is_east_and_y_north_whatever_the_registry_says_of_axes) {
   }
 }
 
+TEST(reprojector, a_point_goes_as_a_list_of_one_does) {
+  for (const auto& c : cases) {
+    rpj_ptr rpj = between(c.source, c.target);
+    double x = c.x, y = c.y;
+    EXPECT_TRUE(zu_rpj_fb_d2_apply_xy(rpj.get(), &x, &y, 1));
+    Tzu_vtx_d2 there = moved(rpj, c.x, c.y);
+    EXPECT_EQ(x, there.x);
+    EXPECT_EQ(y, there.y);
+    EXPECT_TRUE(zu_rpj_fb_d2_apply_xy(rpj.get(), &x, &y, 0));
+    EXPECT_NEAR(x, c.x, 1e-6);
+  }
+  rpj_ptr rpj = between(L"EPSG:4326", L"EPSG:3857");
+  double x = 3, y = 4;
+  EXPECT_FALSE(zu_rpj_fb_d2_apply_xy(nullptr, &x, &y, 1));
+  EXPECT_FALSE(zu_rpj_fb_d2_apply_xy(rpj.get(), nullptr, &y, 1));
+  EXPECT_EQ(x, 3);
+  x = HUGE_VAL;
+  EXPECT_FALSE(zu_rpj_fb_d2_apply_xy(rpj.get(), &x, &y, 1));
+  EXPECT_TRUE(std::isinf(x) && std::isinf(y));
+}
+
 TEST(reprojector, the_same_system_in_other_words_needs_no_reprojection) {
   std::wstring wkt =
       told([](const wchar_t* text, Tzu_string_adp* adapter) { zu_pj_get_wkt_w(text, adapter); },

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 #include "zu/platform/zuk_render.h"
 
@@ -59,12 +60,42 @@ TEST_F(render, an_affine_step_is_copied_and_null_switches_it_off) {
   EXPECT_FALSE(zu_render_has_affine_transform(render_));
 }
 
+TEST_F(render, draws_lines_given_in_its_own_coordinates_and_leaves_them_as_they_are) {
+  Tzu_ov_d2* set = zu_ov_d2_create();
+  Tzu_pv_d2* line = zu_ov_d2_add(set);
+  for (Tzu_vtx_d2 v : {Tzu_vtx_d2{1020, 2020}, {1100, 2020}}) zu_pv_d2_add_vtx(line, &v);
+  Tzu_pln_style style{};
+  style.width = 2, style.visible = true;
+  zu_render_cr_pln(render_, set, &style);
+  EXPECT_EQ(zu_pv_d2_get_arr(line)[1].x, 1100);
+  zu_ov_d2_destroy(set);
+  std::vector<std::uint8_t> rgba(100 * 50 * 4);
+  zu_drwc_get_pixels(drwc_, rgba.data());
+  // Two units of the map a pixel: from (10, 10) to (50, 10), a pixel to each side.
+  auto opacity = [&](std::size_t x, std::size_t y) { return rgba[((49 - y) * 100 + x) * 4 + 3]; };
+  EXPECT_EQ(opacity(10, 10), 255);
+  EXPECT_EQ(opacity(49, 9), 255);
+  EXPECT_EQ(opacity(30, 11), 0);
+  EXPECT_EQ(opacity(30, 8), 0);
+  EXPECT_EQ(opacity(9, 10), 0);
+  EXPECT_EQ(opacity(50, 10), 0);
+}
+
+TEST_F(render, keeps_the_plane) {
+  EXPECT_EQ(zu_render_get_plane(render_), 0);
+  zu_render_set_plane(render_, 3);
+  EXPECT_EQ(zu_render_get_plane(render_), 3);
+}
+
 TEST_F(render, null_has_nothing) {
   EXPECT_EQ(zu_render_create(drwc_, nullptr), nullptr);
   EXPECT_EQ(zu_render_get_drwc(nullptr), nullptr);
   EXPECT_EQ(zu_render_get_map_box_cr(nullptr), nullptr);
   EXPECT_EQ(zu_render_get_matrix_cr2mm(nullptr), nullptr);
   EXPECT_FALSE(zu_render_has_affine_transform(nullptr));
+  EXPECT_EQ(zu_render_get_plane(nullptr), 0);
+  zu_render_set_plane(nullptr, 1);
+  zu_render_cr_pln(render_, nullptr, nullptr);
   zu_render_destroy(nullptr);
 }
 

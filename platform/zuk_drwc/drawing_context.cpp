@@ -1,0 +1,126 @@
+#include "platform/zuk_drwc/drawing_context.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "platform/zuk_drwc/cut_ring.h"
+#include "platform/zuk_drwc/stroke.h"
+
+namespace zu::platform {
+namespace {
+
+constexpr double mm_per_inch = 25.4;
+constexpr double hair = 1e-6;  // pixels; what rounding may have moved a side
+
+/// Nearest whole number, half up. What misses a half by the rounding of millimetres alone counts as
+/// one: both sides of a box that lies on halves must go the same way, or it would grow by a pixel.
+std::int64_t rounded(double pixels) {
+  return static_cast<std::int64_t>(std::floor(pixels + 0.5 + hair));
+}
+
+/// The pixel that holds the low side of a box narrower than a pixel.
+std::int64_t pixel_at(double side) { return static_cast<std::int64_t>(std::floor(side + hair)); }
+
+void set_color(cairo_t* cairo, Tzu_color color) {
+  cairo_set_source_rgba(cairo, color.r / 255.0, color.g / 255.0, color.b / 255.0,
+                        (255 - color.a) / 255.0);
+}
+
+}  // namespace
+
+drawing_context::drawing_context(double width, double height, double dots_per_inch, bool accurate,
+                                 std::uint64_t largest_side)
+    : width_(width),
+      height_(height),
+      per_mm_(dots_per_inch / mm_per_inch),
+      accurate_(accurate),
+      largest_side_(largest_side) {}
+
+Tzu_box_d2 drawing_context::page() const { return {0, 0, width_ / per_mm_, height_ / per_mm_}; }
+
+pixel_box drawing_context::pixels_of(const Tzu_box_d2& mm) const {
+  constexpr double far = 1e9;
+  double sides[4] = {mm.x0 * per_mm_, mm.y0 * per_mm_, mm.x1 * per_mm_, mm.y1 * per_mm_};
+  bool sensible = sides[0] < sides[2] && sides[1] < sides[3] &&
+                  std::all_of(sides, sides + 4, [](double s) { return std::abs(s) < far; });
+  if (!sensible) return {0, 0, 0, 0};
+  pixel_box box{rounded(sides[0]), rounded(sides[1]), rounded(sides[2]), rounded(sides[3])};
+  // What has an area shows, be it one pixel.
+  if (box.x1 == box.x0) box.x0 = pixel_at(sides[0]), box.x1 = box.x0 + 1;
+  if (box.y1 == box.y0) box.y0 = pixel_at(sides[1]), box.y1 = box.y0 + 1;
+  auto most = static_cast<std::int64_t>(largest_side_);
+  if (box.x1 - box.x0 > most || box.y1 - box.y0 > most) return {0, 0, 0, 0};
+  return box;
+}
+
+pixel_box drawing_context::region() const {
+  pixel_box page{0, 0, static_cast<std::int64_t>(std::ceil(width_)),
+                 static_cast<std::int64_t>(std::ceil(height_))};
+  return region_ ? common(page, *region_) : page;
+}
+
+void drawing_context::begin_region() {
+  cairo_save(cairo_.get());
+  if (!region_) return;
+  pixel_box box = region();
+  cairo_new_path(cairo_.get());
+  cairo_rectangle(cairo_.get(), static_cast<double>(box.x0), height_ - static_cast<double>(box.y1),
+                  static_cast<double>(std::max<std::int64_t>(0, box.x1 - box.x0)),
+                  static_cast<double>(std::max<std::int64_t>(0, box.y1 - box.y0)));
+  cairo_clip(cairo_.get());
+}
+
+void drawing_context::draw_lines(const Tzu_ov_d2& set, const Tzu_pln_style& style) {
+  if (!style.visible || !(style.width > 0) || style.color.a == 255 || region().is_empty()) return;
+  begin_region();
+  set_color(cairo_.get(), style.color);
+  stroke_page page{cairo_.get(), per_mm_, width_, height_, !accurate_};
+  if (stroke(page, set, style)) inked();
+  cairo_restore(cairo_.get());
+}
+
+void drawing_context::fill_box(const Tzu_box_d2& mm, Tzu_color color) {
+  Tzu_box_d2 all = page(), shown;
+  if (color.a == 255 || !zu_box_d2_cross(&mm, &all, &shown)) return;
+  begin_region();
+  set_color(cairo_.get(), color);
+  cairo_new_path(cairo_.get());
+  cairo_rectangle(cairo_.get(), shown.x0 * per_mm_, height_ - shown.y1 * per_mm_,
+                  (shown.x1 - shown.x0) * per_mm_, (shown.y1 - shown.y0) * per_mm_);
+  cairo_fill(cairo_.get());
+  inked();
+  cairo_restore(cairo_.get());
+}
+
+void drawing_context::set_clip(const Tzu_ov_d2* polygon) {
+  clear_clip();
+  auto* rings = const_cast<Tzu_ov_d2*>(polygon);  // read only; the getters give what may be edited
+  // Cairo keeps 24 bits of whole pixels: what lies far outside would come back on the other side.
+  const Tzu_box_d2 near_the_page{-width_, -height_, 2 * width_, 2 * height_};
+  cairo_new_path(cairo_.get());
+  for (std::uint64_t i = 0; i < zu_ov_d2_get_size(rings); ++i) {
+    Tzu_pv_d2* list = zu_ov_d2_get_pv_ptr(rings, i);
+    const Tzu_vtx_d2* vertices = zu_pv_d2_get_arr(list);
+    std::vector<Tzu_vtx_d2> ring;
+    for (std::uint64_t k = 0; k < zu_pv_d2_get_size(list); ++k)
+      ring.push_back({vertices[k].x * per_mm_, height_ - vertices[k].y * per_mm_});
+    for (const Tzu_vtx_d2& v : cut_ring(ring, near_the_page)) cairo_line_to(cairo_.get(), v.x, v.y);
+    cairo_close_path(cairo_.get());
+    cairo_new_sub_path(cairo_.get());
+  }
+  cairo_set_fill_rule(cairo_.get(), CAIRO_FILL_RULE_EVEN_ODD);
+  cairo_clip(cairo_.get());
+  clipped_ = true;
+}
+
+void drawing_context::clear_clip() {
+  cairo_reset_clip(cairo_.get());
+  clipped_ = false;
+}
+
+void drawing_context::set_region(const Tzu_box_d2* millimetres) {
+  region_.reset();
+  if (millimetres != nullptr) region_ = pixels_of(*millimetres);
+}
+
+}  // namespace zu::platform

@@ -1,0 +1,100 @@
+#include "platform/zuk_drwc/stroke.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "platform/zuk_drwc/cut_line.h"
+
+namespace zu::platform {
+namespace {
+
+constexpr double miter_limit = 10;
+
+/// Dashes in pixels; empty for a solid line. A pattern Cairo would refuse is a solid line.
+std::vector<double> dashes_of(const Tzu_pln_style& style, double per_mm) {
+  auto count = std::clamp<std::int32_t>(style.dash_count, 0, zu_line_dashes);
+  std::vector<double> dashes;
+  double sum = 0;
+  for (std::int32_t i = 0; i < count; ++i) {
+    double length = style.dashes[i] * per_mm;
+    if (!(length >= 0) || !std::isfinite(length)) return {};
+    dashes.push_back(length);
+    sum += length;
+  }
+  // Finer dashes than these are a gray line and many strokes.
+  constexpr double finest = 0.05;
+  return sum > finest * static_cast<double>(count) ? dashes : std::vector<double>();
+}
+
+void set_pen(cairo_t* cairo, const Tzu_pln_style& style, double width) {
+  constexpr cairo_line_cap_t caps[] = {CAIRO_LINE_CAP_BUTT, CAIRO_LINE_CAP_ROUND,
+                                       CAIRO_LINE_CAP_SQUARE};
+  constexpr cairo_line_join_t joins[] = {CAIRO_LINE_JOIN_MITER, CAIRO_LINE_JOIN_ROUND,
+                                         CAIRO_LINE_JOIN_BEVEL};
+  cairo_set_line_width(cairo, width);
+  cairo_set_line_cap(cairo, caps[std::clamp<std::int32_t>(style.cap, 0, 2)]);
+  cairo_set_line_join(cairo, joins[std::clamp<std::int32_t>(style.join, 0, 2)]);
+  cairo_set_miter_limit(cairo, miter_limit);
+}
+
+void add_path(const stroke_page& page, const line_piece& piece) {
+  constexpr double nearest = 0.1;  // pixels
+  const std::vector<Tzu_vtx_d2>& v = piece.vertices;
+  std::size_t count = piece.closed ? v.size() - 1 : v.size();
+  Tzu_vtx_d2 last = v[0];
+  cairo_move_to(page.cairo, last.x, last.y);
+  for (std::size_t i = 1; i < count; ++i) {
+    bool close_by = std::abs(v[i].x - last.x) < nearest && std::abs(v[i].y - last.y) < nearest;
+    if (page.thinned && close_by && i + 1 < count) continue;
+    last = v[i];
+    cairo_line_to(page.cairo, last.x, last.y);
+  }
+  if (piece.closed) cairo_close_path(page.cairo);
+}
+
+void stroke_dashed(const stroke_page& page, const line_piece& piece,
+                   const std::vector<double>& dashes) {
+  double period = 0;
+  for (double length : dashes) period += length;
+  if (dashes.size() % 2 == 1) period *= 2;
+  double phase = std::fmod(piece.start, period);
+  cairo_set_dash(page.cairo, dashes.data(), static_cast<int>(dashes.size()),
+                 std::isfinite(phase) ? phase : 0.0);
+  add_path(page, piece);
+  cairo_stroke(page.cairo);
+}
+
+}  // namespace
+
+bool stroke(const stroke_page& page, const Tzu_ov_d2& lines, const Tzu_pln_style& style) {
+  double most = 2 * (page.width + page.height);
+  double width = std::min(style.width * page.per_mm, most);
+  set_pen(page.cairo, style, width);
+  std::vector<double> dashes = dashes_of(style, page.per_mm);
+  if (dashes.empty()) cairo_set_dash(page.cairo, nullptr, 0, 0);
+  // Far enough outside that neither caps nor corners of what was cut off are missed.
+  double margin = width / 2 * miter_limit + 2;
+  const Tzu_box_d2 near_the_page{-margin, -margin, page.width + margin, page.height + margin};
+
+  cairo_new_path(page.cairo);
+  bool any = false;
+  auto& set = const_cast<Tzu_ov_d2&>(lines);  // read only; the getters give what may be edited
+  std::vector<Tzu_vtx_d2> line;
+  for (std::uint64_t i = 0; i < zu_ov_d2_get_size(&set); ++i) {
+    Tzu_pv_d2* list = zu_ov_d2_get_pv_ptr(&set, i);
+    const Tzu_vtx_d2* vertices = zu_pv_d2_get_arr(list);
+    line.assign(vertices, vertices + zu_pv_d2_get_size(list));
+    for (Tzu_vtx_d2& v : line) v = {v.x * page.per_mm, page.height - v.y * page.per_mm};
+    for (const line_piece& piece : cut_line(line.data(), line.size(), near_the_page)) {
+      any = true;
+      if (dashes.empty())
+        add_path(page, piece);
+      else
+        stroke_dashed(page, piece, dashes);
+    }
+  }
+  if (dashes.empty()) cairo_stroke(page.cairo);
+  return any;
+}
+
+}  // namespace zu::platform

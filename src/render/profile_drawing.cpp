@@ -1,0 +1,192 @@
+#include "src/render/profile_drawing.h"
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+#include "src/bundle/strings.h"
+#include "src/data/block_reader.h"
+#include "zu/platform/zuk_attr_data.h"
+#include "zu/platform/zuk_datasource.h"
+#include "zu/platform/zuk_lr2d.h"
+#include "zu/platform/zuk_render.h"
+#include "zu/platform/zuk_tos_lr2d.h"
+
+namespace zu {
+namespace {
+
+/// A turn of less than this many degrees is none.
+constexpr double least_azimuth = 1e-6;
+
+void add_vertex(Tzu_pv_d2* line, double x, double y) {
+  Tzu_vtx_d2 vertex;
+  zu_vtx_d2_init_xy(&vertex, x, y);
+  zu_pv_d2_add_vtx(line, &vertex);
+}
+
+}  // namespace
+
+profile_drawing::profile_drawing(Izu_render* render, Izu_layer* layer)
+    : render_(render),
+      drwc_(zu_render_get_drwc(render)),
+      layer_(layer),
+      selection_(zu_lr2d_get_data_ptr(layer)),
+      manager_(zu_tos_grid_1d_lr2d_get_stl_mngr_ptr(layer)),
+      affine_(zu_tos_grid_lr1d_get_affine_trnsf(layer)),
+      height_(
+          text_of([&](Tzu_string_adp* a) { zu_tos_grid_1d_lr2d_get_height_prp_name_w(layer, a); })),
+      own_selected_style_(zu_lr_get_own_selected_style_flag(layer)),
+      unselected_(zu_ov_d2_create()),
+      selected_(zu_ov_d2_create()) {
+  if (const Tzu_scn_2d* scene = zu_lr2d_get_scn_2d(layer))
+    scene_selected_ = zu_scn_2d_get_selected_style_pln(scene);
+}
+
+void profile_drawing::draw() {
+  if (manager_ == nullptr || !on_screen()) return;
+  data::open_reference reference;
+  reference.name = text_of([&](Tzu_string_adp* a) { zu_lr2d_get_wsource(layer_, a); });
+  reference.opener = &zu_datasource_open;
+  data::grid_datasource source;
+  if (source.open(reference, data::open_read_only)) draw_chosen(source);
+}
+
+bool profile_drawing::on_screen() const {
+  Tzu_box_d2 box, visible;
+  if (!zu_lr2d_get_box(layer_, &box)) return false;
+  if (zu_render_has_affine_transform(render_))
+    zu_box_d2_apply_matrix3x3(&box, zu_render_get_affine_matrix(render_));
+  return zu_box_d2_cross(&box, zu_render_get_map_box_cr(render_), &visible);
+}
+
+void profile_drawing::draw_chosen(data::grid_datasource& source) {
+  Tzu_stl_prm* simple = zu_stl_mngr_get_simple_sp_ptr(manager_);
+  std::int32_t mode = zu_stl_mngr_get_mode(manager_);
+  if (!height_.empty()) {
+    std::int64_t band = source.find_field(height_);
+    if (band != -1) draw_band(source, band, simple);
+  } else if (mode == zu_style_simple) {
+    std::int64_t count = source.number_of_fields();
+    for (std::int64_t band = 0; band < count; ++band) draw_band(source, band, simple);
+  } else if (mode == zu_style_value) {
+    draw_by_values(source);
+  }
+}
+
+void profile_drawing::draw_by_values(data::grid_datasource& source) {
+  Tzu_val_scale* scale = zu_stl_mngr_get_val_scale_ptr(manager_);
+  std::int64_t count = source.number_of_fields();
+  for (std::int64_t band = 0; band < count; ++band) {
+    std::uint64_t row = 0;
+    bool known = zu_val_scale_find_item_no_w(scale, source.field_name(band).c_str(), &row);
+    Tzu_scale_prm* prm =
+        known ? zu_val_scale_get_scale_prm_ptr(scale, row) : zu_val_scale_get_other_prm_ptr(scale);
+    if (prm != nullptr && zu_scale_prm_get_visible(prm))
+      draw_band(source, band, zu_scale_prm_get_stl_prm_ptr(prm));
+  }
+}
+
+void profile_drawing::draw_band(data::grid_datasource& source, std::int64_t band,
+                                Tzu_stl_prm* style) {
+  data::owned_block block;
+  if (!reset(source, band, block)) return;
+  trace(source, block);
+  place();
+  show(unselected_.get(), zu_stl_prm_get_pln_style_ptr(style, 0));
+  bool own = own_selected_style_ || scene_selected_ == nullptr;
+  show(selected_.get(), own ? zu_stl_prm_get_pln_style_ptr(style, 1) : scene_selected_);
+}
+
+bool profile_drawing::reset(data::grid_datasource& source, std::int64_t band,
+                            data::owned_block& block) {
+  std::int32_t sizes[3] = {0, 0, 0};
+  double spacing[3] = {1.0, 1.0, 1.0};
+  if (!source.sizes(sizes) || sizes[0] <= 0 || !source.get_origin(origin_) ||
+      !source.get_block(band, block))
+    return false;
+  source.get_spacing(spacing);
+  count_ = static_cast<std::uint64_t>(sizes[0]);
+  step_ = spacing[0];
+  azimuth_ = source.azimuth();
+  nodata_ = data::nodata_test::of(block.get(), element_float64);
+  zu_ov_d2_clear(unselected_.get());
+  zu_ov_d2_clear(selected_.get());
+  open_unselected_ = open_selected_ = nullptr;
+  index_ = 0;
+  previous_ = nodata_.value;
+  return true;
+}
+
+/// Samples that cannot be read end the curve.
+void profile_drawing::trace(data::grid_datasource& source, const data::owned_block& block) {
+  std::uint64_t tile[3] = {0, 0, 0};
+  call<&grid_block_impl::tile_size>(block.get(), tile);
+  std::vector<double> samples(std::min(tile[0] * tile[1], count_));
+  while (index_ < count_) {
+    std::uint64_t length = std::min<std::uint64_t>(samples.size(), count_ - index_);
+    if (length == 0 || data::read_linear(source, block.get(), index_, length, samples.data(),
+                                         element_float64) != 1)
+      return;
+    for (std::uint64_t i = 0; i < length; ++i) add_sample(samples[i]);
+  }
+}
+
+void profile_drawing::add_sample(double v) {
+  double x = static_cast<double>(index_) * step_ + origin_[0];
+  bool valid = nodata_.valid(v);
+  if (valid) {
+    if (open_unselected_ == nullptr) open_unselected_ = zu_ov_d2_add(unselected_.get());
+    add_vertex(open_unselected_, x, v);
+  } else {
+    open_unselected_ = nullptr;
+  }
+  add_selected(v, x, valid);
+  ++index_;
+  previous_ = v;
+}
+
+/// A selected run begins and ends half a step outside its samples, on the chord.
+void profile_drawing::add_selected(double v, double x, bool valid) {
+  bool chord = valid && nodata_.valid(previous_);
+  double middle_x = x - step_ * 0.5, middle_y = (v + previous_) * 0.5;
+  if (zu_table_data_is_selected_id(selection_, index_)) {
+    if (!valid) return;  // the run stays open over it
+    if (open_selected_ == nullptr) {
+      open_selected_ = zu_ov_d2_add(selected_.get());
+      if (chord) add_vertex(open_selected_, middle_x, middle_y);
+    }
+    add_vertex(open_selected_, x, v);
+  } else if (open_selected_ != nullptr) {
+    if (chord) add_vertex(open_selected_, middle_x, middle_y);
+    open_selected_ = nullptr;
+  }
+}
+
+void profile_drawing::place() {
+  Tzu_matrix3x3 matrix, step;
+  zu_matrix3x3_init_single(&matrix);
+  bool moved = false;
+  auto then = [&](const Tzu_matrix3x3& next) {
+    zu_matrix3x3_mult(&matrix, &next, &matrix);
+    moved = true;
+  };
+  if (affine_ != nullptr && !zu_affine_2d_is_identity(affine_)) {
+    zu_matrix3x3_init_affine(&step, affine_);
+    then(step);
+  }
+  if (zu_render_has_affine_transform(render_)) then(*zu_render_get_affine_matrix(render_));
+  if (std::abs(azimuth_) > least_azimuth) {
+    zu_matrix3x3_init_rotate_center(&step, origin_[0], origin_[1], zu_grd2rad(azimuth_));
+    then(step);
+  }
+  if (!moved) return;
+  zu_ov_d2_apply_matrix3x3(unselected_.get(), &matrix);
+  zu_ov_d2_apply_matrix3x3(selected_.get(), &matrix);
+}
+
+void profile_drawing::show(const Tzu_ov_d2* lines, const Tzu_pln_style* style) {
+  if (zu_ov_d2_get_size(lines) == 0) return;
+  zu_render_cr_pln(render_, lines, style);
+}
+
+}  // namespace zu

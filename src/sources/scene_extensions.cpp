@@ -1,0 +1,11 @@
+#include "src/sources/scene_extensions.h"
+
+#include "src/layer/layer_services.h"
+
+namespace zu {
+
+void scene_editor_extension::get_layer_type(string_visitor visitor) {
+  toolkit::give_type(type_, visitor);
+}
+
+}  // namespace zu

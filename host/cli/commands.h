@@ -27,6 +27,7 @@ inline const CLI::Validator filled(
 using command = std::function<int()>;
 command add_render(CLI::App& options);
 command add_info(CLI::App& options);
+command add_convert(CLI::App& options);
 command add_probe(CLI::App& options);
 
 }  // namespace zu::cli

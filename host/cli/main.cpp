@@ -26,6 +26,7 @@ struct entry {
 constexpr entry commands[] = {
     {"render", "draw grids into a picture", &add_render},
     {"info", "say what a grid holds", &add_info},
+    {"convert", "put a grid into a .pgrid file", &add_convert},
     {"probe", "say what a grid has at a point", &add_probe},
 };
 

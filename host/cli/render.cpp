@@ -35,6 +35,7 @@ struct texts {
   std::vector<std::string> sources;
   std::string output, size, extent, crs, draw, field, rgb, limits, breaks, colors, other, values,
       simple, background, hillshade, isolines;
+  std::optional<std::int64_t> slice;
   bool interpolate = false;
   int transparency = 0;
 };
@@ -89,6 +90,7 @@ host::layer_look look_of(const texts& given) {
   if (!given.simple.empty()) look.simple = color_of("--simple", given.simple);
   if (!given.hillshade.empty()) look.hillshade = hillshade_of("--hillshade", given.hillshade);
   if (!given.isolines.empty()) look.isolines = isolines_of("--isolines", given.isolines);
+  look.slice = given.slice;
   look.interpolate = given.interpolate;
   look.transparency = given.transparency;
   check(look);
@@ -122,7 +124,7 @@ void dress(host::scene& scene, const host::layer_look& look) {
   std::string refusal;
   std::size_t dressed = 0;
   for (const auto& layer : scene.layers()) {
-    std::string reason = host::why_not(look, layer->data());
+    std::string reason = host::why_not(look, *layer);
     if (reason.empty()) ++dressed;
     if (!reason.empty() && refusal.empty()) refusal = layer->data().name() + ": " + reason;
     host::apply_look(reason.empty() ? look : plain, *layer);
@@ -239,6 +241,7 @@ command add_render(CLI::App& options) {
       .add_option("--isolines", given->isolines,
                   "lines of equal value: thin=10,bold=50,field=NAME,label")
       ->type_name("[SETTINGS]");
+  options.add_option("--slice", given->slice, "a slice of a volume, from 0")->type_name("N");
   options
       .add_option("--background", given->background,
                   "colour of the page (none: the picture keeps its transparency)")

@@ -1,8 +1,14 @@
 #include "host/core/layer.h"
 
+#include <cmath>
+#include <string_view>
+#include <utility>
+
 #include "host/core/failure.h"
 #include "host/core/texts.h"
 #include "zu/platform/zuk_io.h"
+#include "zu/platform/zuk_rtr_lr2d.h"
+#include "zu/platform/zuk_tos_lr2d.h"
 
 namespace zu::host {
 namespace {
@@ -10,6 +16,66 @@ namespace {
 std::string file_name_of(const std::string& path) {
   std::size_t slash = path.find_last_of("/\\");
   return slash == std::string::npos ? path : path.substr(slash + 1);
+}
+
+// Numbers of draw types where the platform keeps the layer.
+constexpr std::pair<draw_type, int> raster_types[] = {{draw_type::image, zu_rtr_draw_image},
+                                                      {draw_type::rgb, zu_rtr_draw_rgb},
+                                                      {draw_type::gray, zu_rtr_draw_gray}};
+constexpr std::pair<draw_type, int> tos_types[] = {{draw_type::scale, zu_tos_draw_scale},
+                                                   {draw_type::scale, zu_tos_draw_scale2},
+                                                   {draw_type::rgb, zu_tos_draw_rgb},
+                                                   {draw_type::gray, zu_tos_draw_gray},
+                                                   {draw_type::image, zu_tos_draw_image}};
+
+template <std::size_t count>
+draw_type draw_of(const std::pair<draw_type, int> (&types)[count], int number) {
+  for (const auto& [draw, own] : types)
+    if (own == number) return draw;
+  return types[0].first;
+}
+template <std::size_t count>
+int number_of(const std::pair<draw_type, int> (&types)[count], draw_type wanted) {
+  for (const auto& [draw, own] : types)
+    if (draw == wanted) return own;
+  return types[0].second;
+}
+
+bool is_raster(const Izu_layer* entity) {
+  return zu_lr2d_get_lr_type(entity) == std::string_view("rtr_lr2d");
+}
+bool is_tos_grid(const Izu_layer* entity) {
+  std::string_view type = zu_lr2d_get_lr_type(entity);
+  return type == "tos_grid_lr2d" || type == "tos_slice_lr2d";
+}
+
+double opacity_of(int transparency) { return 1.0 - transparency / 100.0; }
+int transparency_of(double opacity) { return static_cast<int>(std::lround((1.0 - opacity) * 100)); }
+
+void read_platform(const Izu_layer* entity, draw_settings& found) {
+  if (is_raster(entity)) {
+    found.draw = draw_of(raster_types, zu_rtr_lr2d_get_draw_type(entity));
+    found.transparency = transparency_of(zu_rtr_lr2d_get_opacity(entity));
+    zu_rgb_channels_assign(found.channels.get(), zu_rtr_lr2d_get_rgb_channels_ptr(entity));
+  } else if (is_tos_grid(entity)) {
+    found.draw = draw_of(tos_types, zu_tos_grid_lr2d_get_draw_type(entity));
+    found.transparency = transparency_of(zu_tos_grid_lr2d_get_opacity(entity));
+    found.interpolate = zu_tos_grid_lr2d_get_interpolate(entity);
+    zu_rgb_channels_assign(found.channels.get(), zu_tos_grid_lr2d_get_rgb_channels_ptr(entity));
+  }
+}
+
+void write_platform(const draw_settings& settings, Izu_layer* entity) {
+  if (is_raster(entity)) {
+    zu_rtr_lr2d_set_draw_type(entity, number_of(raster_types, settings.draw));
+    zu_rtr_lr2d_set_opacity(entity, opacity_of(settings.transparency));
+    zu_rgb_channels_assign(zu_rtr_lr2d_get_rgb_channels_ptr(entity), settings.channels.get());
+  } else if (is_tos_grid(entity)) {
+    zu_tos_grid_lr2d_set_draw_type(entity, number_of(tos_types, settings.draw));
+    zu_tos_grid_lr2d_set_opacity(entity, opacity_of(settings.transparency));
+    zu_tos_grid_lr2d_set_interpolate(entity, settings.interpolate);
+    zu_rgb_channels_assign(zu_tos_grid_lr2d_get_rgb_channels_ptr(entity), settings.channels.get());
+  }
 }
 
 struct closed {
@@ -23,16 +89,18 @@ layer::layer(const bundle& services, const std::string& type, const std::string&
     : services_(services), entity_(zu_lr2d_create(type.c_str())) {
   call<&layer_2d_service_impl::create_layer>(
       services.layers(type), layer_2d_visitor(handle_of<layer_2d_visitor_impl>(*this)));
-  if (!object_ || entity_ == nullptr) {
+  if (entity_ == nullptr || (!object_ && !services.renderer(type))) {
     zu_lr2d_destroy(entity_);
     throw failure(source, "there are no layers of type " + type);
   }
   zu_lr2d_set_wsource(entity_, wide_name(source).c_str());
   set_caption(file_name_of(source));
-  zu_lr2d_set_plugin_interface(entity_, object_);
-  call<&layer_2d_impl::bind_entity>(object_, entity_);
-  call<&layer_2d_impl::source_changed>(object_);
-  call<&layer_2d_impl::update_validity>(object_);
+  if (object_) {
+    zu_lr2d_set_plugin_interface(entity_, object_);
+    call<&layer_2d_impl::bind_entity>(object_, entity_);
+  }
+  zu_lr2d_source_changed(entity_);
+  zu_lr2d_update_validity(entity_);
 }
 
 layer::~layer() {
@@ -69,31 +137,35 @@ std::optional<Tzu_box_d2> layer::box() const {
   return found;
 }
 
-Tzu_stl_mngr* layer::style_manager() const {
-  return call<&layer_2d_impl::get_style_manager>(object_);
-}
-Tzu_hillshade_style* layer::hillshade_style() const {
-  return call<&layer_2d_impl::get_hillshade_style>(object_);
-}
-Tzu_isoline_style* layer::isoline_style() const {
-  return call<&layer_2d_impl::get_isoline_style>(object_);
-}
-
-// A grid layer gives and takes them in its tree.
 draw_settings layer::settings() const {
-  node_ptr root(zu_xnode_create_root_w(L"layer"));
-  save(root.get());
-  node_ptr params(zu_xnode_set_node_w(root.get(), L"grid_params"));
   draw_settings found;
-  found.draw = static_cast<draw_type>(zu_xnode_get_attr_int_w(params.get(), L"draw_type", 0));
-  found.transparency = static_cast<int>(zu_xnode_get_attr_int_w(params.get(), L"opacity", 0));
-  found.interpolate = zu_xnode_get_attr_bool_w(params.get(), L"interpolate", false);
   found.channels.reset(zu_rgb_channels_create());
-  zu_xml_save_style_load_rgb_channels(nullptr, root.get(), L"channels", found.channels.get());
+  if (object_)
+    read_tree(found);
+  else
+    read_platform(entity_, found);
   return found;
 }
 
 void layer::set_settings(const draw_settings& settings) {
+  if (object_)
+    write_tree(settings);
+  else
+    write_platform(settings, entity_);
+}
+
+// A grid layer gives and takes them in its tree.
+void layer::read_tree(draw_settings& found) const {
+  node_ptr root(zu_xnode_create_root_w(L"layer"));
+  save(root.get());
+  node_ptr params(zu_xnode_set_node_w(root.get(), L"grid_params"));
+  found.draw = static_cast<draw_type>(zu_xnode_get_attr_int_w(params.get(), L"draw_type", 0));
+  found.transparency = static_cast<int>(zu_xnode_get_attr_int_w(params.get(), L"opacity", 0));
+  found.interpolate = zu_xnode_get_attr_bool_w(params.get(), L"interpolate", false);
+  zu_xml_save_style_load_rgb_channels(nullptr, root.get(), L"channels", found.channels.get());
+}
+
+void layer::write_tree(const draw_settings& settings) {
   node_ptr root(zu_xnode_create_root_w(L"layer"));
   save(root.get());
   node_ptr params(zu_xnode_set_node_w(root.get(), L"grid_params"));
@@ -105,16 +177,16 @@ void layer::set_settings(const draw_settings& settings) {
 }
 
 void layer::save(Tzu_xnode* node) const {
+  if (!object_) return zu_lr2d_save_state(entity_, node, nullptr);
   call<&layer_2d_externalization_service_impl::save>(services_.externalization(type()), object_,
                                                      node, static_cast<void*>(nullptr));
 }
 
 void layer::load(Tzu_xnode* node) {
+  if (!object_) return zu_lr2d_load_state(entity_, node, nullptr);
   call<&layer_2d_externalization_service_impl::load>(services_.externalization(type()), object_,
                                                      node, static_cast<void*>(nullptr));
 }
-
-void layer::update() { call<&layer_2d_impl::update_box>(object_); }
 
 void layer::draw(Izu_render* render) const {
   call<&layer_2d_renderer_extension_service_impl::render>(services_.renderer(type()), render,

@@ -52,9 +52,10 @@ class layer final : layer_2d_visitor_impl {
 
   /// The bundle's object; empty for a layer that the platform keeps itself.
   layer_2d object() const { return object_; }
-  Tzu_stl_mngr* style_manager() const;           ///< null if the type has none
-  Tzu_hillshade_style* hillshade_style() const;  ///< null if the type has none
-  Tzu_isoline_style* isoline_style() const;      ///< null if the type has none
+  // Styles; null if the type has none.
+  Tzu_stl_mngr* style_manager() const { return zu_lr_get_style_mngr_ptr(entity_); }
+  Tzu_hillshade_style* hillshade_style() const { return zu_lr2d_get_hillshade_style(entity_); }
+  Tzu_isoline_style* isoline_style() const { return zu_lr2d_get_isoline_style(entity_); }
 
   draw_settings settings() const;
   void set_settings(const draw_settings& settings);
@@ -63,11 +64,13 @@ class layer final : layer_2d_visitor_impl {
   void load(Tzu_xnode* node);
 
   /// After a change of the scene's projection.
-  void update();
+  void update() { zu_lr2d_update_box(entity_); }
   void draw(Izu_render* render) const;
 
  private:
   void visit(layer_2d made) override { object_ = made; }
+  void read_tree(draw_settings& found) const;
+  void write_tree(const draw_settings& settings);
 
   const bundle& services_;
   Izu_layer* entity_;

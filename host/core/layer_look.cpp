@@ -5,9 +5,13 @@
 
 #include "host/core/failure.h"
 #include "host/core/texts.h"
+#include "zu/platform/zuk_tos_lr2d.h"
 
 namespace zu::host {
 namespace {
+
+constexpr char profile_type[] = "tos_grid_lr1d";
+constexpr char slice_type[] = "tos_slice_lr2d";
 
 /// Array 5 runs from blue through white to red.
 constexpr std::int32_t default_colors = 5;
@@ -74,7 +78,9 @@ void set_value_scale(const layer_look& look, Tzu_val_scale* scale) {
 void set_style(const layer_look& look, const source& data, Tzu_stl_mngr* manager) {
   if (look.simple) {
     zu_stl_mngr_set_mode(manager, zu_style_simple);
-    zu_stl_prm_clr_set_all(zu_stl_mngr_get_simple_sp_ptr(manager), *look.simple, 0);
+    Tzu_stl_prm* simple = zu_stl_mngr_get_simple_sp_ptr(manager);
+    zu_stl_prm_clr_set_all(simple, *look.simple, 0);
+    zu_stl_prm_get_pln_style_ptr(simple, 0)->color = *look.simple;
     return;
   }
   std::size_t field = colored_field(look, data);
@@ -185,11 +191,8 @@ void set_isolines(const layer_look& look, const source& data, Tzu_isoline_style*
   zu_isoline_style_set_label(style, look.isolines->label);
 }
 
-}  // namespace
-
-std::string why_not(const layer_look& look, const source& data) {
-  if (data.fields().empty()) return "has no fields";
-  if (look.draw == draw_type::image && !makes_image(data)) return "its bands make no image";
+/// Why the fields that a look names are not those of a source.
+std::string why_not_of_fields(const layer_look& look, const source& data) {
   std::vector<std::string> wanted = look.rgb;
   if (!look.field.empty()) wanted.push_back(look.field);
   bool colors_a_field =
@@ -213,19 +216,46 @@ std::string why_not(const layer_look& look, const source& data) {
   return {};
 }
 
+}  // namespace
+
+std::string why_not(const layer_look& look, const layer& dressed) {
+  const source& data = dressed.data();
+  if (data.fields().empty()) return "has no fields";
+  if (dressed.type() == profile_type) {
+    bool curves = look.colors_nothing_but_lines();
+    return curves ? "" : "is a profile, drawn as curves: of the styles it takes --simple alone";
+  }
+  if (look.draw == draw_type::image && !makes_image(data)) return "its bands make no image";
+  if (look.slice) {
+    std::int32_t sizes[3] = {0, 0, 1};
+    call<&grid_source_impl::sizes>(data.grid(), sizes);
+    if (dressed.type() != slice_type) return "has no slices";
+    if (*look.slice < 0 || *look.slice >= sizes[2])
+      return "has slices 0 to " + std::to_string(sizes[2] - 1);
+  }
+  return why_not_of_fields(look, data);
+}
+
 void apply_look(const layer_look& look, layer& dressed) {
   const source& data = dressed.data();
-  if (std::string reason = why_not(look, data); !reason.empty()) throw failure(data.name(), reason);
+  if (std::string reason = why_not(look, dressed); !reason.empty())
+    throw failure(data.name(), reason);
   draw_settings settings = dressed.settings();
   settings.draw = drawn_as(look, settings.draw);
   settings.transparency = look.transparency;
   settings.interpolate = look.interpolate;
   settings.channels.reset(zu_rgb_channels_create());
+  if (dressed.type() == profile_type) {
+    if (look.simple) set_style(look, data, dressed.style_manager());
+    return;
+  }
   set_channels(settings.draw, look, data, settings.channels.get());
   dressed.set_settings(settings);
-  if (settings.draw == draw_type::scale) set_style(look, data, dressed.style_manager());
-  set_hillshade(look, data, dressed.hillshade_style());
-  set_isolines(look, data, dressed.isoline_style());
+  if (look.slice) zu_tos_slice_lr2d_set_zslice(dressed.entity(), *look.slice);
+  Tzu_stl_mngr* styles = dressed.style_manager();
+  if (settings.draw == draw_type::scale && styles != nullptr) set_style(look, data, styles);
+  if (Tzu_hillshade_style* style = dressed.hillshade_style()) set_hillshade(look, data, style);
+  if (Tzu_isoline_style* style = dressed.isoline_style()) set_isolines(look, data, style);
 }
 
 }  // namespace zu::host

@@ -43,7 +43,12 @@ struct layer_look {
   int transparency = 0;  ///< percent
   std::optional<hillshade_look> hillshade;
   std::optional<isoline_look> isolines;
+  std::optional<std::int64_t> slice;  ///< of a volume, from 0
 
+  bool colors_nothing_but_lines() const {
+    return !draw && field.empty() && rgb.empty() && breaks.empty() && colors.empty() &&
+           values.empty() && !other && !hillshade && !isolines && !slice;
+  }
   bool styles_a_scale() const {
     return !field.empty() || !breaks.empty() || !colors.empty() || !values.empty() || simple ||
            other;
@@ -53,9 +58,9 @@ struct layer_look {
 /// Number of classes of a default scale.
 inline constexpr std::size_t default_classes = 10;
 
-/// Why a source cannot take a look: an unknown field, or bands that make no image. Empty if
+/// Why a layer cannot take a look: an unknown field, bands that make no image, no slices. Empty if
 /// it can.
-std::string why_not(const layer_look& look, const source& data);
+std::string why_not(const layer_look& look, const layer& dressed);
 
 /// Gives a layer the look. Throws `failure` with `why_not`.
 void apply_look(const layer_look& look, layer& dressed);

@@ -110,13 +110,6 @@ class block_row_scan {
   bool complete_ = true, any_ = false;
 };
 
-Tzu_field_stat summary(const partial_statistics& all, bool estimate) {
-  if (all.count == 0) return {0, 0, 0, 0, 0, estimate};
-  double freedom = all.count > 1 ? static_cast<double>(all.count - 1) : 1;
-  return {all.minimum, all.maximum, all.mean, std::sqrt(all.squares / freedom),
-          all.count,   estimate};
-}
-
 // The dataset for a second thread; null where one thread does the work.
 dataset_ptr helper_of(open_dataset& dataset) {
   std::string reason;
@@ -155,6 +148,13 @@ partial_statistics statistics_of_run(const void* cells, std::int32_t type, std::
     out = run_of(static_cast<const decltype(cell)*>(cells), count, valid);
   });
   return out;
+}
+
+Tzu_field_stat summary(const partial_statistics& all, bool estimate) {
+  if (all.count == 0) return {0, 0, 0, 0, 0, estimate};
+  double freedom = all.count > 1 ? static_cast<double>(all.count - 1) : 1;
+  return {all.minimum, all.maximum, all.mean, std::sqrt(all.squares / freedom),
+          all.count,   estimate};
 }
 
 bool exact_statistics(open_dataset& dataset, int band, const std::wstring& name,

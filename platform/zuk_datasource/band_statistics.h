@@ -31,6 +31,9 @@ struct partial_statistics {
 partial_statistics statistics_of_run(const void* cells, std::int32_t type, std::size_t count,
                                      const valid_cells& valid);
 
+/// What the parts add up to; all zero if nothing was valid.
+Tzu_field_stat summary(const partial_statistics& all, bool estimate);
+
 /// Reads every block of `band` (from 1) once. A second thread helps with a GeoTIFF. False if
 /// stopped, if the file is truncated or if no cell could be read.
 bool exact_statistics(open_dataset& dataset, int band, const std::wstring& name,

@@ -1,8 +1,14 @@
 #include "zu/platform/zuk_datasource.h"
 
+#include <algorithm>
+#include <string_view>
+
 #include "platform/zuk_basic/guarded.h"
 #include "platform/zuk_basic/utf8.h"
 #include "platform/zuk_datasource/gdal_source.h"
+#include "platform/zuk_datasource/pgrid_source.h"
+#include "platform/zuk_datasource/pgrid_writer.h"
+#include "platform/zuk_file_tos4/tables.h"
 
 using namespace zu;
 using namespace zu::platform;
@@ -15,6 +21,23 @@ struct to_adapter : string_visitor_impl {
   Tzu_string_adp* adapter;
 };
 
+bool ends_as_pgrid(const std::string& path) {
+  constexpr std::string_view ending = ".pgrid";
+  return path.size() >= ending.size() &&
+         std::equal(ending.begin(), ending.end(), path.end() - ending.size(),
+                    [](char a, char b) { return a == (b >= 'A' && b <= 'Z' ? b + 32 : b); });
+}
+
+void open_pgrid(const std::wstring& name, bool read_only, Tzu_handle* out) {
+  try {
+    auto file =
+        std::make_shared<pgrid_file>(to_utf8(name), read_only ? access::read : access::edit);
+    *out = handle_of<data_source_impl>(*new pgrid_source(std::move(file), name));
+  } catch (const std::exception& failure) {
+    zu_problems_add(name.c_str(), zu_problem_open, from_utf8(failure.what()).c_str());
+  }
+}
+
 }  // namespace
 
 void zu_datasource_open(const wchar_t* name, int32_t read_only, void*, Tzu_handle* out) {
@@ -22,6 +45,8 @@ void zu_datasource_open(const wchar_t* name, int32_t read_only, void*, Tzu_handl
   *out = {};
   guarded(name, [&](const wchar_t& first) {
     std::wstring wide = &first;
+    if (std::string path = to_utf8(wide); ends_as_pgrid(path) || is_pgrid(path))
+      return open_pgrid(wide, read_only != 0, out);
     std::string reason;
     dataset_ptr opened = dataset_pool::shared().acquire(to_utf8(wide), read_only != 0, reason);
     if (opened == nullptr) {
@@ -83,4 +108,18 @@ bool zu_datasource_compute_stat(Tzu_handle source, int64_t field, uint64_t most,
   *out = {};
   return call<&source_details_impl::compute_stat>(cast<source_details_impl>(source), field, most,
                                                   progress, user, out);
+}
+
+bool zu_datasource_write_pgrid_w(Tzu_handle source, const wchar_t* path,
+                                 const Tzu_pgrid_options* options,
+                                 bool (*progress)(double share, void* user), void* user) {
+  if (options == nullptr) return false;
+  return guarded(path, false, [&](const wchar_t& first) {
+    try {
+      return write_pgrid(source, &first, *options, progress, user);
+    } catch (const std::exception& failure) {
+      zu_problems_add(&first, zu_problem_write, from_utf8(failure.what()).c_str());
+      return false;
+    }
+  });
 }

@@ -44,6 +44,7 @@ template <class scale, class head, class one_class> class searched_scale : publi
     forget();
     classes = from.classes;
     other = from.other;
+    other_caption = from.other_caption;
     return *this;
   }
   void resize(std::size_t size) {
@@ -65,6 +66,7 @@ template <class scale, class head, class one_class> class searched_scale : publi
 
   std::vector<one_class> classes;
   Tzu_scale_prm other;
+  std::wstring other_caption;
 
  protected:
   ~searched_scale() = default;
@@ -76,6 +78,7 @@ template <class scale, class head, class one_class> class searched_scale : publi
 
 struct range_class {
   double minimum = 0.0, maximum = 0.0;
+  std::wstring caption;
   held_row row;
 };
 
@@ -83,15 +86,34 @@ struct range_scale : searched_scale<range_scale, Tzu_rng_scale, range_class> {
   void prepare();
   double minimum = 0.0, maximum = 0.0;  // of the tails
   Tzu_scale_prm lower = new_row(), upper = new_row();
+  std::wstring lower_caption, upper_caption;
+  int32_t type = 0, digits = zu_no_rounding;
+  double deviation_coefficient = 1.0;
 };
 
 struct value_class {
-  std::wstring text;
+  std::wstring text, caption;
   held_row row;
 };
 
 struct value_scale : searched_scale<value_scale, Tzu_val_scale, value_class> {
   void prepare();
 };
+
+// Scales behind the public records, and their rows; null if there is no such row.
+inline range_scale& whole(Tzu_rng_scale& head) { return static_cast<range_scale&>(head); }
+inline const range_scale& whole(const Tzu_rng_scale& head) {
+  return static_cast<const range_scale&>(head);
+}
+inline value_scale& whole(Tzu_val_scale& head) { return static_cast<value_scale&>(head); }
+inline const value_scale& whole(const Tzu_val_scale& head) {
+  return static_cast<const value_scale&>(head);
+}
+inline range_class* class_at(Tzu_rng_scale* scale, uint64_t index) {
+  return index < zu_rng_scale_get_size(scale) ? &whole(*scale).classes[index] : nullptr;
+}
+inline value_class* class_at(Tzu_val_scale* scale, uint64_t index) {
+  return index < zu_val_scale_get_size(scale) ? &whole(*scale).classes[index] : nullptr;
+}
 
 }  // namespace zu::platform

@@ -7,31 +7,11 @@
 #include "platform/zuk_basic/guarded.h"
 #include "platform/zuk_styles/scales.h"
 
+using zu::platform::class_at;
 using zu::platform::guarded;
 using zu::platform::range_class;
-using zu::platform::range_scale;
 using zu::platform::value_class;
-using zu::platform::value_scale;
-
-namespace {
-
-range_scale& whole(Tzu_rng_scale& head) { return static_cast<range_scale&>(head); }
-const range_scale& whole(const Tzu_rng_scale& head) {
-  return static_cast<const range_scale&>(head);
-}
-value_scale& whole(Tzu_val_scale& head) { return static_cast<value_scale&>(head); }
-const value_scale& whole(const Tzu_val_scale& head) {
-  return static_cast<const value_scale&>(head);
-}
-
-range_class* class_at(Tzu_rng_scale* scale, uint64_t index) {
-  return index < zu_rng_scale_get_size(scale) ? &whole(*scale).classes[index] : nullptr;
-}
-value_class* class_at(Tzu_val_scale* scale, uint64_t index) {
-  return index < zu_val_scale_get_size(scale) ? &whole(*scale).classes[index] : nullptr;
-}
-
-}  // namespace
+using zu::platform::whole;
 
 void zu_scale_prm_set_visible(Tzu_scale_prm* prm, bool visible) {
   if (prm != nullptr) prm->visible = visible;
@@ -45,6 +25,9 @@ Tzu_pln_style* zu_stl_prm_get_pln_style_ptr(Tzu_stl_prm* prm, int32_t index) {
 
 // --- Range scale
 
+void zu_rng_scale_assign(Tzu_rng_scale* scale, const Tzu_rng_scale* from) {
+  if (from != nullptr) guarded(scale, [&](Tzu_rng_scale& s) { whole(s) = whole(*from); });
+}
 uint64_t zu_rng_scale_get_size(const Tzu_rng_scale* scale) {
   return scale != nullptr ? whole(*scale).classes.size() : 0;
 }
@@ -107,6 +90,9 @@ void zu_rng_scale_end_find(Tzu_rng_scale* scale) {
 
 // --- Value scale
 
+void zu_val_scale_assign(Tzu_val_scale* scale, const Tzu_val_scale* from) {
+  if (from != nullptr) guarded(scale, [&](Tzu_val_scale& s) { whole(s) = whole(*from); });
+}
 uint64_t zu_val_scale_get_size(const Tzu_val_scale* scale) {
   return scale != nullptr ? whole(*scale).classes.size() : 0;
 }

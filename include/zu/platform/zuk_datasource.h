@@ -49,3 +49,18 @@ typedef struct Tzu_field_stat {
 ZU_API bool zu_datasource_compute_stat(Tzu_handle source, int64_t field, uint64_t most,
                                        bool (*progress)(double share, void* user), void* user,
                                        Tzu_field_stat* out);
+
+/// What of a source goes into a grid file.
+typedef struct Tzu_pgrid_options {
+  const int64_t* fields;  ///< in the order wanted; null: all
+  uint64_t field_count;
+  bool volume;                 ///< the fields, of one type and NoData, become slices from z 0 up
+  const wchar_t* volume_name;  ///< of the property that they make then
+  bool profile;                ///< a grid of one row becomes a profile
+} Tzu_pgrid_options;
+/// Writes a ".pgrid" file with exact statistics and overviews; see zu/platform/zuk_file_tos4.h. It
+/// replaces an older file when it is whole, and leaves nothing when it fails or `progress` (may be
+/// null) gives false. Reasons are kept for `path`; those of reading for the source's name.
+ZU_API bool zu_datasource_write_pgrid_w(Tzu_handle source, const wchar_t* path,
+                                        const Tzu_pgrid_options* options,
+                                        bool (*progress)(double share, void* user), void* user);

@@ -97,6 +97,7 @@ typedef struct Tzu_rng_scale {
   Tzu_scale_lookup lookup;
 } Tzu_rng_scale;
 
+ZU_API void zu_rng_scale_assign(Tzu_rng_scale* scale, const Tzu_rng_scale* from);
 ZU_API uint64_t zu_rng_scale_get_size(const Tzu_rng_scale* scale);
 ZU_API void zu_rng_scale_set_size(Tzu_rng_scale* scale, uint64_t size);
 ZU_API double zu_rng_scale_get_min(const Tzu_rng_scale* scale, uint64_t index);  ///< NaN if none
@@ -112,6 +113,36 @@ ZU_API Tzu_scale_prm* zu_rng_scale_get_scale_prm_ptr(Tzu_rng_scale* scale, uint6
 ZU_API Tzu_scale_prm* zu_rng_scale_get_min_prm_ptr(Tzu_rng_scale* scale);
 ZU_API Tzu_scale_prm* zu_rng_scale_get_max_prm_ptr(Tzu_rng_scale* scale);
 ZU_API Tzu_scale_prm* zu_rng_scale_get_other_prm_ptr(Tzu_rng_scale* scale);
+// Captions for legends, empty unless set; no call if there is no such class.
+ZU_API void zu_rng_scale_get_caption_w(const Tzu_rng_scale* scale, uint64_t index,
+                                       Tzu_string_adp* adapter);
+ZU_API void zu_rng_scale_set_caption_w(Tzu_rng_scale* scale, uint64_t index, const wchar_t* text);
+ZU_API void zu_rng_scale_get_min_caption_w(const Tzu_rng_scale* scale, Tzu_string_adp* adapter);
+ZU_API void zu_rng_scale_set_min_caption_w(Tzu_rng_scale* scale, const wchar_t* text);
+ZU_API void zu_rng_scale_get_max_caption_w(const Tzu_rng_scale* scale, Tzu_string_adp* adapter);
+ZU_API void zu_rng_scale_set_max_caption_w(Tzu_rng_scale* scale, const wchar_t* text);
+ZU_API void zu_rng_scale_get_other_caption_w(const Tzu_rng_scale* scale, Tzu_string_adp* adapter);
+ZU_API void zu_rng_scale_set_other_caption_w(Tzu_rng_scale* scale, const wchar_t* text);
+
+/// How boundaries were made; kept for whoever makes them anew.
+enum Tzu_range_type {
+  zu_range_equal = 0,
+  zu_range_deviation = 1,
+  zu_range_logarithmic = 2,
+  zu_range_quantile = 3,
+  zu_range_natural = 4,
+  zu_range_geometrical = 5,
+  zu_range_manual = 6,
+};
+enum { zu_no_rounding = -30 };
+ZU_API int32_t zu_rng_scale_get_rng_type(const Tzu_rng_scale* scale);  ///< 0 unless set
+ZU_API void zu_rng_scale_set_rng_type(Tzu_rng_scale* scale, int32_t type);
+/// Boundaries are multiples of ten to this power; `zu_no_rounding` unless set.
+ZU_API int32_t zu_rng_scale_get_round_digits(const Tzu_rng_scale* scale);
+ZU_API void zu_rng_scale_set_round_digits(Tzu_rng_scale* scale, int32_t digits);
+/// Factor on the deviation in boundaries of that type; 1 unless set.
+ZU_API double zu_rng_scale_get_deviation_coeff(const Tzu_rng_scale* scale);
+ZU_API void zu_rng_scale_set_deviation_coeff(Tzu_rng_scale* scale, double coefficient);
 /// Values can be looked up between these two. Calls nest. A change of the scale ends all look-ups.
 ZU_API void zu_rng_scale_beg_find(Tzu_rng_scale* scale);
 ZU_API void zu_rng_scale_end_find(Tzu_rng_scale* scale);
@@ -124,16 +155,23 @@ typedef struct Tzu_val_scale {
   Tzu_scale_lookup lookup;
 } Tzu_val_scale;
 
+ZU_API void zu_val_scale_assign(Tzu_val_scale* scale, const Tzu_val_scale* from);
 ZU_API uint64_t zu_val_scale_get_size(const Tzu_val_scale* scale);
 ZU_API void zu_val_scale_set_size(Tzu_val_scale* scale, uint64_t size);
 ZU_API uint64_t zu_val_scale_add(Tzu_val_scale* scale);  ///< the new size
 ZU_API void zu_val_scale_get_text_w(const Tzu_val_scale* scale, uint64_t index,
                                     Tzu_string_adp* adp);
 ZU_API void zu_val_scale_set_text_w(Tzu_val_scale* scale, uint64_t index, const wchar_t* text);
-/// Number of the first row whose text is exactly `text`; false, and the output as it was, if there is
-/// none.
+/// Number of the first row whose text is exactly `text`; false, and the output as it was, if there
+/// is none.
 ZU_API bool zu_val_scale_find_item_no_w(const Tzu_val_scale* scale, const wchar_t* text,
                                         uint64_t* index);
+// Captions for legends, empty unless set; no call if there is no such row.
+ZU_API void zu_val_scale_get_caption_w(const Tzu_val_scale* scale, uint64_t index,
+                                       Tzu_string_adp* adapter);
+ZU_API void zu_val_scale_set_caption_w(Tzu_val_scale* scale, uint64_t index, const wchar_t* text);
+ZU_API void zu_val_scale_get_other_caption_w(const Tzu_val_scale* scale, Tzu_string_adp* adapter);
+ZU_API void zu_val_scale_set_other_caption_w(Tzu_val_scale* scale, const wchar_t* text);
 ZU_API Tzu_scale_prm* zu_val_scale_get_scale_prm_ptr(Tzu_val_scale* scale, uint64_t index);
 ZU_API Tzu_scale_prm* zu_val_scale_get_other_prm_ptr(Tzu_val_scale* scale);
 ZU_API void zu_val_scale_beg_find(Tzu_val_scale* scale);

@@ -1,0 +1,47 @@
+#pragma once
+// Styles in trees and scales in files of their own.
+
+#include "zu/platform/zuk_io.h"
+#include "zu/platform/zuk_styles.h"
+
+// --- Groups: one named child of `node` each, whose old content is replaced. `context` is the
+// host's and may be null. What is read replaces the whole object; a value that is absent or broken
+// is that of a new object. Reading leaves the object alone and gives false if the group is absent,
+// was written under another type name, or has more than a million rows in a scale.
+
+/// A style manager: mode, fields, simple style, and both scales with rows, tails, "other", captions
+/// and how the boundaries were made. `type` is the manager's own type name; under another one
+/// nothing is written.
+ZU_API void zu_xml_save_style_save_mngr_style(void* context, Tzu_xnode* node, const wchar_t* key,
+                                              const char* type, const Tzu_stl_mngr* manager);
+ZU_API bool zu_xml_save_style_load_mngr_style(void* context, Tzu_xnode* node, const wchar_t* key,
+                                              const char* type, Tzu_stl_mngr* manager);
+ZU_API void zu_xml_save_style_save_hillshade_style(void* context, Tzu_xnode* node,
+                                                   const wchar_t* key,
+                                                   const Tzu_hillshade_style* style);
+ZU_API bool zu_xml_save_style_load_hillshade_style(void* context, Tzu_xnode* node,
+                                                   const wchar_t* key, Tzu_hillshade_style* style);
+ZU_API void zu_xml_save_style_save_isoline_style(void* context, Tzu_xnode* node, const wchar_t* key,
+                                                 const Tzu_isoline_style* style);
+ZU_API bool zu_xml_save_style_load_isoline_style(void* context, Tzu_xnode* node, const wchar_t* key,
+                                                 Tzu_isoline_style* style);
+
+// --- Scale files: one scale of a manager, with its field, as an XML file. `key` is the manager's
+// type name, and a file is read under the one that it was written under.
+
+/// What the four operations work through; it says why the last one failed.
+typedef struct Tzu_xml_save_2d Tzu_xml_save_2d;
+ZU_API Tzu_xml_save_2d* zu_xml_save_2d_create(void);  ///< null if out of memory
+ZU_API void zu_xml_save_2d_destroy(Tzu_xml_save_2d* xml);
+ZU_API void zu_xml_save_2d_get_reason_w(const Tzu_xml_save_2d* xml, Tzu_string_adp* adapter);
+/// False, and the old file as it was, if the file cannot be written or `key` is not the manager's.
+ZU_API bool zu_xml_data_save_val_scale_w(Tzu_xml_save_2d* xml, const wchar_t* path,
+                                         const Tzu_stl_mngr* manager, const char* key);
+ZU_API bool zu_xml_data_save_rng_scale_w(Tzu_xml_save_2d* xml, const wchar_t* path,
+                                         const Tzu_stl_mngr* manager, const char* key);
+/// False, and the scale as it was, if the file cannot be read or holds no such scale under `key`.
+/// The mode of the manager stays.
+ZU_API bool zu_xml_data_load_val_scale_w(Tzu_xml_save_2d* xml, const wchar_t* path,
+                                         Tzu_stl_mngr* manager, const char* key);
+ZU_API bool zu_xml_data_load_rng_scale_w(Tzu_xml_save_2d* xml, const wchar_t* path,
+                                         Tzu_stl_mngr* manager, const char* key);

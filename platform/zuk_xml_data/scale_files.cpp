@@ -1,0 +1,112 @@
+// Scales in files of their own: a root named after the kind of scale, with the type name of the
+// manager, and the scale's group as in a manager.
+
+#include <memory>
+#include <new>
+#include <string>
+
+#include "platform/zuk_basic/guarded.h"
+#include "platform/zuk_basic/utf8.h"
+#include "platform/zuk_xml_data/nodes.h"
+#include "platform/zuk_xml_data/scales.h"
+#include "zu/platform/zuk_xml_data.h"
+
+using zu::platform::attribute;
+using zu::platform::from_utf8;
+using zu::platform::guarded;
+using zu::platform::node_ptr;
+using zu::platform::text_of;
+
+struct Tzu_xml_save_2d {
+  std::wstring reason;
+};
+
+namespace {
+
+struct kind {
+  const wchar_t* root;
+  void (*save)(Tzu_xnode*, const Tzu_stl_mngr*);
+  bool (*load)(Tzu_xnode*, Tzu_stl_mngr*);
+  void (*take)(Tzu_stl_mngr* to, Tzu_stl_mngr* from);  // the scale and its field
+};
+
+constexpr kind value_kind = {
+    L"value_scale", &zu::platform::save_value_scale, &zu::platform::load_value_scale,
+    [](Tzu_stl_mngr* to, Tzu_stl_mngr* from) {
+      std::wstring field =
+          text_of([&](Tzu_string_adp* a) { zu_stl_mngr_get_val_prop_name_w(from, a); });
+      zu_stl_mngr_set_val_prop_name_w(to, field.c_str());
+      zu_val_scale_assign(zu_stl_mngr_get_val_scale_ptr(to), zu_stl_mngr_get_val_scale_ptr(from));
+    }};
+constexpr kind range_kind = {
+    L"range_scale", &zu::platform::save_range_scale, &zu::platform::load_range_scale,
+    [](Tzu_stl_mngr* to, Tzu_stl_mngr* from) {
+      std::wstring field =
+          text_of([&](Tzu_string_adp* a) { zu_stl_mngr_get_rng_prop_name_w(from, a); });
+      zu_stl_mngr_set_rng_prop_name_w(to, field.c_str());
+      zu_rng_scale_assign(zu_stl_mngr_get_rng_scale_ptr(to), zu_stl_mngr_get_rng_scale_ptr(from));
+    }};
+
+bool is_key_of(const Tzu_stl_mngr* manager, const char* key) {
+  return manager != nullptr && key != nullptr &&
+         std::string_view(zu_stl_mngr_get_style_type(manager)) == key;
+}
+
+bool save(const kind& k, Tzu_xml_save_2d& xml, const wchar_t* path, const Tzu_stl_mngr* manager,
+          const char* key) {
+  xml.reason.clear();
+  if (!is_key_of(manager, key)) {
+    xml.reason = L"is not a manager of that type";
+    return false;
+  }
+  node_ptr root(zu_xnode_create_root_w(k.root));
+  zu_xnode_set_attr_wstr(root.get(), L"manager", from_utf8(key).c_str());
+  k.save(node_ptr(zu_xnode_add_node_w(root.get(), L"scale")).get(), manager);
+  bool saved = false;
+  xml.reason =
+      text_of([&](Tzu_string_adp* a) { saved = zu_xnode_save_file_w(root.get(), path, a); });
+  return saved;
+}
+
+bool load(const kind& k, Tzu_xml_save_2d& xml, const wchar_t* path, Tzu_stl_mngr* manager,
+          const char* key) {
+  node_ptr root;
+  xml.reason = text_of([&](Tzu_string_adp* a) { root.reset(zu_xnode_load_file_w(path, a)); });
+  if (!root) return false;
+  xml.reason = L"holds no such scale";
+  if (!is_key_of(manager, key)) return false;
+  std::wstring name = text_of([&](Tzu_string_adp* a) { zu_xnode_get_name_w(root.get(), a); });
+  if (name != k.root || attribute(root.get(), L"manager") != from_utf8(key)) return false;
+  node_ptr group(zu_xnode_get_node_w(root.get(), L"scale"));
+  std::unique_ptr<Tzu_stl_mngr, void (*)(Tzu_stl_mngr*)> fresh(zu_stl_mngr_create(key),
+                                                               &zu_stl_mngr_destroy);
+  if (!group || !fresh || !k.load(group.get(), fresh.get())) return false;
+  k.take(manager, fresh.get());
+  xml.reason.clear();
+  return true;
+}
+
+}  // namespace
+
+Tzu_xml_save_2d* zu_xml_save_2d_create() { return new (std::nothrow) Tzu_xml_save_2d; }
+void zu_xml_save_2d_destroy(Tzu_xml_save_2d* xml) { delete xml; }
+void zu_xml_save_2d_get_reason_w(const Tzu_xml_save_2d* xml, Tzu_string_adp* adapter) {
+  if (xml != nullptr) zu_string_adp_feed(adapter, xml->reason.c_str());
+}
+
+bool zu_xml_data_save_val_scale_w(Tzu_xml_save_2d* xml, const wchar_t* path,
+                                  const Tzu_stl_mngr* manager, const char* key) {
+  return guarded(xml, false, [&](auto& x) { return save(value_kind, x, path, manager, key); });
+}
+bool zu_xml_data_save_rng_scale_w(Tzu_xml_save_2d* xml, const wchar_t* path,
+                                  const Tzu_stl_mngr* manager, const char* key) {
+  return guarded(xml, false, [&](auto& x) { return save(range_kind, x, path, manager, key); });
+}
+bool zu_xml_data_load_val_scale_w(Tzu_xml_save_2d* xml, const wchar_t* path, Tzu_stl_mngr* manager,
+                                  const char* key) {
+  return guarded(xml, false, [&](auto& x) { return load(value_kind, x, path, manager, key); });
+}
+bool zu_xml_data_load_rng_scale_w(Tzu_xml_save_2d* xml, const wchar_t* path, Tzu_stl_mngr* manager,
+                                  const char* key) {
+  return guarded(xml, false, [&](auto& x) { return load(range_kind, x, path, manager, key); });
+}

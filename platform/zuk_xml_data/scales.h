@@ -1,0 +1,19 @@
+#pragma once
+// A scale of a manager, with its field, as a group.
+
+#include "zu/platform/zuk_io.h"
+#include "zu/platform/zuk_styles.h"
+
+namespace zu::platform {
+
+/// Whether a type name is that of a manager of lines.
+bool has_lines(const Tzu_stl_mngr* manager);
+
+// Into an empty group, and from a group into the scale of a new manager. False if there are too
+// many rows; the scale is then half read.
+void save_range_scale(Tzu_xnode* group, const Tzu_stl_mngr* manager);
+bool load_range_scale(Tzu_xnode* group, Tzu_stl_mngr* manager);
+void save_value_scale(Tzu_xnode* group, const Tzu_stl_mngr* manager);
+bool load_value_scale(Tzu_xnode* group, Tzu_stl_mngr* manager);
+
+}  // namespace zu::platform

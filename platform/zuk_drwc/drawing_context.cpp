@@ -61,10 +61,15 @@ pixel_box drawing_context::region() const {
   return region_ ? common(page, *region_) : page;
 }
 
-void drawing_context::begin_region() {
+pixel_box drawing_context::bled_region() const {
+  pixel_box box = region();
+  if (region_) box.x1 += bleed_, box.y1 += bleed_;
+  return box;
+}
+
+void drawing_context::begin_region(const pixel_box& box) {
   cairo_save(cairo_.get());
   if (!region_) return;
-  pixel_box box = region();
   cairo_new_path(cairo_.get());
   cairo_rectangle(cairo_.get(), static_cast<double>(box.x0), height_ - static_cast<double>(box.y1),
                   static_cast<double>(std::max<std::int64_t>(0, box.x1 - box.x0)),
@@ -74,7 +79,7 @@ void drawing_context::begin_region() {
 
 void drawing_context::draw_lines(const Tzu_ov_d2& set, const Tzu_pln_style& style) {
   if (!style.visible || !(style.width > 0) || style.color.a == 255 || region().is_empty()) return;
-  begin_region();
+  begin_region(style.color.a == 0 ? bled_region() : region());
   set_color(cairo_.get(), style.color);
   pixel_box box = region();
   const Tzu_box_d2 shown{static_cast<double>(box.x0), height_ - static_cast<double>(box.y1),
@@ -87,7 +92,7 @@ void drawing_context::draw_lines(const Tzu_ov_d2& set, const Tzu_pln_style& styl
 void drawing_context::fill_box(const Tzu_box_d2& mm, Tzu_color color) {
   Tzu_box_d2 all = page(), shown;
   if (color.a == 255 || !zu_box_d2_cross(&mm, &all, &shown)) return;
-  begin_region();
+  begin_region(region());
   set_color(cairo_.get(), color);
   cairo_new_path(cairo_.get());
   cairo_rectangle(cairo_.get(), shown.x0 * per_mm_, height_ - shown.y1 * per_mm_,
@@ -107,7 +112,7 @@ void drawing_context::draw_text(double x_mm, double y_mm, double height_mm, int 
   double y = height_ - y_mm * per_mm_ + anchor / 3 * text.capital_height() / 2;
   // Cairo counts pixels in 24 bits.
   if (std::abs(x) > far_off || std::abs(y) > far_off) return;
-  begin_region();
+  begin_region(region());
   set_color(cairo_.get(), color);
   text.draw(x, y, 0);
   inked();

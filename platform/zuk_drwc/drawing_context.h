@@ -3,6 +3,7 @@
 // draws lines and texts inside a clip and a region.
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -58,8 +59,12 @@ class drawing_context {
   /// above: viewers soften the edges of what a document holds, and a piece that reaches under the
   /// next one hides the seam. Only what is opaque may be drawn there.
   pixel_box bled_region() const;
-  /// A clip to a region for what Cairo draws now; lifted by `cairo_restore`.
-  void begin_region(const pixel_box& box);
+  struct restored {
+    void operator()(cairo_t* cairo) const { cairo_restore(cairo); }
+  };
+  using saved_state = std::unique_ptr<cairo_t, restored>;
+  /// Clips what Cairo draws while the result lives to a box, if there is a region.
+  [[nodiscard]] saved_state clipped_to(const pixel_box& box);
   virtual void inked() {}
   /// Takes note of an object inside another one (0: the page itself); what it is to be called by as
   /// the outer one of others.

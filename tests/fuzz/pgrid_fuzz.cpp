@@ -1,9 +1,11 @@
 // Any bytes as a grid file: opened as a source, and everything in it read a little.
 
-#include <sys/mman.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdint>
+#include <cstdio>
+#include <fstream>
 #include <string>
 #include <vector>
 
@@ -34,15 +36,15 @@ void read_some(pgrid_file& file) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  int file = memfd_create("pgrid", MFD_CLOEXEC);
-  if (file < 0 || write(file, data, size) != static_cast<ssize_t>(size)) return close(file), 0;
-  std::string path = "/proc/self/fd/" + std::to_string(file);
+  static const std::string path = "/dev/shm/zu_pgrid_fuzz_" + std::to_string(getpid());
+  std::ofstream(path, std::ios::binary)
+      .write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
   try {
     pgrid_file opened(path, access::read);
     read_some(opened);
   } catch (const pgrid_failure&) {
     // A refusal with a reason is what most bytes deserve.
   }
-  close(file);
+  std::remove(path.c_str());
   return 0;
 }

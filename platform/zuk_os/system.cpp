@@ -1,4 +1,5 @@
 #include <cpl_vsi.h>
+#include <sys/stat.h>
 
 #include <cstdlib>
 #include <cstring>
@@ -31,6 +32,14 @@ bool zu_os_file_exists(const wchar_t* path) {
   return zu::platform::guarded(path, false, [](const wchar_t& text) {
     VSIStatBufL attributes;
     return VSIStatExL(zu::platform::to_utf8(&text).c_str(), &attributes, VSI_STAT_EXISTS_FLAG) == 0;
+  });
+}
+
+int64_t zu_os_get_file_time(const wchar_t* path) {
+  return zu::platform::guarded(path, int64_t(0), [](const wchar_t& text) -> int64_t {
+    struct stat attributes;
+    if (stat(zu::platform::to_utf8(&text).c_str(), &attributes) != 0) return 0;
+    return int64_t(attributes.st_mtim.tv_sec) * 1'000'000'000 + attributes.st_mtim.tv_nsec;
   });
 }
 

@@ -14,6 +14,8 @@ ZU_API bool zu_os_multibyte_to_wide(uint32_t code_page, const char* text, int64_
                                     Tzu_string_adp* adapter);
 /// Whether attributes of that path can be had: there is such a file or folder, /vsi paths too.
 ZU_API bool zu_os_file_exists(const wchar_t* path);
+/// When a file was last changed, in nanoseconds since 1970; 0 if that cannot be read.
+ZU_API int64_t zu_os_get_file_time(const wchar_t* path);
 /// Offset of the texts in the language in force: 0 Russian, 50000 English.
 ZU_API int32_t zu_res_get_lng(void);
 ZU_API void zu_res_set_lng(int32_t offset);

@@ -29,5 +29,6 @@ command add_render(CLI::App& options);
 command add_info(CLI::App& options);
 command add_convert(CLI::App& options);
 command add_probe(CLI::App& options);
+command add_project(CLI::App& options);
 
 }  // namespace zu::cli

@@ -28,6 +28,7 @@ constexpr entry commands[] = {
     {"info", "say what a grid holds", &add_info},
     {"convert", "put a grid into a .pgrid file", &add_convert},
     {"probe", "say what a grid has at a point", &add_probe},
+    {"project", "keep scenes of layers in a file and draw them", &add_project},
 };
 
 std::string names() {

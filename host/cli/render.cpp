@@ -1,18 +1,14 @@
 // zugrid render: grids into a picture.
 
-#include <csignal>
-#include <cstdio>
-#include <filesystem>
 #include <memory>
-#include <system_error>
 #include <tuple>
 
 #include "host/cli/commands.h"
 #include "host/cli/option_texts.h"
+#include "host/cli/picture_file.h"
 #include "host/core/failure.h"
 #include "host/core/layer_look.h"
 #include "host/core/picture.h"
-#include "host/core/texts.h"
 
 namespace zu::cli {
 namespace {
@@ -105,18 +101,6 @@ host::picture_request request_of(const texts& given) {
   return request;
 }
 
-void check_output(const std::string& output, const std::vector<std::string>& sources) {
-  std::string ending = std::filesystem::path(output).extension().string();
-  for (char& c : ending)
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  if (ending != ".png" && ending != ".tif" && ending != ".tiff")
-    throw usage_error("-o: \"" + output + "\" must end in .png or .tif");
-  std::error_code none;
-  for (const std::string& source : sources)
-    if (std::filesystem::equivalent(output, source, none) && !none)
-      throw failure(output, "is one of the sources");
-}
-
 /// Every source takes the look that it can; one alone must.
 void dress(host::scene& scene, const host::layer_look& look) {
   host::layer_look plain;
@@ -132,34 +116,6 @@ void dress(host::scene& scene, const host::layer_look& look) {
   if (dressed == 0) throw failure(refusal);
 }
 
-/// A signal that would end the program waits until a picture is written or its half is gone.
-class undisturbed {
- public:
-  undisturbed() {
-    sigset_t signals;
-    sigemptyset(&signals);
-    for (int each : {SIGINT, SIGTERM, SIGHUP}) sigaddset(&signals, each);
-    pthread_sigmask(SIG_BLOCK, &signals, &before_);
-  }
-  ~undisturbed() { pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
-  undisturbed(const undisturbed&) = delete;
-  undisturbed& operator=(const undisturbed&) = delete;
-
- private:
-  sigset_t before_;
-};
-
-void save(const host::drawn_picture& picture, const std::string& output,
-          const std::string& projection) {
-  undisturbed whole;
-  bool saved = false;
-  std::wstring reason = host::text_of([&](Tzu_string_adp* adapter) {
-    saved = zu_drwc_save_w(picture.page.get(), host::wide_name(output).c_str(), &picture.box,
-                           host::wide(projection).c_str(), adapter);
-  });
-  if (!saved) throw failure(output, host::narrow(reason));
-}
-
 int run(const texts& given) {
   host::layer_look look = look_of(given);
   host::picture_request request = request_of(given);
@@ -172,16 +128,7 @@ int run(const texts& given) {
   if (!given.crs.empty()) scene.set_projection(given.crs);
   dress(scene, look);
   host::drawn_picture picture = host::draw(scene, request);
-  save(picture, given.output, scene.projection());
-  for (const std::string& line : picture.shortfalls)
-    std::fprintf(stderr, "zugrid: %s\n", line.c_str());
-  for (const std::string& source : picture.unplaced)
-    std::fprintf(stderr, "zugrid: warning: %s: has no projection, drawn as if it had the scene's\n",
-                 source.c_str());
-  if (picture.empty)
-    std::fprintf(stderr, "zugrid: warning: %s: nothing of the data shows in this picture\n",
-                 given.output.c_str());
-  return picture.shortfalls.empty() ? exit_success : exit_failure;
+  return write_picture(picture, given.output, scene.projection());
 }
 
 }  // namespace

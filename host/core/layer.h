@@ -46,6 +46,9 @@ class layer final : layer_2d_visitor_impl {
   /// The source, opened when it is first asked for. Throws `failure` if it will not open.
   const source& data() const;
   bool is_missing() const { return zu_lr2d_is_missing(entity_); }
+  /// Whether it is drawn, as a person wants it.
+  bool is_visible() const { return visible_; }
+  void set_visible(bool visible) { visible_ = visible; }
   std::string projection() const;
   /// In scene coordinates; nothing if it cannot be brought there.
   std::optional<Tzu_box_d2> box() const;
@@ -75,6 +78,7 @@ class layer final : layer_2d_visitor_impl {
   const bundle& services_;
   Izu_layer* entity_;
   layer_2d object_;
+  bool visible_ = true;
   mutable std::unique_ptr<source> data_;
 };
 

@@ -34,6 +34,7 @@ drawn_picture draw(const scene& shown, const picture_request& request) {
   zu_render_set_pj4wstr(render.get(), wide(shown.projection()).c_str());
   bool any_in_view = false;
   for (const auto& each : shown.layers()) {
+    if (!each->is_visible()) continue;
     if (each->is_missing()) {
       picture.shortfalls.push_back(each->source_name() + ": is missing");
       continue;

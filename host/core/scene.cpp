@@ -105,14 +105,16 @@ std::string scene::projection() const {
 Tzu_box_d2 scene::box() const {
   std::optional<Tzu_box_d2> all;
   for (const auto& each : layers_) {
-    if (each->is_missing()) continue;
+    if (each->is_missing() || !each->is_visible()) continue;
     std::optional<Tzu_box_d2> box = each->box();
     if (!box) throw failure(each->source_name(), "cannot be brought into the scene's projection");
     if (!all) all = box;
     all = Tzu_box_d2{std::min(all->x0, box->x0), std::min(all->y0, box->y0),
                      std::max(all->x1, box->x1), std::max(all->y1, box->y1)};
   }
-  if (!all) throw failure("the scene has no layers");
+  for (const auto& each : layers_)
+    if (!all && each->is_missing()) throw failure(each->source_name(), "is missing");
+  if (!all) throw failure("the scene has no layers to show");
   return *all;
 }
 

@@ -26,7 +26,7 @@ class scene {
   /// EPSG:n, PROJ text or WKT; the first layer's own until it is set.
   void set_projection(const std::string& text);
   std::string projection() const;
-  /// The box of all layers whose sources are there; throws `failure` if there is none.
+  /// The box of all visible layers whose sources are there; throws `failure` if there is none.
   Tzu_box_d2 box() const;
   Tzu_scn_2d* get() const { return scene_; }
 

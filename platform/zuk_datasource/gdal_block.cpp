@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "platform/zuk_datasource/cell_runs.h"
 #include "platform/zuk_datasource/elements.h"
 
 namespace zu::platform {
@@ -11,31 +12,6 @@ namespace {
 
 constexpr std::uint64_t most_tile_cells = std::uint64_t(1) << 22;
 constexpr std::uint64_t id_tile = 256;
-
-// A run of cells in row order is at most a part of a row, whole rows and a part of a row.
-template <class read_rows>
-std::int32_t for_rows_of_run(std::uint64_t start, std::uint64_t count, std::uint64_t columns,
-                             std::byte* out, std::size_t width, read_rows read) {
-  while (count > 0) {
-    std::uint64_t x = start % columns, y = start / columns;
-    std::uint64_t nx = std::min(count, columns - x), ny = 1;
-    if (nx == columns) ny = count / columns;
-    auto result = read(
-        grid_window{static_cast<std::int64_t>(x), static_cast<std::int64_t>(y), nx, ny, nx, ny},
-        out);
-    if (result != read_done) return result;
-    start += nx * ny, count -= nx * ny, out += nx * ny * width;
-  }
-  return read_done;
-}
-
-bool is_run(std::uint64_t start, std::uint64_t count, std::uint64_t columns, std::uint64_t rows) {
-  return start <= columns * rows && count <= columns * rows - start;
-}
-
-std::uint64_t stride_of(const std::uint64_t* strides, int index) {
-  return strides == nullptr ? 0 : strides[index];
-}
 
 }  // namespace
 

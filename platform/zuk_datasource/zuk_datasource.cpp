@@ -8,6 +8,7 @@
 #include "platform/zuk_datasource/gdal_source.h"
 #include "platform/zuk_datasource/pgrid_source.h"
 #include "platform/zuk_datasource/pgrid_writer.h"
+#include "platform/zuk_datasource/segy_source.h"
 #include "platform/zuk_file_tos4/tables.h"
 
 using namespace zu;
@@ -38,6 +39,14 @@ void open_pgrid(const std::wstring& name, bool read_only, Tzu_handle* out) {
   }
 }
 
+void open_segy(const std::wstring& name, Tzu_handle* out) {
+  try {
+    *out = handle_of<data_source_impl>(*new segy_source(name));
+  } catch (const segy_failure& reason) {
+    zu_problems_add(name.c_str(), zu_problem_open, from_utf8(reason.what()).c_str());
+  }
+}
+
 }  // namespace
 
 void zu_datasource_open(const wchar_t* name, int32_t read_only, void*, Tzu_handle* out) {
@@ -47,6 +56,7 @@ void zu_datasource_open(const wchar_t* name, int32_t read_only, void*, Tzu_handl
     std::wstring wide = &first;
     if (std::string path = to_utf8(wide); ends_as_pgrid(path) || is_pgrid(path))
       return open_pgrid(wide, read_only != 0, out);
+    if (is_segy_name(wide)) return open_segy(wide, out);
     std::string reason;
     dataset_ptr opened = dataset_pool::shared().acquire(to_utf8(wide), read_only != 0, reason);
     if (opened == nullptr) {

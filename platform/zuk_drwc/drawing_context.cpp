@@ -5,12 +5,14 @@
 
 #include "platform/zuk_drwc/cut_ring.h"
 #include "platform/zuk_drwc/stroke.h"
+#include "platform/zuk_drwc/text_line.h"
 
 namespace zu::platform {
 namespace {
 
 constexpr double mm_per_inch = 25.4;
-constexpr double hair = 1e-6;  // pixels; what rounding may have moved a side
+constexpr double far_off = 4e6;  // pixels
+constexpr double hair = 1e-6;    // pixels; what rounding may have moved a side
 
 /// Nearest whole number, half up. What misses a half by the rounding of millimetres alone counts as
 /// one: both sides of a box that lies on halves must go the same way, or it would grow by a pixel.
@@ -74,7 +76,10 @@ void drawing_context::draw_lines(const Tzu_ov_d2& set, const Tzu_pln_style& styl
   if (!style.visible || !(style.width > 0) || style.color.a == 255 || region().is_empty()) return;
   begin_region();
   set_color(cairo_.get(), style.color);
-  stroke_page page{cairo_.get(), per_mm_, width_, height_, !accurate_};
+  pixel_box box = region();
+  const Tzu_box_d2 shown{static_cast<double>(box.x0), height_ - static_cast<double>(box.y1),
+                         static_cast<double>(box.x1), height_ - static_cast<double>(box.y0)};
+  stroke_page page{cairo_.get(), per_mm_, width_, height_, !accurate_, shown, labels_};
   if (stroke(page, set, style)) inked();
   cairo_restore(cairo_.get());
 }
@@ -90,6 +95,27 @@ void drawing_context::fill_box(const Tzu_box_d2& mm, Tzu_color color) {
   cairo_fill(cairo_.get());
   inked();
   cairo_restore(cairo_.get());
+}
+
+void drawing_context::draw_text(double x_mm, double y_mm, double height_mm, int anchor,
+                                Tzu_color color, const std::string& utf8) {
+  bool sensible = std::isfinite(x_mm) && std::isfinite(y_mm) && anchor >= zu_anchor_low_left &&
+                  anchor <= zu_anchor_high_right;
+  if (!sensible || color.a == 255 || utf8.empty() || region().is_empty()) return;
+  text_line text(cairo_.get(), utf8, height_mm * per_mm_);
+  double x = x_mm * per_mm_ - anchor % 3 * text.width() / 2;
+  double y = height_ - y_mm * per_mm_ + anchor / 3 * text.capital_height() / 2;
+  // Cairo counts pixels in 24 bits.
+  if (std::abs(x) > far_off || std::abs(y) > far_off) return;
+  begin_region();
+  set_color(cairo_.get(), color);
+  text.draw(x, y, 0);
+  inked();
+  cairo_restore(cairo_.get());
+}
+
+double drawing_context::text_width(double height_mm, const std::string& utf8) const {
+  return text_line(cairo_.get(), utf8, height_mm * per_mm_).width() / per_mm_;
 }
 
 void drawing_context::set_clip(const Tzu_ov_d2* polygon) {
@@ -116,6 +142,17 @@ void drawing_context::set_clip(const Tzu_ov_d2* polygon) {
 void drawing_context::clear_clip() {
   cairo_reset_clip(cairo_.get());
   clipped_ = false;
+}
+
+void drawing_context::begin_object(const std::wstring& name) {
+  int outer = objects_.empty() ? 0 : objects_.back().noted;
+  objects_.push_back({name, note_object(outer, name)});
+}
+
+bool drawing_context::end_object(const std::wstring& name) {
+  if (objects_.empty() || objects_.back().name != name) return false;
+  objects_.pop_back();
+  return true;
 }
 
 void drawing_context::set_region(const Tzu_box_d2* millimetres) {

@@ -21,16 +21,24 @@ class drawing_context {
 
   bool is_accurate() const { return accurate_; }
   Tzu_box_d2 page() const;
+  double dots_per_mm() const { return per_mm_; }
   /// The box's sides on whole pixels; empty if nothing can be drawn.
   pixel_box pixels_of(const Tzu_box_d2& millimetres) const;
 
   virtual void fill(Tzu_color color) = 0;
   virtual void draw(const Tzu_dib_draw_record& record, const Tzu_dib& dib) = 0;
   void draw_lines(const Tzu_ov_d2& set, const Tzu_pln_style& style);
+  /// The height is that of the font; the anchor is a `Tzu_text_anchor`. Throws std::bad_alloc.
+  void draw_text(double x_mm, double y_mm, double height_mm, int anchor, Tzu_color color,
+                 const std::string& utf8);
+  double text_width(double height_mm, const std::string& utf8) const;  ///< millimetres
   void fill_box(const Tzu_box_d2& millimetres, Tzu_color color);
   void set_clip(const Tzu_ov_d2* polygon);
   void clear_clip();
   void set_region(const Tzu_box_d2* millimetres);
+  /// Objects nest: only the innermost open one can be ended, by its name; false for another name.
+  void begin_object(const std::wstring& name);
+  bool end_object(const std::wstring& name);
   /// Whether anything visible was drawn.
   virtual bool has_ink() const = 0;
   /// Straight (not premultiplied) r, g, b, opacity, the top row first. Only pictures have pixels.
@@ -49,13 +57,24 @@ class drawing_context {
   /// A clip to the region for what Cairo draws now; lifted by `cairo_restore`.
   void begin_region();
   virtual void inked() {}
+  /// Takes note of an object inside another one (0: the page itself); what it is to be called by as
+  /// the outer one of others.
+  virtual int note_object(int, const std::wstring&) { return 0; }
 
   double width_, height_;  ///< of the page in pixels
   double per_mm_;          ///< pixels a millimetre
   bool accurate_, clipped_ = false;
   std::uint64_t largest_side_;  ///< of a DIB
   std::optional<pixel_box> region_;
-  cairo_ptr cairo_;  ///< user space: pixels of the page, y downwards
+  std::vector<Tzu_box_d2> labels_;  ///< boxes of the numbers on lines, in pixels, y downwards
+  cairo_ptr cairo_;                 ///< user space: pixels of the page, y downwards
+
+ private:
+  struct open_object {
+    std::wstring name;
+    int noted;
+  };
+  std::vector<open_object> objects_;  // the innermost last
 };
 
 }  // namespace zu::platform

@@ -54,6 +54,9 @@ bool zu_drwc_is_accurate(const Tzu_drwc* drwc) {
 void zu_drwc_get_page(const Tzu_drwc* drwc, Tzu_box_d2* millimetres) {
   drawn_by(drwc, [&](drawing_context& d) { *millimetres = d.page(); });
 }
+double zu_drwc_get_dots_per_mm(const Tzu_drwc* drwc) {
+  return drwc != nullptr ? drwc->context->dots_per_mm() : 0.0;
+}
 void zu_drwc_get_dib_size(const Tzu_drwc* drwc, const Tzu_box_d2* box, uint64_t* nx, uint64_t* ny) {
   *nx = *ny = 0;
   drawn_by(drwc, [&](drawing_context& d) {
@@ -78,11 +81,28 @@ void zu_drwc_draw_pln(Tzu_drwc* drwc, const Tzu_ov_d2* lines, const Tzu_pln_styl
   if (lines == nullptr || style == nullptr) return;
   drawn_by(drwc, [&](drawing_context& d) { d.draw_lines(*lines, *style); });
 }
+void zu_drwc_draw_text_w(Tzu_drwc* drwc, double x_mm, double y_mm, double height_mm, int32_t anchor,
+                         Tzu_color color, const wchar_t* text) {
+  drawn_by(drwc, [&](drawing_context& d) {
+    d.draw_text(x_mm, y_mm, height_mm, anchor, color, zu::platform::to_utf8(text));
+  });
+}
+double zu_drwc_text_size_w(const Tzu_drwc* drwc, double height_mm, const wchar_t* text) {
+  return guarded(drwc, 0.0, [&](const Tzu_drwc& d) {
+    return d.context->text_width(height_mm, zu::platform::to_utf8(text));
+  });
+}
 void zu_drwc_fill_box(Tzu_drwc* drwc, const Tzu_box_d2* millimetres, Tzu_color color) {
   drawn_by(drwc, [&](drawing_context& d) { d.fill_box(*millimetres, color); });
 }
 void zu_drwc_set_region(Tzu_drwc* drwc, const Tzu_box_d2* millimetres) {
   drawn_by(drwc, [&](drawing_context& d) { d.set_region(millimetres); });
+}
+void zu_drwc_beg_object_w(Tzu_drwc* drwc, const wchar_t* name) {
+  drawn_by(drwc, [&](drawing_context& d) { d.begin_object(name != nullptr ? name : L""); });
+}
+void zu_drwc_end_object_w(Tzu_drwc* drwc, const wchar_t* name) {
+  drawn_by(drwc, [&](drawing_context& d) { d.end_object(name != nullptr ? name : L""); });
 }
 bool zu_drwc_has_ink(Tzu_drwc* drwc) { return drwc != nullptr && drwc->context->has_ink(); }
 

@@ -20,6 +20,7 @@ image_context::image_context(std::uint64_t nx, std::uint64_t ny, double dots_per
 }
 
 void image_context::fill(Tzu_color color) {
+  labels_.clear();
   cairo_save(cairo_.get());
   cairo_reset_clip(cairo_.get());
   cairo_set_operator(cairo_.get(), CAIRO_OPERATOR_SOURCE);

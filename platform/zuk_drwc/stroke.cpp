@@ -1,14 +1,23 @@
 #include "platform/zuk_drwc/stroke.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
+#include <cstdint>
+#include <optional>
+#include <string>
 
 #include "platform/zuk_drwc/cut_line.h"
+#include "platform/zuk_drwc/line_labels.h"
+#include "platform/zuk_drwc/text_line.h"
 
 namespace zu::platform {
 namespace {
 
 constexpr double miter_limit = 10;
+/// Vertices after which an opaque set is stroked: Cairo sorts the edges of a path, and several
+/// paths are done sooner than a long one.
+constexpr std::size_t opaque_at_once = 200;
 
 /// Dashes in pixels; empty for a solid line. A pattern Cairo would refuse is a solid line.
 std::vector<double> dashes_of(const Tzu_pln_style& style, double per_mm) {
@@ -64,6 +73,52 @@ void stroke_dashed(const stroke_page& page, const line_piece& piece,
   cairo_stroke(page.cairo);
 }
 
+/// The shortest text of a number with up to 15 digits.
+std::string number_text(double value) {
+  char text[32];
+  auto end = std::to_chars(text, text + sizeof text, value == 0 ? 0.0 : value,
+                           std::chars_format::general, 15)
+                 .ptr;
+  return {text, end};
+}
+
+/// The number of a set of lines, on them.
+class numbers {
+ public:
+  /// Nothing is numbered if the style does not ask for it or the set has no level.
+  numbers(const stroke_page& page, const Tzu_ov_d2& lines, const Tzu_pln_style& style)
+      : page_(page) {
+    double level;
+    if (!style.label || !zu_ov_d2_get_level(&lines, &level) || !std::isfinite(level)) return;
+    text_.emplace(page.cairo, number_text(level), font_size * page.per_mm);
+    request_ = {text_->width(), text_->capital_height(), spacing * page.per_mm, page.shown};
+  }
+
+  /// Parts of a piece between the numbers that it gets.
+  std::vector<line_piece> parted(const line_piece& piece) {
+    if (!text_) return {piece};
+    std::vector<line_label> places = place_labels(piece.vertices, request_, page_.labels);
+    places_.insert(places_.end(), places.begin(), places.end());
+    return without_labels(piece, places);
+  }
+  void draw() const {
+    for (const line_label& place : places_) {
+      double c = std::cos(place.angle), s = std::sin(place.angle);
+      double back = request_.width / 2, down = request_.height / 2;
+      text_->draw(place.middle.x - c * back - s * down, place.middle.y - s * back + c * down,
+                  place.angle);
+    }
+  }
+
+ private:
+  static constexpr double font_size = 2.5, spacing = 100;  // millimetres
+
+  const stroke_page& page_;
+  std::optional<text_line> text_;
+  label_request request_{};
+  std::vector<line_label> places_;
+};
+
 }  // namespace
 
 bool stroke(const stroke_page& page, const Tzu_ov_d2& lines, const Tzu_pln_style& style) {
@@ -76,8 +131,10 @@ bool stroke(const stroke_page& page, const Tzu_ov_d2& lines, const Tzu_pln_style
   double margin = width / 2 * miter_limit + 2;
   const Tzu_box_d2 near_the_page{-margin, -margin, page.width + margin, page.height + margin};
 
+  numbers level(page, lines, style);
   cairo_new_path(page.cairo);
   bool any = false;
+  std::size_t waiting = 0, at_once = style.color.a == 0 ? opaque_at_once : SIZE_MAX;
   auto& set = const_cast<Tzu_ov_d2&>(lines);  // read only; the getters give what may be edited
   std::vector<Tzu_vtx_d2> line;
   for (std::uint64_t i = 0; i < zu_ov_d2_get_size(&set); ++i) {
@@ -87,13 +144,19 @@ bool stroke(const stroke_page& page, const Tzu_ov_d2& lines, const Tzu_pln_style
     for (Tzu_vtx_d2& v : line) v = {v.x * page.per_mm, page.height - v.y * page.per_mm};
     for (const line_piece& piece : cut_line(line.data(), line.size(), near_the_page)) {
       any = true;
-      if (dashes.empty())
-        add_path(page, piece);
-      else
-        stroke_dashed(page, piece, dashes);
+      for (const line_piece& part : level.parted(piece)) {
+        if (!dashes.empty()) {
+          stroke_dashed(page, part, dashes);
+          continue;
+        }
+        add_path(page, part);
+        waiting += part.vertices.size();
+        if (waiting > at_once) cairo_stroke(page.cairo), waiting = 0;
+      }
     }
   }
   if (dashes.empty()) cairo_stroke(page.cairo);
+  level.draw();
   return any;
 }
 

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <new>
 
+#include "platform/zuk_basic/utf8.h"
 #include "platform/zuk_drwc/save_document.h"
 #include "platform/zuk_io/atomic_file.h"
 
@@ -73,6 +74,7 @@ vector_context::~vector_context() {
 }
 
 void vector_context::fill(Tzu_color color) {
+  labels_.clear();
   if (color.a == 255) return;
   cairo_save(cairo_.get());
   cairo_reset_clip(cairo_.get());
@@ -103,6 +105,15 @@ void vector_context::draw(const Tzu_dib_draw_record& record, const Tzu_dib& dib)
   cairo_paint(cairo_.get());
   cairo_restore(cairo_.get());
   inked();
+}
+
+int vector_context::note_object(int outer, const std::wstring& name) {
+  if (kind_ != document_kind::pdf || complete_) return 0;
+  auto [entry, is_new] = outline_.try_emplace({outer, name}, 0);
+  if (is_new)
+    entry->second = cairo_pdf_surface_add_outline(surface_.get(), outer, to_utf8(name).c_str(),
+                                                  "page=1", CAIRO_PDF_OUTLINE_FLAG_OPEN);
+  return entry->second;
 }
 
 void vector_context::save(const std::string& path, const Tzu_box_d2*, const std::string&) {

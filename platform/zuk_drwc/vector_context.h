@@ -1,6 +1,9 @@
 #pragma once
 // A page of a document: bitmaps become its images, lines stay lines and texts stay texts.
 
+#include <map>
+#include <utility>
+
 #include "platform/zuk_drwc/drawing_context.h"
 
 namespace zu::platform {
@@ -26,10 +29,13 @@ class vector_context : public drawing_context {
 
  private:
   void inked() override { has_ink_ = true; }
+  /// A PDF lists its objects in its outline, each once.
+  int note_object(int outer, const std::wstring& name) override;
 
   document_kind kind_;
   std::string bytes_;  ///< what Cairo has written
   surface_ptr surface_;
+  std::map<std::pair<int, std::wstring>, int> outline_;  ///< entry of an outer one and a name
   bool has_ink_ = false, complete_ = false;
   cairo_status_t failure_ = CAIRO_STATUS_SUCCESS;  ///< of a complete document
 };

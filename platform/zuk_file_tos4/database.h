@@ -58,7 +58,7 @@ enum class access {
 
 class database {
  public:
-  /// Opens a file that exists; throws `pgrid_failure`. An edit that somebody's end broke off is
+  /// Opens a regular file that exists; throws `pgrid_failure`. An edit that somebody's end broke off is
   /// undone first, whatever the mode.
   database(const std::string& path, access mode);
   ~database();

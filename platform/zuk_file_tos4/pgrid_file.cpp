@@ -64,7 +64,7 @@ void fill(std::vector<std::byte>& samples, const std::vector<std::byte>& sample)
 pgrid_file::pgrid_file(const std::string& path, access mode) {
   check_first_bytes(path);
   base_ = std::make_unique<database>(path, mode);
-  check_tables(*base_);
+  check_tables(*base_, path);
   read_all();
   plan_ = tile_plan(head_);
   prepare();

@@ -1,5 +1,7 @@
 #include "platform/zuk_file_tos4/tables.h"
 
+#include <sys/stat.h>
+
 #include <algorithm>
 #include <array>
 #include <cstring>
@@ -24,6 +26,15 @@ constexpr const char* tables[] = {
     " type INTEGER NOT NULL, role INTEGER NOT NULL, nodata BLOB, palette BLOB,"
     " minimum REAL, maximum REAL, mean REAL, stddev REAL, count INTEGER)",
     "CREATE TABLE tile (id INTEGER PRIMARY KEY, samples BLOB NOT NULL)"};
+
+enum class found { nothing, something_else, file };
+
+// A pipe that is opened would be waited for.
+found what_stands_at(const std::string& path) {
+  struct stat status;
+  if (path.empty() || stat(path.c_str(), &status) != 0) return found::nothing;
+  return S_ISREG(status.st_mode) ? found::file : found::something_else;
+}
 
 bool first_bytes(const std::string& path, std::array<unsigned char, longest_head>& out) {
   std::ifstream file(path, std::ios::binary);
@@ -55,11 +66,14 @@ double double_of(std::span<const std::byte> bytes) {
 
 bool is_pgrid(const std::string& path) {
   std::array<unsigned char, longest_head> head;
-  return first_bytes(path, head) && is_ours(head);
+  return what_stands_at(path) == found::file && first_bytes(path, head) && is_ours(head);
 }
 
 void check_first_bytes(const std::string& path) {
   std::array<unsigned char, longest_head> head;
+  found here = what_stands_at(path);
+  if (here == found::nothing) throw pgrid_failure("no such file");
+  if (here == found::something_else) throw pgrid_failure("is not a regular file");
   if (!first_bytes(path, head) || !is_ours(head)) throw pgrid_failure("is no grid file");
   // A write-ahead log would make files beside it as soon as it is looked at.
   if (head[18] != 1 || head[19] != 1) throw pgrid_failure("keeps its edits in a write-ahead log");
@@ -71,10 +85,14 @@ void make_tables(database& base) {
   for (const char* table : tables) base.run(table);
 }
 
-void check_tables(database& base) {
+void check_tables(database& base, const std::string& path) {
   std::int64_t found = base.number("PRAGMA user_version");
   if (found > version) throw pgrid_failure("was written by a newer version of the program");
   if (found < version) throw pgrid_failure("is no grid file");
+  std::int64_t bytes = base.number("PRAGMA page_count") * base.number("PRAGMA page_size");
+  struct stat status;
+  if (stat(path.c_str(), &status) != 0 || status.st_size < bytes)
+    throw pgrid_failure("is cut short");
   // Views, virtual tables and computed columns would run what the file says.
   if (base.number("SELECT count(*) FROM sqlite_schema WHERE type = 'table' AND rootpage > 0 "
                   "AND name IN ('grid', 'property', 'tile')") != 3)

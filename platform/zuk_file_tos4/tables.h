@@ -16,7 +16,7 @@ void check_first_bytes(const std::string& path);
 
 void make_tables(database& base);
 /// All of these throw `pgrid_failure` at the first thing that cannot be.
-void check_tables(database& base);
+void check_tables(database& base, const std::string& path);
 grid_head read_head(database& base);
 std::vector<grid_property> read_properties(database& base, const grid_head& head);
 

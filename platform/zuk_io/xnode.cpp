@@ -99,6 +99,11 @@ void zu_xnode_clear(Tzu_xnode* node) {
   });
 }
 
+void zu_xnode_remove(Tzu_xnode* node) {
+  guarded(node, [](Tzu_xnode& n) { n.node.parent().remove_child(n.node); });
+  zu_xnode_close(node);
+}
+
 void zu_xnode_assign(Tzu_xnode* node, const Tzu_xnode* from) {
   guarded(from, [&](const Tzu_xnode& source) {
     if (node == nullptr || node->node == source.node) return;

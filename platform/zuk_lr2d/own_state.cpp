@@ -1,5 +1,7 @@
 #include "platform/zuk_lr2d/own_state.h"
 
+#include <algorithm>
+#include <cmath>
 #include <map>
 
 #include "platform/zuk_basic/guarded.h"
@@ -41,6 +43,20 @@ bool own_state::box_of(data_source source, Tzu_box_d2& box) {
   if (!call<&data_source_impl::extent>(source, four, true)) return false;
   zu_box_d2_make_xy(&box, four[0], four[1], four[2], four[3]);
   return true;
+}
+
+void save_projection(Tzu_xnode* params, const own_state& state) {
+  zu_xnode_set_attr_wstr(params, L"proj4", state.projection.c_str());
+}
+
+void load_projection(Tzu_xnode* params, own_state& state) {
+  std::wstring text =
+      text_of([&](Tzu_string_adp* a) { zu_xnode_get_attr_wstr(params, L"proj4", a); });
+  if (!text.empty()) state.projection = text;
+}
+
+void set_opacity(double& opacity, double given) {
+  if (!std::isnan(given)) opacity = std::clamp(given, 0.0, 1.0);
 }
 
 }  // namespace zu::platform

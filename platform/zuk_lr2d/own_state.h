@@ -12,6 +12,7 @@
 #include "zu/platform/zuk_lr2d.h"
 #include "zu/platform/zuk_prg.h"
 #include "zu/platform/zuk_styles.h"
+#include "zu/platform/zuk_xml_data.h"
 
 namespace zu::platform {
 
@@ -33,6 +34,13 @@ class own_state {
   std::wstring projection;  // the source's, unless somebody has set another
   owned<zu_table_data_destroy> table{zu_table_data_create()};
 };
+
+using node_ptr = owned<zu_xnode_close>;
+// Settings of more than one kind, as attributes of the kind's own node.
+void save_projection(Tzu_xnode* params, const own_state& state);
+void load_projection(Tzu_xnode* params, own_state& state);
+/// Cut to 0..1; no number leaves it alone.
+void set_opacity(double& opacity, double given);
 
 using state_maker = std::unique_ptr<own_state> (*)();
 

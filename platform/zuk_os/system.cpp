@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <filesystem>
 
 #include "platform/zuk_basic/guarded.h"
 #include "platform/zuk_basic/utf8.h"
@@ -9,7 +10,21 @@
 
 namespace {
 
+namespace fs = std::filesystem;
+using zu::platform::from_utf8;
+using zu::platform::guarded;
+using zu::platform::to_utf8;
+
 constexpr int32_t russian = 0, english = 50000;
+
+/// Empty if the environment names none.
+fs::path user_data_folder() {
+  const char* data = std::getenv("XDG_DATA_HOME");
+  if (data != nullptr && fs::path(data).is_absolute()) return data;
+  const char* home = std::getenv("HOME");
+  if (home != nullptr && fs::path(home).is_absolute()) return fs::path(home) / ".local" / "share";
+  return {};
+}
 
 int32_t language_of_system() {
   for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
@@ -28,9 +43,21 @@ int32_t& language() {
 }  // namespace
 
 bool zu_os_file_exists(const wchar_t* path) {
-  return zu::platform::guarded(path, false, [](const wchar_t& text) {
+  return guarded(path, false, [](const wchar_t& text) {
     VSIStatBufL attributes;
-    return VSIStatExL(zu::platform::to_utf8(&text).c_str(), &attributes, VSI_STAT_EXISTS_FLAG) == 0;
+    return VSIStatExL(to_utf8(&text).c_str(), &attributes, VSI_STAT_EXISTS_FLAG) == 0;
+  });
+}
+
+bool zu_os_get_user_place_w(const wchar_t* path, bool make, Tzu_string_adp* adapter) {
+  return guarded(path, false, [&](const wchar_t& text) {
+    fs::path folder = user_data_folder();
+    fs::path file = fs::absolute(to_utf8(&text)).lexically_normal();
+    if (folder.empty() || !file.has_filename()) return false;
+    fs::path place = folder / "zugrid" / "beside" / file.relative_path();
+    if (make) fs::create_directories(place.parent_path());
+    zu_string_adp_feed(adapter, from_utf8(place.string()).c_str());
+    return true;
   });
 }
 

@@ -33,6 +33,9 @@ Tzu_drwc* zu_render_get_drwc(const Izu_render* render) {
 const Tzu_box_d2* zu_render_get_map_box_cr(const Izu_render* render) {
   return render != nullptr ? &render->map_box : nullptr;
 }
+void zu_render_set_map_box_cr(Izu_render* render, const Tzu_box_d2* map_box) {
+  if (render != nullptr && map_box != nullptr) render->map_box = *map_box;
+}
 const Tzu_matrix3x3* zu_render_get_matrix_cr2mm(const Izu_render* render) {
   return render != nullptr ? &render->cr2mm : nullptr;
 }

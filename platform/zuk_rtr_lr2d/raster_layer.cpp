@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <cmath>
 
 #include "platform/zuk_basic/guarded.h"
@@ -27,8 +26,69 @@ const layer_kind kind("rtr_lr2d", []() -> std::unique_ptr<own_state> {
   return std::make_unique<raster_state>();
 });
 
-void raster_state::save(Tzu_xnode*, void*) const {}
-void raster_state::load(Tzu_xnode*, void*) {}
+namespace key {
+constexpr wchar_t params[] = L"raster_params";
+constexpr wchar_t draw_type[] = L"draw_type";
+constexpr wchar_t opacity[] = L"opacity";
+constexpr wchar_t transp_clr[] = L"transp_clr";
+constexpr wchar_t channels[] = L"channels";
+constexpr wchar_t clip[] = L"clip";
+constexpr wchar_t ring[] = L"ring";
+constexpr wchar_t vertex[] = L"vertex";
+constexpr wchar_t x[] = L"x";
+constexpr wchar_t y[] = L"y";
+}  // namespace key
+
+void save_clip(Tzu_xnode* node, Tzu_ov_d2* polygon) {
+  node_ptr clip(zu_xnode_set_node_w(node, key::clip));
+  zu_xnode_clear(clip.get());
+  for (uint64_t i = 0; i < zu_ov_d2_get_size(polygon); ++i) {
+    node_ptr ring(zu_xnode_add_node_w(clip.get(), key::ring));
+    Tzu_pv_d2* list = zu_ov_d2_get_pv_ptr(polygon, i);
+    for (uint64_t v = 0; v < zu_pv_d2_get_size(list); ++v) {
+      node_ptr vertex(zu_xnode_add_node_w(ring.get(), key::vertex));
+      zu_xnode_set_attr_dbl_w(vertex.get(), key::x, zu_pv_d2_get_arr(list)[v].x);
+      zu_xnode_set_attr_dbl_w(vertex.get(), key::y, zu_pv_d2_get_arr(list)[v].y);
+    }
+  }
+}
+
+void load_clip(Tzu_xnode* node, Tzu_ov_d2* polygon) {
+  node_ptr clip(zu_xnode_get_node_w(node, key::clip));
+  if (clip == nullptr) return;
+  zu_ov_d2_clear(polygon);
+  node_ptr ring(zu_xnode_get_node_w(clip.get(), key::ring));
+  for (; ring != nullptr; ring.reset(zu_xnode_next_node_w(ring.get()))) {
+    Tzu_pv_d2* list = zu_ov_d2_add(polygon);
+    node_ptr vertex(zu_xnode_get_node_w(ring.get(), key::vertex));
+    for (; vertex != nullptr; vertex.reset(zu_xnode_next_node_w(vertex.get()))) {
+      Tzu_vtx_d2 at{zu_xnode_get_attr_dbl_w(vertex.get(), key::x, NAN),
+                    zu_xnode_get_attr_dbl_w(vertex.get(), key::y, NAN)};
+      if (std::isfinite(at.x) && std::isfinite(at.y)) zu_pv_d2_add_vtx(list, &at);
+    }
+  }
+}
+
+void raster_state::save(Tzu_xnode* node, void* context) const {
+  node_ptr params(zu_xnode_set_node_w(node, key::params));
+  save_projection(params.get(), *this);
+  zu_xnode_set_attr_int_w(params.get(), key::draw_type, draw_type);
+  zu_xnode_set_attr_dbl_w(params.get(), key::opacity, opacity);
+  zu_xml_data_save_color(context, node, key::transp_clr, transparent);
+  zu_xml_save_style_save_rgb_channels(context, node, key::channels, channels.get());
+  save_clip(node, clip.get());
+}
+
+void raster_state::load(Tzu_xnode* node, void* context) {
+  node_ptr params(zu_xnode_get_node_w(node, key::params));
+  load_projection(params.get(), *this);
+  draw_type =
+      static_cast<int32_t>(zu_xnode_get_attr_int_w(params.get(), key::draw_type, draw_type));
+  set_opacity(opacity, zu_xnode_get_attr_dbl_w(params.get(), key::opacity, opacity));
+  zu_xml_data_load_color(context, node, key::transp_clr, &transparent);
+  zu_xml_save_style_load_rgb_channels(context, node, key::channels, channels.get());
+  load_clip(node, clip.get());
+}
 
 raster_state* raster(const Izu_layer* layer) { return state_as<raster_state>(layer); }
 
@@ -50,8 +110,7 @@ double zu_rtr_lr2d_get_opacity(const Izu_layer* layer) {
   return state != nullptr ? state->opacity : 1.0;
 }
 void zu_rtr_lr2d_set_opacity(Izu_layer* layer, double opacity) {
-  if (std::isnan(opacity)) return;
-  guarded(raster(layer), [&](raster_state& s) { s.opacity = std::clamp(opacity, 0.0, 1.0); });
+  guarded(raster(layer), [&](raster_state& s) { set_opacity(s.opacity, opacity); });
 }
 Tzu_color zu_rtr_lr2d_get_transparent_clr(const Izu_layer* layer) {
   const raster_state* state = raster(layer);

@@ -1,8 +1,5 @@
 // Uniform grids and slices of volumes.
 
-#include <algorithm>
-#include <cmath>
-
 #include "platform/zuk_basic/guarded.h"
 #include "platform/zuk_lr2d/own_state.h"
 #include "zu/platform/zuk_tos_lr2d.h"
@@ -39,10 +36,56 @@ template <class state> std::unique_ptr<own_state> made() { return std::make_uniq
 const layer_kind grid_kind("tos_grid_lr2d", &made<grid_state>);
 const layer_kind slice_kind("tos_slice_lr2d", &made<slice_state>);
 
-void grid_state::save(Tzu_xnode*, void*) const {}
-void grid_state::load(Tzu_xnode*, void*) {}
-void slice_state::save(Tzu_xnode*, void*) const {}
-void slice_state::load(Tzu_xnode*, void*) {}
+namespace key {
+constexpr wchar_t params[] = L"grid_params";
+constexpr wchar_t draw_type[] = L"draw_type";
+constexpr wchar_t opacity[] = L"opacity";
+constexpr wchar_t interpolate[] = L"interpolate";
+constexpr wchar_t slice[] = L"slice_index";
+constexpr wchar_t styles[] = L"styles";
+constexpr wchar_t channels[] = L"channels";
+constexpr wchar_t hillshade[] = L"hillshade";
+constexpr wchar_t isoline[] = L"isoline";
+}  // namespace key
+
+void grid_state::save(Tzu_xnode* node, void* context) const {
+  node_ptr params(zu_xnode_set_node_w(node, key::params));
+  save_projection(params.get(), *this);
+  zu_xnode_set_attr_int_w(params.get(), key::draw_type, draw_type);
+  zu_xnode_set_attr_dbl_w(params.get(), key::opacity, opacity);
+  zu_xnode_set_attr_bool_w(params.get(), key::interpolate, interpolate);
+  zu_xml_save_style_save_mngr_style(context, node, key::styles,
+                                    zu_stl_mngr_get_style_type(manager.get()), manager.get());
+  zu_xml_save_style_save_rgb_channels(context, node, key::channels, channels.get());
+  zu_xml_save_style_save_hillshade_style(context, node, key::hillshade, hillshade.get());
+  zu_xml_save_style_save_isoline_style(context, node, key::isoline, isolines.get());
+}
+
+void grid_state::load(Tzu_xnode* node, void* context) {
+  node_ptr params(zu_xnode_get_node_w(node, key::params));
+  load_projection(params.get(), *this);
+  draw_type =
+      static_cast<int32_t>(zu_xnode_get_attr_int_w(params.get(), key::draw_type, draw_type));
+  set_opacity(opacity, zu_xnode_get_attr_dbl_w(params.get(), key::opacity, opacity));
+  interpolate = zu_xnode_get_attr_bool_w(params.get(), key::interpolate, interpolate);
+  zu_xml_save_style_load_mngr_style(context, node, key::styles,
+                                    zu_stl_mngr_get_style_type(manager.get()), manager.get());
+  zu_xml_save_style_load_rgb_channels(context, node, key::channels, channels.get());
+  zu_xml_save_style_load_hillshade_style(context, node, key::hillshade, hillshade.get());
+  zu_xml_save_style_load_isoline_style(context, node, key::isoline, isolines.get());
+}
+
+void slice_state::save(Tzu_xnode* node, void* context) const {
+  grid_state::save(node, context);
+  node_ptr params(zu_xnode_set_node_w(node, key::params));
+  zu_xnode_set_attr_int_w(params.get(), key::slice, slice);
+}
+
+void slice_state::load(Tzu_xnode* node, void* context) {
+  grid_state::load(node, context);
+  node_ptr params(zu_xnode_get_node_w(node, key::params));
+  slice = zu_xnode_get_attr_int_w(params.get(), key::slice, slice);
+}
 
 grid_state* grid(const Izu_layer* layer) { return state_as<grid_state>(layer); }
 slice_state* slices(const Izu_layer* layer) { return state_as<slice_state>(layer); }
@@ -84,8 +127,7 @@ double zu_tos_grid_lr2d_get_opacity(const Izu_layer* layer) {
   return state != nullptr ? state->opacity : 1.0;
 }
 void zu_tos_grid_lr2d_set_opacity(Izu_layer* layer, double opacity) {
-  if (std::isnan(opacity)) return;
-  guarded(grid(layer), [&](grid_state& s) { s.opacity = std::clamp(opacity, 0.0, 1.0); });
+  guarded(grid(layer), [&](grid_state& s) { set_opacity(s.opacity, opacity); });
 }
 int64_t zu_tos_slice_lr2d_get_zslice(const Izu_layer* layer) {
   const slice_state* state = slices(layer);

@@ -3,6 +3,7 @@
 #include <limits>
 
 #include "platform/zuk_basic/guarded.h"
+#include "platform/zuk_basic/text_of.h"
 #include "platform/zuk_lr2d/own_state.h"
 #include "zu/platform/zuk_datasource.h"
 #include "zu/platform/zuk_tos_lr2d.h"
@@ -65,8 +66,45 @@ bool profile_state::box_of(zu::data_source source, Tzu_box_d2& box) {
   return true;
 }
 
-void profile_state::save(Tzu_xnode*, void*) const {}
-void profile_state::load(Tzu_xnode*, void*) {}
+namespace key {
+constexpr wchar_t params[] = L"profile_params";
+constexpr wchar_t height[] = L"height_prp_name";
+constexpr wchar_t styles[] = L"styles";
+}  // namespace key
+
+struct affine_attribute {
+  const wchar_t* key;
+  double Tzu_affine_2d::*term;
+};
+constexpr affine_attribute affine_attributes[] = {{L"x0", &Tzu_affine_2d::x0},
+                                                  {L"y0", &Tzu_affine_2d::y0},
+                                                  {L"dx", &Tzu_affine_2d::dx},
+                                                  {L"dy", &Tzu_affine_2d::dy},
+                                                  {L"angle", &Tzu_affine_2d::angle}};
+
+void profile_state::save(Tzu_xnode* node, void* context) const {
+  node_ptr params(zu_xnode_set_node_w(node, key::params));
+  save_projection(params.get(), *this);
+  zu_xnode_set_attr_wstr(params.get(), key::height, height.c_str());
+  for (const affine_attribute& a : affine_attributes)
+    zu_xnode_set_attr_dbl_w(params.get(), a.key, affine.*a.term);
+  zu_xml_save_style_save_mngr_style(context, node, key::styles,
+                                    zu_stl_mngr_get_style_type(manager.get()), manager.get());
+}
+
+void profile_state::load(Tzu_xnode* node, void* context) {
+  node_ptr params(zu_xnode_get_node_w(node, key::params));
+  load_projection(params.get(), *this);
+  if (params != nullptr)
+    height =
+        text_of([&](Tzu_string_adp* a) { zu_xnode_get_attr_wstr(params.get(), key::height, a); });
+  for (const affine_attribute& a : affine_attributes) {
+    double term = zu_xnode_get_attr_dbl_w(params.get(), a.key, affine.*a.term);
+    if (std::isfinite(term)) affine.*a.term = term;
+  }
+  zu_xml_save_style_load_mngr_style(context, node, key::styles,
+                                    zu_stl_mngr_get_style_type(manager.get()), manager.get());
+}
 
 profile_state* profile(const Izu_layer* layer) { return state_as<profile_state>(layer); }
 

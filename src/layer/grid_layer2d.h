@@ -95,6 +95,7 @@ class grid_layer2d : public layer_2d_impl, public toolkit::with_layer2d {
 
  private:
   bool open_source(data::grid_datasource& source) const;
+  void load_old(Tzu_xnode* node);
 
   // Destroyed from the last to the first.
   std::wstring proj4_;

@@ -18,26 +18,17 @@ namespace {
 /// A turn of less than this many degrees is none.
 constexpr double least_azimuth = 1e-6;
 
-void add_vertex(Tzu_pv_d2* line, double x, double y) {
-  Tzu_vtx_d2 vertex;
-  zu_vtx_d2_init_xy(&vertex, x, y);
-  zu_pv_d2_add_vtx(line, &vertex);
-}
-
 }  // namespace
 
 profile_drawing::profile_drawing(Izu_render* render, Izu_layer* layer)
     : render_(render),
-      drwc_(zu_render_get_drwc(render)),
       layer_(layer),
       selection_(zu_lr2d_get_data_ptr(layer)),
       manager_(zu_tos_grid_1d_lr2d_get_stl_mngr_ptr(layer)),
       affine_(zu_tos_grid_lr1d_get_affine_trnsf(layer)),
       height_(
           text_of([&](Tzu_string_adp* a) { zu_tos_grid_1d_lr2d_get_height_prp_name_w(layer, a); })),
-      own_selected_style_(zu_lr_get_own_selected_style_flag(layer)),
-      unselected_(zu_ov_d2_create()),
-      selected_(zu_ov_d2_create()) {
+      own_selected_style_(zu_lr_get_own_selected_style_flag(layer)) {
   if (const Tzu_scn_2d* scene = zu_lr2d_get_scn_2d(layer))
     scene_selected_ = zu_scn_2d_get_selected_style_pln(scene);
 }
@@ -89,80 +80,37 @@ void profile_drawing::draw_by_values(data::grid_datasource& source) {
 void profile_drawing::draw_band(data::grid_datasource& source, std::int64_t band,
                                 Tzu_stl_prm* style) {
   data::owned_block block;
-  if (!reset(source, band, block)) return;
-  trace(source, block);
-  place();
-  show(unselected_.get(), zu_stl_prm_get_pln_style_ptr(style, 0));
-  bool own = own_selected_style_ || scene_selected_ == nullptr;
-  show(selected_.get(), own ? zu_stl_prm_get_pln_style_ptr(style, 1) : scene_selected_);
-}
-
-bool profile_drawing::reset(data::grid_datasource& source, std::int64_t band,
-                            data::owned_block& block) {
   std::int32_t sizes[3] = {0, 0, 0};
-  double spacing[3] = {1.0, 1.0, 1.0};
-  if (!source.sizes(sizes) || sizes[0] <= 0 || !source.get_origin(origin_) ||
+  double origin[3], spacing[3] = {1.0, 1.0, 1.0};
+  if (!source.sizes(sizes) || sizes[0] <= 0 || !source.get_origin(origin) ||
       !source.get_block(band, block))
-    return false;
+    return;
   source.get_spacing(spacing);
-  count_ = static_cast<std::uint64_t>(sizes[0]);
-  step_ = spacing[0];
-  azimuth_ = source.azimuth();
-  nodata_ = data::nodata_test::of(block.get(), element_float64);
-  zu_ov_d2_clear(unselected_.get());
-  zu_ov_d2_clear(selected_.get());
-  open_unselected_ = open_selected_ = nullptr;
-  index_ = 0;
-  previous_ = nodata_.value;
-  return true;
+  profile_curve curve(origin[0], spacing[0], data::nodata_test::of(block.get(), element_float64));
+  trace(source, block, static_cast<std::uint64_t>(sizes[0]), curve);
+  place(curve, origin, source.azimuth());
+  show(curve.unselected(), zu_stl_prm_get_pln_style_ptr(style, 0));
+  bool own = own_selected_style_ || scene_selected_ == nullptr;
+  show(curve.selected(), own ? zu_stl_prm_get_pln_style_ptr(style, 1) : scene_selected_);
 }
 
 /// Samples that cannot be read end the curve.
-void profile_drawing::trace(data::grid_datasource& source, const data::owned_block& block) {
+void profile_drawing::trace(data::grid_datasource& source, const data::owned_block& block,
+                            std::uint64_t count, profile_curve& curve) const {
   std::uint64_t tile[3] = {0, 0, 0};
   call<&grid_block_impl::tile_size>(block.get(), tile);
-  std::vector<double> samples(std::min(tile[0] * tile[1], count_));
-  while (index_ < count_) {
-    std::uint64_t length = std::min<std::uint64_t>(samples.size(), count_ - index_);
-    if (length == 0 || data::read_linear(source, block.get(), index_, length, samples.data(),
-                                         element_float64) != 1)
+  std::vector<double> samples(std::min(tile[0] * tile[1], count));
+  for (std::uint64_t start = 0; start < count; start += samples.size()) {
+    std::uint64_t length = std::min<std::uint64_t>(samples.size(), count - start);
+    if (length == 0 ||
+        data::read_linear(source, block.get(), start, length, samples.data(), element_float64) != 1)
       return;
-    for (std::uint64_t i = 0; i < length; ++i) add_sample(samples[i]);
+    for (std::uint64_t i = 0; i < length; ++i)
+      curve.add(samples[i], zu_table_data_is_selected_id(selection_, start + i));
   }
 }
 
-void profile_drawing::add_sample(double v) {
-  double x = static_cast<double>(index_) * step_ + origin_[0];
-  bool valid = nodata_.valid(v);
-  if (valid) {
-    if (open_unselected_ == nullptr) open_unselected_ = zu_ov_d2_add(unselected_.get());
-    add_vertex(open_unselected_, x, v);
-  } else {
-    open_unselected_ = nullptr;
-  }
-  add_selected(v, x, valid);
-  ++index_;
-  previous_ = v;
-}
-
-/// A selected run begins and ends half a step outside its samples, on the chord.
-void profile_drawing::add_selected(double v, double x, bool valid) {
-  bool chord = valid && nodata_.valid(previous_);
-  double middle_x = x - step_ * 0.5, middle_y = (v + previous_) * 0.5;
-  if (zu_table_data_is_selected_id(selection_, index_)) {
-    if (!valid) return;  // the run stays open over it
-    if (open_selected_ == nullptr) {
-      open_selected_ = zu_ov_d2_add(selected_.get());
-      if (chord) add_vertex(open_selected_, middle_x, middle_y);
-    }
-    add_vertex(open_selected_, x, v);
-  } else if (open_selected_ != nullptr) {
-    if (chord) add_vertex(open_selected_, middle_x, middle_y);
-    open_selected_ = nullptr;
-  }
-}
-
-void profile_drawing::place() {
+void profile_drawing::place(profile_curve& curve, const double* origin, double azimuth) const {
   Tzu_matrix3x3 matrix, step;
   zu_matrix3x3_init_single(&matrix);
   bool moved = false;
@@ -175,18 +123,15 @@ void profile_drawing::place() {
     then(step);
   }
   if (zu_render_has_affine_transform(render_)) then(*zu_render_get_affine_matrix(render_));
-  if (std::abs(azimuth_) > least_azimuth) {
-    zu_matrix3x3_init_rotate_center(&step, origin_[0], origin_[1], zu_grd2rad(azimuth_));
+  if (std::abs(azimuth) > least_azimuth) {
+    zu_matrix3x3_init_rotate_center(&step, origin[0], origin[1], zu_grd2rad(azimuth));
     then(step);
   }
-  if (!moved) return;
-  zu_ov_d2_apply_matrix3x3(unselected_.get(), &matrix);
-  zu_ov_d2_apply_matrix3x3(selected_.get(), &matrix);
+  if (moved) curve.apply(matrix);
 }
 
-void profile_drawing::show(const Tzu_ov_d2* lines, const Tzu_pln_style* style) {
-  if (zu_ov_d2_get_size(lines) == 0) return;
-  zu_render_cr_pln(render_, lines, style);
+void profile_drawing::show(const Tzu_ov_d2* lines, const Tzu_pln_style* style) const {
+  if (zu_ov_d2_get_size(lines) > 0) zu_render_cr_pln(render_, lines, style);
 }
 
 }  // namespace zu

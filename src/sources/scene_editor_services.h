@@ -33,6 +33,7 @@ class grids_editor2d_extension_service : public referent<scene_2d_editor_extensi
   tos4_coord_scene_editor_extension tos4_coord_;
   tos4_profil_scene_editor_extension tos4_profil_;
   rastr_source_filter_adder rastr_filter_;
+  tos4_grid_source_filter_adder tos4_grid_filter_;
   tos4_coord_source_filter_adder tos4_coord_filter_;
 };
 

@@ -44,6 +44,14 @@ class rastr_source_filter_adder : public source_filter {
   void add(Tzu_lr_builder* builder, const wchar_t* path) override;
 };
 
+/// One layer of the kind that the file's grid is.
+class tos4_grid_source_filter_adder : public source_filter {
+ public:
+  tos4_grid_source_filter_adder() : source_filter(210, 212, 213) {}
+  bool accepts(const wchar_t* path) override;
+  void add(Tzu_lr_builder* builder, const wchar_t* path) override;
+};
+
 class tos4_coord_source_filter_adder : public source_filter {
  public:
   tos4_coord_source_filter_adder() : source_filter(211, 212, 213) {}

@@ -8,7 +8,6 @@ namespace {
 
 constexpr std::uint32_t default_classes = 10;
 constexpr std::int32_t default_colors = 5;
-constexpr std::int32_t no_rounding = -30;
 
 /// Style parameters from the lower tail to the upper one.
 std::vector<Tzu_stl_prm*> styles_of(Tzu_rng_scale* scale) {
@@ -43,7 +42,7 @@ void set_equal_intervals(Tzu_rng_scale* scale, std::uint32_t count, double minim
 }
 
 void round_boundaries(Tzu_rng_scale* scale, std::int32_t digits) {
-  if (digits == no_rounding) return;
+  if (digits == zu_no_rounding) return;
   double to_units = std::pow(10.0, -digits), from_units = std::pow(10.0, digits);
   auto rounded = [&](double x) {
     double size = std::floor(std::abs(x) * to_units + 0.5) * from_units;
@@ -74,6 +73,8 @@ bool fill_range_scale(Tzu_rng_scale* scale, const data::open_reference& source,
   std::int64_t index = grid.find_field(field);
   if (index < 0) return false;
   set_equal_intervals(scale, default_classes, grid.field_minimum(index), grid.field_maximum(index));
+  zu_rng_scale_set_rng_type(scale, zu_range_equal);
+  round_boundaries(scale, zu_rng_scale_get_round_digits(scale));
   return spread_colors(scale, default_colors);
 }
 

@@ -21,7 +21,8 @@ void round_boundaries(Tzu_rng_scale* scale, std::int32_t digits);
 /// stay. False, and nothing changed, if there is no such array.
 bool spread_colors(Tzu_rng_scale* scale, std::int32_t array);
 
-/// Ten equal intervals between the limits of a field, from blue through white to red. False, and
+/// Ten equal intervals between the limits of a field, rounded as the scale says, from blue through
+/// white to red. False, and
 /// nothing changed, if the source does not open or has no such field.
 bool fill_range_scale(Tzu_rng_scale* scale, const data::open_reference& source,
                       const std::wstring& field);

@@ -3,6 +3,9 @@
 
 #include <string>
 
+#include "src/data/generic_datasource.h"
+#include "zu/platform/zuk_styles.h"
+
 namespace zu::style {
 
 inline constexpr wchar_t value_scale_extension[] = L"._vl";
@@ -13,5 +16,12 @@ inline constexpr wchar_t range_scale_extension[] = L"._rg";
 /// name is replaced by "_".
 std::wstring scale_file_path(const std::wstring& source, const std::wstring& field,
                              const wchar_t* extension);
+
+/// The range scale of a field for a manager: from the file beside the data, or, where that cannot
+/// be read, ten equal classes, which are then written there. A folder of data that cannot be
+/// written has its place in the user's own. False if there is neither file nor field; the scale is
+/// then as it was. The manager's mode is the caller's; its field becomes this one.
+bool set_up_range_scale(Tzu_stl_mngr* manager, const data::open_reference& source,
+                        const std::wstring& field);
 
 }  // namespace zu::style

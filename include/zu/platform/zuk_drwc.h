@@ -31,6 +31,8 @@ ZU_API void zu_drwc_destroy(Tzu_drwc* drwc);
 ZU_API void zu_drwc_fill(Tzu_drwc* drwc, Tzu_color color);
 ZU_API bool zu_drwc_is_accurate(const Tzu_drwc* drwc);
 ZU_API void zu_drwc_get_page(const Tzu_drwc* drwc, Tzu_box_d2* millimetres);
+/// Pixels of a picture, or dots of the images of a document, a millimetre; 0 for null.
+ZU_API double zu_drwc_get_dots_per_mm(const Tzu_drwc* drwc);
 /// Size in pixels of a DIB for a box. The box's sides are rounded to whole pixels of the page, a
 /// box with area has at least one pixel; zero in either side means that nothing can be drawn.
 ZU_API void zu_drwc_get_dib_size(const Tzu_drwc* drwc, const Tzu_box_d2* box, uint64_t* nx,
@@ -48,11 +50,39 @@ ZU_API void zu_drwc_set_region(Tzu_drwc* drwc, const Tzu_box_d2* millimetres);
 
 /// Draws polylines given in millimetres. An invisible style, a width that is not above 0 and a
 /// wholly transparent colour draw nothing; a vertex that is not finite breaks its line. If the set
-/// carries a level and the style asks for it, the lines bear its number where they are long and
-/// straight enough, upright, in a gap of the line.
+/// carries a level and the style asks for it, lines longer than three times its number bear
+/// it where they are straight enough, upright, in a gap of the line, about once in 100 mm; no
+/// number leaves the page or the region or covers another one.
 ZU_API void zu_drwc_draw_pln(Tzu_drwc* drwc, const Tzu_ov_d2* lines, const Tzu_pln_style* style);
+
+/// Which point of a text lies at the given place: low is the base line, high the top of its
+/// capitals.
+enum Tzu_text_anchor {
+  zu_anchor_low_left = 0,
+  zu_anchor_low_center = 1,
+  zu_anchor_low_right = 2,
+  zu_anchor_middle_left = 3,
+  zu_anchor_middle_center = 4,
+  zu_anchor_middle_right = 5,
+  zu_anchor_high_left = 6,
+  zu_anchor_high_center = 7,
+  zu_anchor_high_right = 8,
+};
+/// Draws a text in one line, in DejaVu Sans. The height, in millimetres, is that of the font; its
+/// capitals are 0.73 of it. Nothing is drawn for a height that is not above 0, an unknown anchor
+/// and a place that is not finite.
+ZU_API void zu_drwc_draw_text_w(Tzu_drwc* drwc, double x_mm, double y_mm, double height_mm,
+                                int32_t anchor, Tzu_color color, const wchar_t* text);
+/// Width of such a text in millimetres, the same in every context; 0 if it cannot be drawn.
+ZU_API double zu_drwc_text_size_w(const Tzu_drwc* drwc, double height_mm, const wchar_t* text);
 /// Fills a box over what is there; its sides are not rounded to pixels.
 ZU_API void zu_drwc_fill_box(Tzu_drwc* drwc, const Tzu_box_d2* millimetres, Tzu_color color);
+
+/// Brackets what is drawn between them as a named object; objects nest, and an end with another
+/// name than that of the innermost open one has no effect. A PDF lists its objects in its outline,
+/// each name once inside its outer object; other contexts make nothing of them.
+ZU_API void zu_drwc_beg_object_w(Tzu_drwc* drwc, const wchar_t* name);
+ZU_API void zu_drwc_end_object_w(Tzu_drwc* drwc, const wchar_t* name);
 
 /// Pixels of the picture, top row first, four bytes red, green, blue, opacity, not premultiplied,
 /// into nx * ny * 4 bytes. A document has no pixels: nothing is written.

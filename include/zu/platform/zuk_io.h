@@ -21,6 +21,8 @@ ZU_API Tzu_xnode* zu_xnode_add_node_w(Tzu_xnode* node, const wchar_t* key);
 ZU_API Tzu_xnode* zu_xnode_next_node_w(Tzu_xnode* node);
 /// Takes away all attributes and children. Other nodes handed out below it end with them.
 ZU_API void zu_xnode_clear(Tzu_xnode* node);
+/// Takes the node and all below it out of its tree, and closes it. Not for a root.
+ZU_API void zu_xnode_remove(Tzu_xnode* node);
 /// Clears `node` and gives it the attributes and children of `from`, a node of another tree or
 /// branch, as they stand.
 ZU_API void zu_xnode_assign(Tzu_xnode* node, const Tzu_xnode* from);

@@ -10,6 +10,9 @@ ZU_API Izu_render* zu_render_create(Tzu_drwc* drwc, const Tzu_box_d2* map_box);
 ZU_API void zu_render_destroy(Izu_render* render);
 ZU_API Tzu_drwc* zu_render_get_drwc(const Izu_render* render);
 ZU_API const Tzu_box_d2* zu_render_get_map_box_cr(const Izu_render* render);
+/// Limits what is drawn to another box, such as a piece of the page; the matrix stays that of the
+/// box with which the render was made.
+ZU_API void zu_render_set_map_box_cr(Izu_render* render, const Tzu_box_d2* map_box);
 /// Render coordinates to millimetres of the page.
 ZU_API const Tzu_matrix3x3* zu_render_get_matrix_cr2mm(const Izu_render* render);
 ZU_API void zu_render_get_pj4wstr(const Izu_render* render, Tzu_string_adp* adapter);

@@ -140,6 +140,9 @@ ZU_API void zu_rng_scale_set_rng_type(Tzu_rng_scale* scale, int32_t type);
 /// Boundaries are multiples of ten to this power; `zu_no_rounding` unless set.
 ZU_API int32_t zu_rng_scale_get_round_digits(const Tzu_rng_scale* scale);
 ZU_API void zu_rng_scale_set_round_digits(Tzu_rng_scale* scale, int32_t digits);
+/// A number as boundaries of so many digits are written: -digits decimals, none from 0 on; with
+/// `zu_no_rounding` "%.15lg". A point in every locale.
+ZU_API void zu_round_digits_format_number(int32_t digits, double value, Tzu_string_adp* adapter);
 /// Factor on the deviation in boundaries of that type; 1 unless set.
 ZU_API double zu_rng_scale_get_deviation_coeff(const Tzu_rng_scale* scale);
 ZU_API void zu_rng_scale_set_deviation_coeff(Tzu_rng_scale* scale, double coefficient);

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+#include <filesystem>
 #include <fstream>
 
 #include "tests/unit/platform/taken_text.h"
@@ -61,6 +63,37 @@ TEST(file_exists, is_true_of_files_and_folders) {
   EXPECT_FALSE(zu_os_file_exists((wide_folder + L"/нет.bin").c_str()));
   EXPECT_FALSE(zu_os_file_exists(L""));
   EXPECT_FALSE(zu_os_file_exists(nullptr));
+}
+
+TEST(user_place, is_the_same_path_under_the_users_data_folder) {
+  std::string folder =
+      std::filesystem::path(testing::TempDir() + "/zuk_os_data").lexically_normal();
+  std::filesystem::remove_all(folder);
+  const char* before = std::getenv("XDG_DATA_HOME");
+  std::string kept = before != nullptr ? before : "";
+  setenv("XDG_DATA_HOME", folder.c_str(), 1);
+  auto place = [](const wchar_t* path, bool make) {
+    return text_of([&](Tzu_string_adp* t) { zu_os_get_user_place_w(path, make, t); });
+  };
+  std::wstring wide_folder = std::filesystem::path(folder).wstring();
+  EXPECT_EQ(place(L"/data/./x/../a.z._rg", false), wide_folder + L"/zugrid/beside/data/a.z._rg");
+  EXPECT_EQ(place(L"/../../a", false), wide_folder + L"/zugrid/beside/a");
+  EXPECT_FALSE(std::filesystem::exists(folder));
+  place(L"/data/a.z._rg", true);
+  EXPECT_TRUE(std::filesystem::is_directory(folder + "/zugrid/beside/data"));
+  EXPECT_EQ(place(L"", true), L"");
+  EXPECT_EQ(place(nullptr, true), L"");
+
+  std::filesystem::remove_all(folder);
+  std::ofstream(folder) << "no folder";
+  EXPECT_EQ(place(L"/data/a", true), L"");
+  std::filesystem::remove(folder);
+  setenv("XDG_DATA_HOME", "no/absolute/path", 1);
+  EXPECT_NE(place(L"/data/a", false).find(L".local/share/zugrid"), std::wstring::npos);
+  if (before != nullptr)
+    setenv("XDG_DATA_HOME", kept.c_str(), 1);
+  else
+    unsetenv("XDG_DATA_HOME");
 }
 
 TEST(language, can_be_chosen) {

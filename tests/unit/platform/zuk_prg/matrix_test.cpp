@@ -116,4 +116,28 @@ TEST(box, a_turned_box_is_that_of_all_four_corners) {
   EXPECT_NEAR(box.y1, 11, 1e-12);
 }
 
+TEST(affine, is_the_identity_only_if_it_moves_nothing) {
+  Tzu_affine_2d identity{0, 0, 1, 1, 0};
+  EXPECT_TRUE(zu_affine_2d_is_identity(&identity));
+  for (const Tzu_affine_2d& other : {Tzu_affine_2d{1e-9, 0, 1, 1, 0},
+                                     {0, 1, 1, 1, 0},
+                                     {0, 0, 2, 1, 0},
+                                     {0, 0, 1, -1, 0},
+                                     {0, 0, 1, 1, 1e-9}})
+    EXPECT_FALSE(zu_affine_2d_is_identity(&other));
+}
+
+TEST(matrix3x3, turns_counter_clockwise_about_a_centre) {
+  Tzu_matrix3x3 turn;
+  zu_matrix3x3_init_rotate_center(&turn, 10, 20, zu_grd2rad(90));
+  double x = 13, y = 20;
+  zu_xy_apply_matrix3x3(&x, &y, &turn);
+  EXPECT_NEAR(x, 10, 1e-12);
+  EXPECT_NEAR(y, 23, 1e-12);
+  x = 10, y = 20;
+  zu_xy_apply_matrix3x3(&x, &y, &turn);
+  EXPECT_NEAR(x, 10, 1e-12);
+  EXPECT_NEAR(y, 20, 1e-12);
+}
+
 }  // namespace

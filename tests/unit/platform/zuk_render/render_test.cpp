@@ -81,6 +81,19 @@ TEST_F(render, draws_lines_given_in_its_own_coordinates_and_leaves_them_as_they_
   EXPECT_EQ(opacity(50, 10), 0);
 }
 
+TEST_F(render, a_piece_of_the_map_lies_where_it_lies_in_the_whole) {
+  const Tzu_box_d2 piece{1100, 2000, 1150, 2050};
+  zu_render_set_map_box_cr(render_, &piece);
+  EXPECT_EQ(zu_render_get_map_box_cr(render_)->x0, 1100);
+  double x = 1100, y = 2050;
+  zu_xy_apply_matrix3x3(&x, &y, zu_render_get_matrix_cr2mm(render_));
+  EXPECT_NEAR(x, 50, 1e-9);
+  EXPECT_NEAR(y, 25, 1e-9);
+  zu_render_set_map_box_cr(render_, nullptr);
+  zu_render_set_map_box_cr(nullptr, &piece);
+  EXPECT_EQ(zu_render_get_map_box_cr(render_)->x0, 1100);
+}
+
 TEST_F(render, keeps_the_plane) {
   EXPECT_EQ(zu_render_get_plane(render_), 0);
   zu_render_set_plane(render_, 3);

@@ -109,4 +109,20 @@ TEST(value_scale, gives_back_its_texts) {
   zu_stl_mngr_destroy(manager);
 }
 
+TEST(value_scale, finds_the_first_row_of_an_exact_text) {
+  Tzu_stl_mngr* manager = zu_clr_stl_mngr_create();
+  Tzu_val_scale* scale = zu_stl_mngr_get_val_scale_ptr(manager);
+  zu_val_scale_set_size(scale, 3);
+  for (std::uint64_t i : {1, 2}) zu_val_scale_set_text_w(scale, i, L"Vp");
+  std::uint64_t index = 77;
+  EXPECT_FALSE(zu_val_scale_find_item_no_w(scale, L"vp", &index));
+  EXPECT_FALSE(zu_val_scale_find_item_no_w(scale, L"Vp ", &index));
+  EXPECT_FALSE(zu_val_scale_find_item_no_w(scale, nullptr, &index));
+  EXPECT_FALSE(zu_val_scale_find_item_no_w(nullptr, L"Vp", &index));
+  EXPECT_EQ(index, 77u);
+  EXPECT_TRUE(zu_val_scale_find_item_no_w(scale, L"Vp", &index));
+  EXPECT_EQ(index, 1u);
+  zu_stl_mngr_destroy(manager);
+}
+
 }  // namespace

@@ -221,4 +221,66 @@ TEST(draw_grid, a_clip_polygon_bounds_the_drawing) {
   EXPECT_EQ(b.pixel(2, 1, 4, 4), (rgba{0, 0, 0, 0}));
 }
 
+/// A grid of 20 by 20 cells that rises by 10 a cell to the east, with isolines and shade in use.
+std::wstring slope(const std::string& name) {
+  made_grid file(name, 20, 20, GDT_Float32, 1);
+  file.projection("EPSG:32637");
+  file.transform({500000, 10, 0, 6000200, 0, -10});
+  std::vector<double> values;
+  for (int i = 0; i < 400; ++i) values.push_back(i % 20 * 10);
+  file.values(1, values);
+  return file.close();
+}
+void use_isolines(grid_layer2d& layer) {
+  zu_isoline_style_set_use(layer.get_isoline_style(), true);
+  zu_isoline_style_set_propname(layer.get_isoline_style(), L"Band 1");
+}
+
+TEST(draw_grid, isolines_lie_above_the_raster) {
+  scene_bench b(slope("above.tif"));
+  use_isolines(*b.layer);
+  b.open_page(40, 40, {500000, 6000000, 500200, 6000200});
+  EXPECT_EQ(b.draw(), 1u);
+  // Level 100 at the middle of cell 10, pixel 21; nodes stand at pixels 20 and 25.
+  EXPECT_EQ(b.pixel(5, 20, 40, 40), (rgba{10, 20, 30, 255}));
+  EXPECT_LT(b.pixel(21, 20, 40, 40)[0], 8);
+}
+
+TEST(draw_grid, isolines_are_drawn_though_the_raster_of_the_tile_failed) {
+  scene_bench b(slope("failed.tif"));
+  use_isolines(*b.layer);
+  zu_stl_mngr_set_mode(b.layer->get_style_manager(), zu_style_range);
+  zu_stl_mngr_set_rng_prop_name_w(b.layer->get_style_manager(), L"missing");
+  b.open_page(40, 40, {500000, 6000000, 500200, 6000200});
+  b.draw();
+  EXPECT_EQ(b.pixel(5, 20, 40, 40)[3], 0);
+  EXPECT_GT(b.pixel(21, 20, 40, 40)[3], 0);
+}
+
+TEST(draw_grid, the_selection_alone_has_no_isolines) {
+  scene_bench b(slope("alone.tif"));
+  grid_render_params params;
+  params.isoline_style = b.layer->get_isoline_style();
+  use_isolines(*b.layer);
+  b.open_page(40, 40, {500000, 6000000, 500200, 6000200});
+  draw_layer(b.render.get(), b.entity.get(), nullptr, params, true);
+  EXPECT_FALSE(zu_drwc_has_ink(b.page.get()));
+  draw_layer(b.render.get(), b.entity.get(), nullptr, params, false);
+  EXPECT_TRUE(zu_drwc_has_ink(b.page.get()));
+}
+
+TEST(draw_grid, each_tile_of_a_shaded_page_clears_its_first_row_and_column) {
+  scene_bench b(slope("tiles.tif"));
+  zu_hillshade_style_set_use(b.layer->get_hillshade_style(), true);
+  zu_hillshade_style_set_propname(b.layer->get_hillshade_style(), L"Band 1");
+  // Inside the middles of the outer cells, so that every node has a value. Rows of pixels run from
+  // the top here.
+  b.open_page(5000, 20, {500020, 6000100, 500170, 6000100.6}, true);
+  EXPECT_EQ(b.draw(), 2u);
+  for (std::uint64_t x : {0, 2500}) EXPECT_EQ(b.pixel(x, 9, 5000, 20)[3], 0) << x;
+  for (std::uint64_t x : {1, 2499, 2501, 4999}) EXPECT_EQ(b.pixel(x, 9, 5000, 20)[3], 255) << x;
+  EXPECT_EQ(b.pixel(100, 19, 5000, 20)[3], 0);
+  EXPECT_EQ(b.pixel(100, 18, 5000, 20)[3], 255);
+}
+
 }  // namespace

@@ -73,7 +73,8 @@ TEST(scene_editor_services, of_other_files_has_its_extensions_and_filters_in_ord
   grids_editor2d_extension_service service;
   EXPECT_EQ(types_of(service), (texts{L"rtr_lr2d", L"tos_grid_lr2d", L"tos_slice_lr2d",
                                       L"tos_2crd_lr2d", L"tos_grid_lr1d"}));
-  EXPECT_EQ(filters_of(service), (texts{L"Raster Files", L"OAT XY Coordinates"}));
+  EXPECT_EQ(filters_of(service),
+            (texts{L"Raster Files", L"OAT Uniform Grid", L"OAT XY Coordinates"}));
 }
 
 TEST(scene_editor_services, show_each_kind_of_layer_by_a_shared_picture) {

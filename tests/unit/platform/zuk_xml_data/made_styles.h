@@ -1,0 +1,146 @@
+#pragma once
+// Styles with settings from a seeded generator, and the text that a group writes of them.
+
+#include <cmath>
+#include <memory>
+#include <random>
+#include <string>
+
+#include "platform/zuk_xml_data/nodes.h"
+#include "tests/unit/platform/taken_text.h"
+#include "zu/platform/zuk_xml_data.h"
+
+namespace tests {
+
+template <auto destroy> struct destroyed_by {
+  template <class object> void operator()(object* o) const { destroy(o); }
+};
+using manager_ptr = std::unique_ptr<Tzu_stl_mngr, destroyed_by<zu_stl_mngr_destroy>>;
+using hillshade_ptr =
+    std::unique_ptr<Tzu_hillshade_style, destroyed_by<zu_hillshade_style_destroy>>;
+using isoline_ptr = std::unique_ptr<Tzu_isoline_style, destroyed_by<zu_isoline_style_destroy>>;
+using zu::platform::node_ptr;
+
+class style_maker {
+ public:
+  explicit style_maker(unsigned seed) : random_(seed) {}
+
+  int below(int end) { return static_cast<int>(random_() % static_cast<unsigned>(end)); }
+  bool flag() { return below(2) == 1; }
+  double number() {
+    static constexpr double odd[] = {0, -0.0, 5e-324, -1e308, HUGE_VAL, -HUGE_VAL, NAN};
+    if (below(8) == 0) return odd[below(7)];
+    return std::ldexp(static_cast<double>(random_()) - 2147483648.0, below(200) - 100);
+  }
+  double length() { return below(100000) / 1024.0; }
+  std::wstring text() {
+    static constexpr wchar_t letters[] = L"aZ09 _x<>&\"'\t\n\x01йЖ\u4E2D\U0001F30D";
+    std::wstring made;
+    for (int i = below(12); i > 0; --i) made += letters[below(std::size(letters) - 1)];
+    return made;
+  }
+  Tzu_color color() {
+    auto byte = [&] { return static_cast<std::uint8_t>(below(256)); };
+    return {byte(), byte(), byte(), byte()};
+  }
+  Tzu_pln_style line() {
+    Tzu_pln_style made;
+    zu_pln_style_init(&made);
+    made.width = length();
+    made.dash_count = below(zu_line_dashes + 1);
+    for (int i = 0; i < made.dash_count; ++i) made.dashes[i] = length();
+    made.cap = below(3), made.join = below(3);
+    made.color = color();
+    made.visible = flag(), made.label = flag();
+    return made;
+  }
+  void fill(Tzu_stl_prm* style) {
+    for (int i = 0; i < 2; ++i) style->colors[i] = color(), style->lines[i] = line();
+  }
+  void fill(Tzu_scale_prm* row) {
+    row->visible = flag();
+    fill(&row->style);
+  }
+  manager_ptr manager(const char* type) {
+    manager_ptr made(zu_stl_mngr_create(type));
+    zu_stl_mngr_set_mode(made.get(), below(4));
+    fill(zu_stl_mngr_get_simple_sp_ptr(made.get()));
+    zu_stl_mngr_set_val_prop_name_w(made.get(), text().c_str());
+    zu_stl_mngr_set_rng_prop_name_w(made.get(), text().c_str());
+    fill(zu_stl_mngr_get_val_scale_ptr(made.get()));
+    fill(zu_stl_mngr_get_rng_scale_ptr(made.get()));
+    return made;
+  }
+  hillshade_ptr hillshade() {
+    hillshade_ptr made(zu_hillshade_style_create());
+    zu_hillshade_style_set_use(made.get(), flag());
+    zu_hillshade_style_set_propname(made.get(), text().c_str());
+    zu_hillshade_style_set_z_coeff(made.get(), number());
+    zu_hillshade_style_set_sun_slope_degree(made.get(), number());
+    zu_hillshade_style_set_sun_aspect_degree(made.get(), number());
+    zu_hillshade_style_set_multidir(made.get(), flag());
+    zu_hillshade_style_set_part(made.get(), number());
+    return made;
+  }
+  isoline_ptr isolines() {
+    isoline_ptr made(zu_isoline_style_create());
+    zu_isoline_style_set_use(made.get(), flag());
+    zu_isoline_style_set_propname(made.get(), text().c_str());
+    zu_isoline_style_set_thin_step(made.get(), number());
+    zu_isoline_style_set_bold_step(made.get(), number());
+    Tzu_pln_style thin = line(), bold = line();
+    zu_isoline_style_set_thin_style(made.get(), &thin);
+    zu_isoline_style_set_bold_style(made.get(), &bold);
+    return made;
+  }
+
+ private:
+  void fill(Tzu_val_scale* scale) {
+    zu_val_scale_set_size(scale, static_cast<std::uint64_t>(below(6)));
+    for (std::uint64_t i = 0; i < zu_val_scale_get_size(scale); ++i) {
+      zu_val_scale_set_text_w(scale, i, text().c_str());
+      zu_val_scale_set_caption_w(scale, i, text().c_str());
+      fill(zu_val_scale_get_scale_prm_ptr(scale, i));
+    }
+    zu_val_scale_set_other_caption_w(scale, text().c_str());
+    fill(zu_val_scale_get_other_prm_ptr(scale));
+  }
+  void fill(Tzu_rng_scale* scale) {
+    zu_rng_scale_set_size(scale, static_cast<std::uint64_t>(below(6)));
+    for (std::uint64_t i = 0; i < zu_rng_scale_get_size(scale); ++i) {
+      zu_rng_scale_set_min(scale, i, number());
+      zu_rng_scale_set_max(scale, i, number());
+      zu_rng_scale_set_caption_w(scale, i, text().c_str());
+      fill(zu_rng_scale_get_scale_prm_ptr(scale, i));
+    }
+    zu_rng_scale_set_min_value(scale, number());
+    zu_rng_scale_set_max_value(scale, number());
+    zu_rng_scale_set_min_caption_w(scale, text().c_str());
+    zu_rng_scale_set_max_caption_w(scale, text().c_str());
+    zu_rng_scale_set_other_caption_w(scale, text().c_str());
+    zu_rng_scale_set_rng_type(scale, below(7));
+    zu_rng_scale_set_round_digits(scale, below(41) - 30);
+    zu_rng_scale_set_deviation_coeff(scale, number());
+    fill(zu_rng_scale_get_min_prm_ptr(scale));
+    fill(zu_rng_scale_get_max_prm_ptr(scale));
+    fill(zu_rng_scale_get_other_prm_ptr(scale));
+  }
+
+  std::mt19937 random_;
+};
+
+/// The whole text of a tree in which `save` has written under the root.
+template <class function> std::wstring written_by(function&& save) {
+  node_ptr root(zu_xnode_create_root_w(L"r"));
+  save(root.get());
+  return text_of([&](Tzu_string_adp* a) { zu_xnode_get_text(root.get(), a); });
+}
+
+/// A tree as a file gives it: written as text and read.
+template <class function> node_ptr read_back(function&& save) {
+  std::wstring wide = written_by(save);
+  std::string bytes(wide.begin(), wide.end());
+  return node_ptr(zu_xnode_read(bytes.data(), bytes.size(), nullptr));
+}
+
+}  // namespace tests

@@ -49,11 +49,6 @@ std::uint8_t byte(double value) { return static_cast<std::uint8_t>(std::floor(va
 
 }  // namespace
 
-uint32_t zu_clr_init_rgba(uint8_t r, uint8_t g, uint8_t b, uint8_t a) {
-  return static_cast<uint32_t>(r) | static_cast<uint32_t>(g) << 8 | static_cast<uint32_t>(b) << 16 |
-         static_cast<uint32_t>(a) << 24;
-}
-
 bool zu_clr_arrays_generate_ex(int32_t id, uint64_t count, Tzu_color* colors, int32_t flag) {
   std::span<const rgb> stops = stops_of(id);
   if (stops.empty() || colors == nullptr) return false;
@@ -64,3 +59,6 @@ bool zu_clr_arrays_generate_ex(int32_t id, uint64_t count, Tzu_color* colors, in
   }
   return true;
 }
+
+// Keeps the library's own copy of what the header defines.
+[[gnu::used]] static const auto exported_pack = &zu_clr_init_rgba;

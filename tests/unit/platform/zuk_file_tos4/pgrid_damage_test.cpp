@@ -7,6 +7,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <cstring>
 #include <fstream>
 #include <iterator>
 #include <random>
@@ -263,6 +265,12 @@ TEST(pgrid_file, killed_in_the_middle_of_an_edit_it_is_in_a_whole_state) {
     EXPECT_TRUE(value == committed || value == committed + 1) << value << " after " << committed;
   }
   EXPECT_GT(broken_off, 0) << "no edit was hit in its middle";
+  // A journal that was begun and holds nothing yet stays until the next edit.
+  {
+    pgrid_file file(path, access::edit);
+    std::vector<std::int32_t> cells(nx * ny, 1);
+    file.write_run(0, 0, nx * ny, reinterpret_cast<const std::byte*>(cells.data()));
+  }
   EXPECT_EQ(f.names(), std::vector<std::string>{"a.pgrid"});
 }
 

@@ -14,6 +14,8 @@ ZU_API bool zu_os_multibyte_to_wide(uint32_t code_page, const char* text, int64_
                                     Tzu_string_adp* adapter);
 /// Whether attributes of that path can be had: there is such a file or folder, /vsi paths too.
 ZU_API bool zu_os_file_exists(const wchar_t* path);
+/// When a file was last changed, in nanoseconds since 1970; 0 if that cannot be read.
+ZU_API int64_t zu_os_get_file_time(const wchar_t* path);
 /// Where a file of this program goes that cannot be written beside the data: the same path under
 /// the user's data folder ("~/.local/share/zugrid/beside/data/a.z._rg" for "/data/a.z._rg"). `make`
 /// makes its folder. False, and no call, if the user has no such folder or it cannot be made.

@@ -45,12 +45,27 @@ def value_colour(v):
     return "#%02x%02x%02x" % (v * 6 % 256, 255 - v * 5, v * 97 % 256)
 
 
+def qgis_project(q, folder):
+    """A project of the grids in a folder, made and then read again and again."""
+    import glob
+    project, file = q.QgsProject.instance(), folder + "/p.qgs"
+    project.addMapLayers([q.QgsRasterLayer(path, path, "gdal") for path in sorted(glob.glob(folder + "/*.tif"))])
+    project.write(file)
+
+    def read():
+        project.clear()
+        assert project.read(file) and len(project.mapLayers()) == 200
+    return timed(read, 5)
+
+
 def qgis(path, kind, box, crs, fresh, breaks):
     from qgis import core as q
     from qgis.PyQt.QtCore import QSize
     from qgis.PyQt.QtGui import QColor
     application = q.QgsApplication([], False)
     application.initQgis()
+    if kind == "project":
+        return qgis_project(q, path)
 
     def layer():
         options = q.QgsRasterLayer.LayerOptions()

@@ -33,8 +33,11 @@ if(ZU_SANITIZE)
   target_compile_options(zu_house INTERFACE -fsanitize=address,undefined -fno-omit-frame-pointer
                                             -fno-sanitize-recover=undefined)
   # GCC 12 takes members of std::function for uninitialized once they are watched.
-  target_compile_options(zu_house INTERFACE -Wno-maybe-uninitialized)
+  target_compile_options(zu_house INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
   target_link_options(zu_house INTERFACE -fsanitize=address,undefined)
+endif()
+if(ZU_FUZZ)
+  target_compile_options(zu_house INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
 # Sources below a folder; new files are found by themselves.

@@ -120,7 +120,6 @@ int convert(const texts& given) {
 
 command add_convert(CLI::App& options) {
   auto given = std::make_shared<texts>();
-  given->volume_name = "Value";
   options.add_option("SOURCE", given->source, "grid to read")->required()->check(filled);
   options.add_option("OUTPUT", given->output, "the .pgrid file; an older one is replaced")
       ->required()

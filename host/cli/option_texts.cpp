@@ -46,9 +46,10 @@ bool are_settings(const std::string& option, const std::string& text) {
   std::string key = text.substr(0, text.find_first_of("=,"));
   static const std::map<std::string, std::vector<std::string>> keys = {
       {"--hillshade", {"z", "altitude", "azimuth", "part", "field", "multidirectional"}},
-      {"--isolines", {"thin", "bold", "field", "label"}}};
+      {"--isolines", {"thin", "bold", "field", "label"}},
+      {"--legend", {"only", "top-right", "top-left", "bottom-left", "bottom-right"}}};
   const std::vector<std::string>& known = keys.at(option);
-  bool mark = key == "multidirectional" || key == "label";
+  bool mark = key == "multidirectional" || key == "label" || option == "--legend";
   return text == as_it_comes || (std::find(known.begin(), known.end(), key) != known.end() &&
                                  (mark || text.find('=') != std::string::npos));
 }
@@ -189,7 +190,7 @@ std::vector<std::string> with_settings(const std::vector<std::string>& arguments
     const std::string& each = arguments[i];
     std::string next = i + 1 < arguments.size() ? arguments[i + 1] : "";
     options = options && each != "--";
-    bool overlay = options && (each == "--hillshade" || each == "--isolines");
+    bool overlay = options && (each == "--hillshade" || each == "--isolines" || each == "--legend");
     all.push_back(overlay && !are_settings(each, next) ? each + "=" + as_it_comes : each);
   }
   return all;

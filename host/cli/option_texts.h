@@ -36,8 +36,8 @@ std::vector<std::pair<std::string, Tzu_color>> values_of(const std::string& opti
 void check_projection(const std::string& option, const std::string& text);
 /// What stands for an overlay's settings where none are given.
 inline constexpr char as_it_comes[] = "default";
-/// The command line with `as_it_comes` given to each --hillshade and --isolines that is followed by
-/// no settings, so that a source may stand behind it.
+/// The command line with `as_it_comes` given to each --hillshade, --isolines and --legend that is
+/// followed by no settings, so that a source may stand behind it.
 std::vector<std::string> with_settings(const std::vector<std::string>& arguments);
 /// z=…,altitude=…,azimuth=…,part=…,field=…,multidirectional; or `as_it_comes`.
 host::hillshade_look hillshade_of(const std::string& option, const std::string& text);

@@ -19,8 +19,9 @@ void save(const host::drawn_picture& picture, const std::string& output,
   undisturbed whole;
   bool saved = false;
   std::wstring reason = host::text_of([&](Tzu_string_adp* adapter) {
-    saved = zu_drwc_save_w(picture.page.get(), host::wide_name(output).c_str(), &picture.box,
-                           host::wide(projection).c_str(), adapter);
+    saved = zu_drwc_save_w(picture.page.get(), host::wide_name(output).c_str(),
+                           picture.box ? &*picture.box : nullptr, host::wide(projection).c_str(),
+                           adapter);
   });
   if (!saved) throw failure(output, host::narrow(reason));
 }
@@ -35,12 +36,19 @@ undisturbed::undisturbed() {
 }
 undisturbed::~undisturbed() { pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
 
-void check_output(const std::string& output, const std::vector<std::string>& sources) {
-  std::string ending = std::filesystem::path(output).extension().string();
+std::string ending_of(const std::string& path) {
+  std::string ending = std::filesystem::path(path).extension().string();
   for (char& c : ending)
     if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  if (ending != ".png" && ending != ".tif" && ending != ".tiff")
-    throw usage_error("-o: \"" + output + "\" must end in .png or .tif");
+  return ending;
+}
+
+void check_output(const std::string& output, const std::vector<std::string>& sources) {
+  std::string ending = ending_of(output);
+  bool known = false;
+  for (const char* each : {".png", ".tif", ".tiff", ".pdf", ".svg"})
+    known = known || ending == each;
+  if (!known) throw usage_error("-o: \"" + output + "\" must end in .png, .tif, .pdf or .svg");
   std::error_code none;
   for (const std::string& source : sources)
     if (std::filesystem::equivalent(output, source, none) && !none)

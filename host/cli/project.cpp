@@ -5,11 +5,10 @@
 #include <filesystem>
 #include <memory>
 #include <nlohmann/json.hpp>
-#include <optional>
-#include <tuple>
 
 #include "host/cli/commands.h"
 #include "host/cli/option_texts.h"
+#include "host/cli/page_options.h"
 #include "host/cli/picture_file.h"
 #include "host/core/failure.h"
 #include "host/core/layer_look.h"
@@ -30,7 +29,8 @@ Data beside the project or below its folder are found again when all is moved to
 file is missing stay in the project.)";
 
 struct texts {
-  std::string project, crs, scene, layer, output, size, extent, background;
+  std::string project, crs, scene, layer;
+  page_texts page;
   std::vector<std::string> sources;
   bool as_json = false;
 };
@@ -137,22 +137,19 @@ int info(const texts& given) {
 }
 
 int render(const texts& given) {
-  host::picture_request request;
-  if (!given.size.empty()) std::tie(request.nx, request.ny) = size_of("--size", given.size);
-  if (!given.extent.empty()) request.extent = box_of("--extent", given.extent);
-  if (!given.background.empty()) request.background = color_of("--background", given.background);
+  page_request request = request_of(given.page);
   host::bundle services;
   host::project project(services, given.project);
   host::project_scene& scene = scene_of(project, given);
   std::vector<std::string> sources{given.project};
   for (const host::project_layer& layer : scene.layers) sources.push_back(layer.source());
-  check_output(given.output, sources);
-  host::drawn_picture picture = host::draw(*scene.content, request);
+  check_output(given.page.output, sources);
+  host::drawn_picture picture = draw(*scene.content, request);
   for (const host::project_layer& layer : scene.layers)
     if (layer.shown == nullptr)
       picture.shortfalls.push_back(layer.source() + ": there are no layers of type " +
                                    layer.type());
-  return write_picture(picture, given.output, scene.content->projection());
+  return write_picture(picture, given.page.output, scene.content->projection());
 }
 
 /// Reads the settings of one of the commands below and runs it.
@@ -169,19 +166,7 @@ void add_scene(CLI::App& options, texts& given) {
 }
 
 void add_render_options(CLI::App& options, texts& given) {
-  options.add_option("-o,--output", given.output, "picture to write: .png or .tif")
-      ->required()
-      ->type_name("FILE");
-  options.add_option("--size", given.size, "pixels of the picture, WxH (1024x768)")
-      ->type_name("WxH");
-  options
-      .add_option("--extent", given.extent,
-                  "visible box x0,y0,x1,y1 in scene coordinates (all visible layers)")
-      ->type_name("X0,Y0,X1,Y1");
-  options
-      .add_option("--background", given.background,
-                  "colour of the page (none: the picture keeps its transparency)")
-      ->type_name("COLOR");
+  add_page_options(options, given.page);
   add_scene(options, given);
 }
 

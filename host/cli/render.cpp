@@ -5,6 +5,7 @@
 
 #include "host/cli/commands.h"
 #include "host/cli/option_texts.h"
+#include "host/cli/page_options.h"
 #include "host/cli/picture_file.h"
 #include "host/core/failure.h"
 #include "host/core/layer_look.h"
@@ -29,8 +30,9 @@ still written where only a part of a file is damaged), 2 bad usage.)";
 /// The options as they are written.
 struct texts {
   std::vector<std::string> sources;
-  std::string output, size, extent, crs, draw, field, rgb, limits, breaks, colors, other, values,
-      simple, background, hillshade, isolines;
+  page_texts page;
+  std::string crs, draw, field, rgb, limits, breaks, colors, other, values, simple, hillshade,
+      isolines;
   std::optional<std::int64_t> slice;
   bool interpolate = false;
   int transparency = 0;
@@ -93,14 +95,6 @@ host::layer_look look_of(const texts& given) {
   return look;
 }
 
-host::picture_request request_of(const texts& given) {
-  host::picture_request request;
-  if (!given.size.empty()) std::tie(request.nx, request.ny) = size_of("--size", given.size);
-  if (!given.extent.empty()) request.extent = box_of("--extent", given.extent);
-  if (!given.background.empty()) request.background = color_of("--background", given.background);
-  return request;
-}
-
 /// Every source takes the look that it can; one alone must.
 void dress(host::scene& scene, const host::layer_look& look) {
   host::layer_look plain;
@@ -118,17 +112,17 @@ void dress(host::scene& scene, const host::layer_look& look) {
 
 int run(const texts& given) {
   host::layer_look look = look_of(given);
-  host::picture_request request = request_of(given);
+  page_request request = request_of(given.page);
   if (!given.crs.empty()) check_projection("--crs", given.crs);
-  check_output(given.output, given.sources);
+  check_output(given.page.output, given.sources);
 
   host::bundle services;
   host::scene scene(services);
   for (const std::string& source : given.sources) scene.add(source);
   if (!given.crs.empty()) scene.set_projection(given.crs);
   dress(scene, look);
-  host::drawn_picture picture = host::draw(scene, request);
-  return write_picture(picture, given.output, scene.projection());
+  host::drawn_picture picture = draw(scene, request);
+  return write_picture(picture, given.page.output, scene.projection());
 }
 
 }  // namespace
@@ -136,16 +130,7 @@ int run(const texts& given) {
 command add_render(CLI::App& options) {
   auto given = std::make_shared<texts>();
   options.add_option("SOURCE", given->sources, "grids, the first is the lowest")->required();
-  options.add_option("-o,--output", given->output, "picture to write: .png or .tif")
-      ->required()
-      ->type_name("FILE");
-  options.add_option("--size", given->size, "pixels of the picture, WxH (1024x768)")
-      ->type_name("WxH");
-  options
-      .add_option("--extent", given->extent,
-                  "visible box x0,y0,x1,y1 in scene coordinates (all layers); widened to the "
-                  "picture's shape")
-      ->type_name("X0,Y0,X1,Y1");
+  add_page_options(options, given->page);
   options
       .add_option("--crs", given->crs,
                   "projection of the scene: EPSG:n, PROJ text or WKT (the first layer's)")
@@ -189,10 +174,6 @@ command add_render(CLI::App& options) {
                   "lines of equal value: thin=10,bold=50,field=NAME,label")
       ->type_name("[SETTINGS]");
   options.add_option("--slice", given->slice, "a slice of a volume, from 0")->type_name("N");
-  options
-      .add_option("--background", given->background,
-                  "colour of the page (none: the picture keeps its transparency)")
-      ->type_name("COLOR");
   for (CLI::Option* each : options.get_options())
     if (each->get_type_size() > 0) each->check(filled);
   options.footer(footer);

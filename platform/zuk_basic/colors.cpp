@@ -21,11 +21,21 @@ constexpr rgb blue_white_red[] = {{0, 0, 255}, white, {255, 0, 0}};
 constexpr rgb red_white_blue[] = {{255, 0, 0}, white, {0, 0, 255}};
 constexpr rgb green_white_brown[] = {{0, 128, 0}, white, {139, 69, 19}};
 constexpr rgb rainbow[] = {{0, 0, 255}, {0, 255, 255}, {0, 255, 0}, {255, 255, 0}, {255, 0, 0}};
+constexpr rgb vinous_white_black[] = {{128, 0, 32}, white, {0, 0, 0}};
 
 /// By id: the stops of a ramp, evenly spread, mixed in linear steps of the bytes.
 constexpr std::span<const rgb> arrays[] = {white_gray,     white_blue,        white_red,
                                            white_green,    white_yellow,      blue_white_red,
                                            red_white_blue, green_white_brown, rainbow};
+
+constexpr int32_t vinous_white_black_id = 25;
+
+/// Empty if there is no such array.
+std::span<const rgb> stops_of(int32_t id) {
+  if (id == vinous_white_black_id) return vinous_white_black;
+  if (id < 0 || id >= static_cast<int32_t>(std::size(arrays))) return {};
+  return arrays[id];
+}
 
 rgb at(std::span<const rgb> stops, double share) {
   double place = share * static_cast<double>(stops.size() - 1);
@@ -39,14 +49,9 @@ std::uint8_t byte(double value) { return static_cast<std::uint8_t>(std::floor(va
 
 }  // namespace
 
-uint32_t zu_clr_init_rgba(uint8_t r, uint8_t g, uint8_t b, uint8_t a) {
-  return static_cast<uint32_t>(r) | static_cast<uint32_t>(g) << 8 | static_cast<uint32_t>(b) << 16 |
-         static_cast<uint32_t>(a) << 24;
-}
-
 bool zu_clr_arrays_generate_ex(int32_t id, uint64_t count, Tzu_color* colors, int32_t flag) {
-  if (id < 0 || id >= static_cast<int32_t>(std::size(arrays)) || colors == nullptr) return false;
-  std::span<const rgb> stops = arrays[id];
+  std::span<const rgb> stops = stops_of(id);
+  if (stops.empty() || colors == nullptr) return false;
   for (uint64_t i = 0; i < count; ++i) {
     double share = count > 1 ? static_cast<double>(i) / static_cast<double>(count - 1) : 0.0;
     rgb c = flag == 0 ? at(stops, share) : stops[i % stops.size()];
@@ -54,3 +59,6 @@ bool zu_clr_arrays_generate_ex(int32_t id, uint64_t count, Tzu_color* colors, in
   }
   return true;
 }
+
+// Keeps the library's own copy of what the header defines.
+[[gnu::used]] static const auto exported_pack = &zu_clr_init_rgba;

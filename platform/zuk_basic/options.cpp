@@ -19,6 +19,8 @@ std::wstring& main_module() {
   return path;
 }
 
+bool build_overviews = true;
+
 }  // namespace
 
 const wchar_t* zu_options_get_main_module_path() { return main_module().c_str(); }
@@ -27,3 +29,6 @@ void zu_options_set_main_module_path(const wchar_t* path) {
   zu::platform::guarded(&main_module(),
                         [&](std::wstring& kept) { kept = path != nullptr ? path : own_program(); });
 }
+
+bool zu_options_get_build_overviews() { return build_overviews; }
+void zu_options_set_build_overviews(bool build) { build_overviews = build; }

@@ -108,8 +108,9 @@ bool same_nodata(const grid_property& a, const grid_property& b) {
 void make_names_differ(std::vector<grid_property>& all) {
   std::set<std::string> taken;
   for (grid_property& each : all) {
-    std::string base = each.name.empty() ? "Field" : each.name;
-    for (int number = 2; !taken.insert(each.name).second || each.name.empty(); ++number)
+    if (each.name.empty()) each.name = "Value";
+    std::string base = each.name;
+    for (int number = 2; !taken.insert(each.name).second; ++number)
       each.name = base + " (" + std::to_string(number) + ")";
   }
 }

@@ -43,7 +43,7 @@ struct segy_reader::target {
   std::uint64_t column_stride, row_stride;
 };
 
-segy_reader::segy_reader(std::shared_ptr<segy_file> file, std::shared_ptr<segy_pyramid> pyramid,
+segy_reader::segy_reader(std::shared_ptr<section_file> file, std::shared_ptr<segy_pyramid> pyramid,
                          std::wstring name)
     : file_(std::move(file)), pyramid_(std::move(pyramid)), name_(std::move(name)) {}
 
@@ -166,7 +166,7 @@ std::int32_t segy_block::read_tile(std::uint64_t column, std::uint64_t row, void
 
 segy_source::segy_source(std::wstring name)
     : name_(std::move(name)),
-      file_(std::make_shared<segy_file>(to_utf8(name_))),
+      file_(std::make_shared<section_file>(to_utf8(name_))),
       pyramid_(segy_pyramid::open(to_utf8(name_), *file_)) {}
 
 double segy_source::lowest() const {

@@ -10,7 +10,7 @@
 
 #include "platform/zuk_datasource/band_reader.h"
 #include "platform/zuk_datasource/source_details.h"
-#include "platform/zuk_file_segy/segy_file.h"
+#include "platform/zuk_file_segy/section_file.h"
 #include "platform/zuk_file_segy/segy_pyramid.h"
 #include "zu/data_source.h"
 #include "zu/polymorphic.h"
@@ -20,7 +20,7 @@ namespace zu::platform {
 /// Reading of samples by window.
 class segy_reader {
  public:
-  segy_reader(std::shared_ptr<segy_file> file, std::shared_ptr<segy_pyramid> pyramid,
+  segy_reader(std::shared_ptr<section_file> file, std::shared_ptr<segy_pyramid> pyramid,
               std::wstring name);
 
   std::int32_t type() const { return file_->format().element; }
@@ -34,7 +34,7 @@ class segy_reader {
   struct target;
   void read_samples(const grid_window& window, const target& to) const;
 
-  std::shared_ptr<segy_file> file_;
+  std::shared_ptr<section_file> file_;
   std::shared_ptr<segy_pyramid> pyramid_;  // null if there is none
   std::wstring name_;
 };
@@ -75,7 +75,7 @@ class segy_source final : public polymorphic<data_source_impl>,
   double lowest() const;  // y of row 0
 
   std::wstring name_;
-  std::shared_ptr<segy_file> file_;
+  std::shared_ptr<section_file> file_;
   std::shared_ptr<segy_pyramid> pyramid_;
 };
 

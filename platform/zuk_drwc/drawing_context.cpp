@@ -61,40 +61,45 @@ pixel_box drawing_context::region() const {
   return region_ ? common(page, *region_) : page;
 }
 
-void drawing_context::begin_region() {
-  cairo_save(cairo_.get());
-  if (!region_) return;
+pixel_box drawing_context::bled_region() const {
   pixel_box box = region();
+  if (region_) box.x1 += bleed_, box.y1 += bleed_;
+  return box;
+}
+
+drawing_context::saved_state drawing_context::clipped_to(const pixel_box& box) {
+  cairo_save(cairo_.get());
+  saved_state saved(cairo_.get());
+  if (!region_) return saved;
   cairo_new_path(cairo_.get());
   cairo_rectangle(cairo_.get(), static_cast<double>(box.x0), height_ - static_cast<double>(box.y1),
                   static_cast<double>(std::max<std::int64_t>(0, box.x1 - box.x0)),
                   static_cast<double>(std::max<std::int64_t>(0, box.y1 - box.y0)));
   cairo_clip(cairo_.get());
+  return saved;
 }
 
 void drawing_context::draw_lines(const Tzu_ov_d2& set, const Tzu_pln_style& style) {
   if (!style.visible || !(style.width > 0) || style.color.a == 255 || region().is_empty()) return;
-  begin_region();
+  saved_state saved = clipped_to(style.color.a == 0 ? bled_region() : region());
   set_color(cairo_.get(), style.color);
   pixel_box box = region();
   const Tzu_box_d2 shown{static_cast<double>(box.x0), height_ - static_cast<double>(box.y1),
                          static_cast<double>(box.x1), height_ - static_cast<double>(box.y0)};
   stroke_page page{cairo_.get(), per_mm_, width_, height_, !accurate_, shown, labels_};
   if (stroke(page, set, style)) inked();
-  cairo_restore(cairo_.get());
 }
 
 void drawing_context::fill_box(const Tzu_box_d2& mm, Tzu_color color) {
   Tzu_box_d2 all = page(), shown;
   if (color.a == 255 || !zu_box_d2_cross(&mm, &all, &shown)) return;
-  begin_region();
+  saved_state saved = clipped_to(region());
   set_color(cairo_.get(), color);
   cairo_new_path(cairo_.get());
   cairo_rectangle(cairo_.get(), shown.x0 * per_mm_, height_ - shown.y1 * per_mm_,
                   (shown.x1 - shown.x0) * per_mm_, (shown.y1 - shown.y0) * per_mm_);
   cairo_fill(cairo_.get());
   inked();
-  cairo_restore(cairo_.get());
 }
 
 void drawing_context::draw_text(double x_mm, double y_mm, double height_mm, int anchor,
@@ -107,11 +112,10 @@ void drawing_context::draw_text(double x_mm, double y_mm, double height_mm, int 
   double y = height_ - y_mm * per_mm_ + anchor / 3 * text.capital_height() / 2;
   // Cairo counts pixels in 24 bits.
   if (std::abs(x) > far_off || std::abs(y) > far_off) return;
-  begin_region();
+  saved_state saved = clipped_to(region());
   set_color(cairo_.get(), color);
   text.draw(x, y, 0);
   inked();
-  cairo_restore(cairo_.get());
 }
 
 double drawing_context::text_width(double height_mm, const std::string& utf8) const {

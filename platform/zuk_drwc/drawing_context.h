@@ -3,6 +3,7 @@
 // draws lines and texts inside a clip and a region.
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -54,15 +55,24 @@ class drawing_context {
 
   /// The region in pixels, or the whole page.
   pixel_box region() const;
-  /// A clip to the region for what Cairo draws now; lifted by `cairo_restore`.
-  void begin_region();
+  /// The region and, where pieces of a page are to lap over each other, a dot more to the right and
+  /// above: viewers soften the edges of what a document holds, and a piece that reaches under the
+  /// next one hides the seam. Only what is opaque may be drawn there.
+  pixel_box bled_region() const;
+  struct restored {
+    void operator()(cairo_t* cairo) const { cairo_restore(cairo); }
+  };
+  using saved_state = std::unique_ptr<cairo_t, restored>;
+  /// Clips what Cairo draws while the result lives to a box, if there is a region.
+  [[nodiscard]] saved_state clipped_to(const pixel_box& box);
   virtual void inked() {}
   /// Takes note of an object inside another one (0: the page itself); what it is to be called by as
   /// the outer one of others.
   virtual int note_object(int, const std::wstring&) { return 0; }
 
-  double width_, height_;  ///< of the page in pixels
-  double per_mm_;          ///< pixels a millimetre
+  double width_, height_;   ///< of the page in pixels
+  double per_mm_;           ///< pixels a millimetre
+  std::int64_t bleed_ = 0;  ///< dots by which pieces lap over the next ones
   bool accurate_, clipped_ = false;
   std::uint64_t largest_side_;  ///< of a DIB
   std::optional<pixel_box> region_;

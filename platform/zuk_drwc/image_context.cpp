@@ -41,9 +41,12 @@ void image_context::draw(const Tzu_dib_draw_record& record, const Tzu_dib& dib) 
 
 /// Through a surface of its own, which Cairo paints inside the clip.
 void image_context::draw_clipped(const pixel_box& place, const Tzu_dib& dib, std::uint8_t alpha) {
-  surface_ptr layer = new_surface(static_cast<std::int64_t>(nx_), static_cast<std::int64_t>(ny_));
-  put_dib(layer.get(), 0, 0, place, region(), dib, alpha);
-  cairo_set_source_surface(cairo_.get(), layer.get(), 0, 0);
+  pixel_box shown = common(place, region());
+  if (shown.is_empty()) return;
+  surface_ptr layer = new_surface(shown.x1 - shown.x0, shown.y1 - shown.y0);
+  put_dib(layer.get(), shown.x0, shown.y0, place, shown, dib, alpha);
+  cairo_set_source_surface(cairo_.get(), layer.get(), static_cast<double>(shown.x0),
+                           height_ - static_cast<double>(shown.y1));
   cairo_paint(cairo_.get());
   cairo_set_source_rgba(cairo_.get(), 0, 0, 0, 1);
 }

@@ -65,6 +65,7 @@ vector_context::vector_context(document_kind kind, double width_mm, double heigh
   if (!sensible) throw std::bad_alloc();
   surface_ = new_document(kind, bytes_, width_mm, height_mm);
   cairo_.reset(cairo_create(surface_.get()));
+  bleed_ = 1;
   double points = points_per_inch / dots_per_inch;
   cairo_scale(cairo_.get(), points, points);
 }
@@ -87,11 +88,8 @@ void vector_context::fill(Tzu_color color) {
 
 void vector_context::draw(const Tzu_dib_draw_record& record, const Tzu_dib& dib) {
   if (dib.pixels == nullptr || dib.nx == 0 || dib.ny == 0) return;
-  pixel_box place = pixels_of(record.box), bounds = region(), wider = bounds;
-  // Viewers soften the edges of images. What lies under the edge of the neighbour that comes next,
-  // to the right or above, hides the seam.
-  if (region_) ++wider.x1, ++wider.y1;
-  pixel_box shown = common(place, wider);
+  pixel_box place = pixels_of(record.box), bounds = region();
+  pixel_box shown = common(place, bled_region());
   if (shown.is_empty()) return;
   surface_ptr image = new_surface(shown.x1 - shown.x0, shown.y1 - shown.y0);
   put_dib(image.get(), shown.x0, shown.y0, place, shown, dib, record.alpha);

@@ -29,7 +29,7 @@ std::uint64_t whole(std::uint64_t index, std::uint64_t factor, std::uint64_t siz
 }  // namespace
 
 std::unique_ptr<segy_pyramid> segy_pyramid::open(const std::string& section,
-                                                 const segy_file& file) {
+                                                 const section_file& file) {
   std::string path = existing_side_file(section, pyramid_suffix);
   if (path.empty() || !is_newer(path, section)) return nullptr;
   try {
@@ -40,7 +40,7 @@ std::unique_ptr<segy_pyramid> segy_pyramid::open(const std::string& section,
   }
 }
 
-bool segy_pyramid::read_head(const segy_file& section) {
+bool segy_pyramid::read_head(const section_file& section) {
   char name[sizeof magic];
   std::uint64_t head[head_numbers];
   file_.read(0, reinterpret_cast<std::byte*>(name), sizeof name);
@@ -85,7 +85,7 @@ void segy_pyramid::read(const level& from, std::uint64_t column,
 
 bool build_segy_pyramid(const std::string& section, const std::vector<std::uint64_t>& factors,
                         const std::function<bool(double)>& progress) {
-  segy_file file(section);
+  section_file file(section);
   std::vector<std::uint64_t> head = {static_cast<std::uint64_t>(file.format().element),
                                      file.format().element_bytes,
                                      file.traces(),

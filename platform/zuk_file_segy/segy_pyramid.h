@@ -14,7 +14,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/zuk_file_segy/segy_file.h"
+#include "platform/zuk_file_segy/section_file.h"
 
 namespace zu::platform {
 
@@ -25,7 +25,7 @@ class segy_pyramid {
   };
 
   /// The pyramid of a section; null if there is none, if it is older than the section or not its.
-  static std::unique_ptr<segy_pyramid> open(const std::string& section, const segy_file& file);
+  static std::unique_ptr<segy_pyramid> open(const std::string& section, const section_file& file);
 
   /// The level with the largest factor that is not above `reduction`; null if there is none.
   const level* best(double reduction) const;
@@ -35,7 +35,7 @@ class segy_pyramid {
 
  private:
   explicit segy_pyramid(const std::string& path) : file_(path) {}
-  bool read_head(const segy_file& section);
+  bool read_head(const section_file& section);
 
   sample_file file_;
   std::size_t width_ = 0;

@@ -1,12 +1,11 @@
 #include "platform/zuk_file_segy/side_file.h"
 
-#include <sys/stat.h>
 #include <unistd.h>
 
-#include <cstdint>
-#include <cstdlib>
 #include <filesystem>
-#include <utility>
+
+#include "platform/zuk_basic/utf8.h"
+#include "zu/platform/zuk_os.h"
 
 namespace zu::platform {
 
@@ -14,30 +13,18 @@ namespace {
 
 namespace fs = std::filesystem;
 
-fs::path data_folder() {
-  for (auto [variable, below] : {std::pair("XDG_DATA_HOME", ""), std::pair("HOME", ".local/share")})
-    if (const char* home = std::getenv(variable); home != nullptr && *home == '/')
-      return fs::path(home) / below / "zugrid" / "sections";
-  return {};
-}
-
-// The whole path in one name: two sections of one name in two folders do not meet.
-std::string name_of(const std::string& section) {
+/// The same file in the user's data folder; empty if there is no such folder.
+std::string user_place(const std::string& path, bool make) {
   std::error_code error;
-  fs::path absolute = fs::weakly_canonical(section, error);
-  std::string text = error ? section : absolute.string();
-  std::uint64_t hash = 0xCBF29CE484222325U;  // FNV-1a
-  for (char c : text) hash = (hash ^ static_cast<unsigned char>(c)) * 0x100000001B3U;
-  std::string name;
-  for (int shift = 60; shift >= 0; shift -= 4) name += "0123456789abcdef"[hash >> shift & 15];
-  return name + "-" + fs::path(text).filename().string();
-}
-
-// Seconds and nanoseconds.
-std::pair<std::int64_t, std::int64_t> time_of(const std::string& path) {
-  struct stat about;
-  if (::stat(path.c_str(), &about) != 0) return {0, 0};
-  return {about.st_mtim.tv_sec, about.st_mtim.tv_nsec};
+  fs::path absolute = fs::absolute(path, error);
+  std::wstring found;
+  Tzu_string_adp* adapter = zu_string_adp_create(
+      nullptr, [](const wchar_t* text, void* user) { *static_cast<std::wstring*>(user) = text; },
+      &found);
+  bool known =
+      !error && zu_os_get_user_place_w(from_utf8(absolute.native()).c_str(), make, adapter);
+  zu_string_adp_destroy(adapter);
+  return known ? to_utf8(found) : std::string();
 }
 
 }  // namespace
@@ -45,24 +32,21 @@ std::pair<std::int64_t, std::int64_t> time_of(const std::string& path) {
 std::string existing_side_file(const std::string& section, const std::string& suffix) {
   std::error_code error;
   if (fs::is_regular_file(section + suffix, error)) return section + suffix;
-  fs::path folder = data_folder();
-  if (folder.empty()) return {};
-  fs::path kept = folder / (name_of(section) + suffix);
-  return fs::is_regular_file(kept, error) ? kept.string() : std::string();
+  std::string kept = user_place(section + suffix, false);
+  return !kept.empty() && fs::is_regular_file(kept, error) ? kept : std::string();
 }
 
 std::string side_file_to_write(const std::string& section, const std::string& suffix) {
   fs::path folder = fs::path(section).parent_path();
   if (folder.empty()) folder = ".";
-  fs::path kept = data_folder();
-  if (kept.empty() || ::access(folder.c_str(), W_OK) == 0) return section + suffix;
-  std::error_code error;
-  fs::create_directories(kept, error);  // the write tells what is wrong
-  return (kept / (name_of(section) + suffix)).string();
+  if (::access(folder.c_str(), W_OK) == 0) return section + suffix;
+  std::string kept = user_place(section + suffix, true);
+  return kept.empty() ? section + suffix : kept;
 }
 
 bool is_newer(const std::string& file, const std::string& section) {
-  return time_of(section) < time_of(file);
+  return zu_os_get_file_time(from_utf8(section).c_str()) <
+         zu_os_get_file_time(from_utf8(file).c_str());
 }
 
 }  // namespace zu::platform

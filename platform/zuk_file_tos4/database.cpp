@@ -23,6 +23,8 @@ std::string reason_of(int code, sqlite3* base) {
     case SQLITE_FULL:
       return "no space left on the device";
     case SQLITE_READONLY:
+      if (base != nullptr && sqlite3_extended_errcode(base) == SQLITE_READONLY_ROLLBACK)
+        return "an edit of it was broken off, and it cannot be written to undo that";
       return "cannot be written";
     case SQLITE_TOOBIG:
       return "holds something too large";
@@ -45,6 +47,17 @@ void check(int code, sqlite3* base) {
 // SQLite gives some names a meaning of their own; a path that begins with a folder is always a
 // path.
 std::string plain_path(const std::string& path) { return path[0] == '/' ? path : "./" + path; }
+
+// Undoing writes, which one who reads may not. Without a journal beside the file there is nothing
+// to undo; one that nobody may undo is met again by the first read.
+void undo_broken_edit(const std::string& path, access mode) {
+  struct stat status;
+  if (mode != access::read || stat((path + "-journal").c_str(), &status) != 0) return;
+  try {
+    database(path, access::edit).number("SELECT count(*) FROM sqlite_schema");
+  } catch (const pgrid_failure&) {
+  }
+}
 
 }  // namespace
 
@@ -128,15 +141,14 @@ std::span<const std::byte> statement::blob(int column) const {
 }
 
 database::database(const std::string& path, access mode) : mode_(mode) {
-  struct stat status;
-  // Undoing an edit writes. Without a journal beside the file there is none to undo.
-  if (mode == access::read && stat((path + "-journal").c_str(), &status) == 0)
-    database(path, access::edit).number("SELECT count(*) FROM sqlite_schema");
+  undo_broken_edit(path, mode);
   int flags = mode == access::read ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
   int code = sqlite3_open_v2(plain_path(path).c_str(), &base_, flags, nullptr);
   try {
     check(code, base_);
     configure();
+    if (mode != access::read && sqlite3_db_readonly(base_, "main") != 0)
+      throw pgrid_failure("cannot be written");
   } catch (...) {
     sqlite3_close_v2(base_);
     throw;

@@ -58,8 +58,8 @@ enum class access {
 
 class database {
  public:
-  /// Opens a regular file that exists; throws `pgrid_failure`. An edit that somebody's end broke off is
-  /// undone first, whatever the mode.
+  /// Opens a regular file that exists; throws `pgrid_failure`. An edit that somebody's end broke
+  /// off is undone first, whatever the mode.
   database(const std::string& path, access mode);
   ~database();
   database(const database&) = delete;

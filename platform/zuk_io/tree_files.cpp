@@ -6,9 +6,12 @@
 #include <cerrno>
 #include <cstdio>
 #include <fstream>
+#include <memory>
+#include <new>
 #include <sstream>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <system_error>
 
 #include "platform/zuk_basic/guarded.h"

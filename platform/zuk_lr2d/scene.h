@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/zuk_lr2d/own_state.h"
+#include "platform/zuk_scn_2d/prf_data.h"
 #include "zu/platform/zuk_lr2d.h"
 
 struct Izu_layer {
@@ -26,4 +27,5 @@ struct Tzu_scn_2d {
   std::wstring projection;
   Tzu_optional_color selected{};
   std::optional<Tzu_pln_style> selected_line;
+  Tzu_prf_data profile;
 };

@@ -1,4 +1,5 @@
 #include <cpl_vsi.h>
+#include <sys/stat.h>
 
 #include <cstdlib>
 #include <cstring>
@@ -58,6 +59,14 @@ bool zu_os_get_user_place_w(const wchar_t* path, bool make, Tzu_string_adp* adap
     if (make) fs::create_directories(place.parent_path());
     zu_string_adp_feed(adapter, from_utf8(place.string()).c_str());
     return true;
+  });
+}
+
+int64_t zu_os_get_file_time(const wchar_t* path) {
+  return zu::platform::guarded(path, int64_t(0), [](const wchar_t& text) -> int64_t {
+    struct stat attributes;
+    if (stat(zu::platform::to_utf8(&text).c_str(), &attributes) != 0) return 0;
+    return int64_t(attributes.st_mtim.tv_sec) * 1'000'000'000 + attributes.st_mtim.tv_nsec;
   });
 }
 

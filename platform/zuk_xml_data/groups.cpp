@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "platform/zuk_basic/guarded.h"
 #include "platform/zuk_basic/utf8.h"

@@ -1,5 +1,6 @@
 #include "platform/zuk_xml_data/parts.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <string>

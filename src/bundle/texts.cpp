@@ -45,10 +45,18 @@ void get_text(std::int32_t id, string_visitor visitor) {
   if (text != nullptr) call<&string_visitor_impl::visit>(visitor, text);
 }
 
+void get_text_of_basic(std::int32_t id, string_visitor visitor) {
+  if (const wchar_t* text = zu_res_get_wstr(id)) call<&string_visitor_impl::visit>(visitor, text);
+}
+
 std::wstring load_text(std::int32_t id) {
   std::wstring text;
   stdwstring_visitor visitor(text);
-  get_text(id, handle_of<string_visitor_impl>(visitor));
+  string_visitor receiver(handle_of<string_visitor_impl>(visitor));
+  if (id > 0)
+    get_text(id, receiver);
+  else
+    get_text_of_basic(-id, receiver);
   return text;
 }
 

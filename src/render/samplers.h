@@ -37,7 +37,8 @@ template <class color> class nearest {
 /// The value between the middles of four samples. False for a sample without a value, and in the
 /// outermost half of a cell.
 template <class block>
-inline bool bilinear_value(const block& samples, double sx, double sy, double& value) {
+__attribute__((always_inline)) inline bool bilinear_value(const block& samples, double sx,
+                                                          double sy, double& value) {
   double last_x = static_cast<double>(samples.nx()) - 1.0;
   double last_y = static_cast<double>(samples.ny()) - 1.0;
   double ux = sx - 0.5, uy = sy - 0.5;

@@ -191,7 +191,7 @@ bool is_of_tree(const std::string& path) {
 
 bool may_bundle(const include& i) {
   if (!i.quoted) return standard.count(i.path) != 0;
-  return begins(i.path, "src/") || begins(i.path, "zu/") || i.path == "resources/texts.def";
+  return begins(i.path, "src/") || begins(i.path, "zu/") || begins(i.path, "resources/");
 }
 bool may_platform(const include& i) {
   if (!i.quoted) return !is_of_tree(i.path) && !is_qt(i.path);

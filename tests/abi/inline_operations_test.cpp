@@ -124,6 +124,13 @@ TEST(inline_operations, scales_are_looked_up_alike) {
   zu_stl_mngr_destroy(manager);
 }
 
+TEST(inline_operations, colours_are_packed_alike) {
+  auto* pack = EXPORTED(zu_clr_init_rgba);
+  ASSERT_NE(pack, nullptr);
+  EXPECT_EQ(zu_clr_init_rgba(1, 2, 3, 254), 0xfe030201u);
+  EXPECT_EQ(pack(1, 2, 3, 254), 0xfe030201u);
+}
+
 TEST(inline_operations, a_channel_spreads_alike) {
   auto* spread = EXPORTED(zu_clr_channel_get255value);
   ASSERT_NE(spread, nullptr);

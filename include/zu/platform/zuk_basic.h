@@ -26,6 +26,10 @@ ZU_API const wchar_t* zu_options_get_main_module_path(void);
 /// Overrides the above; null goes back to the program's own path.
 ZU_API void zu_options_set_main_module_path(const wchar_t* path);
 
+/// Whether a section that is opened gets its reduced copies at once; a new program says yes.
+ZU_API bool zu_options_get_build_overviews(void);
+ZU_API void zu_options_set_build_overviews(bool build);
+
 // --- Colours
 
 /// A colour; `a` is a transparency, 0 opaque. As a 32-bit word red is the low byte.
@@ -74,8 +78,15 @@ ZU_HOT uint8_t zu_clr_channel_get255value(const Tzu_clr_channel* channel, double
 ZU_API uint8_t zu_clr_channel_get255value(const Tzu_clr_channel* channel, double value);
 #endif
 
+#ifdef __cplusplus
 /// Packs a colour word: red in the low byte.
+ZU_HOT uint32_t zu_clr_init_rgba(uint8_t r, uint8_t g, uint8_t b, uint8_t a) {
+  return static_cast<uint32_t>(r) | static_cast<uint32_t>(g) << 8 | static_cast<uint32_t>(b) << 16 |
+         static_cast<uint32_t>(a) << 24;
+}
+#else
 ZU_API uint32_t zu_clr_init_rgba(uint8_t r, uint8_t g, uint8_t b, uint8_t a);
+#endif
 /// Fills `count` colours of a numbered array; `flag` 0 spreads it as a ramp, 1 takes its colours in
 /// turn. Transparencies of `colors` are kept. False if there is no such array.
 ZU_API bool zu_clr_arrays_generate_ex(int32_t id, uint64_t count, Tzu_color* colors, int32_t flag);

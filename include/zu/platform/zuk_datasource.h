@@ -55,7 +55,7 @@ typedef struct Tzu_pgrid_options {
   const int64_t* fields;  ///< in the order wanted; null: all
   uint64_t field_count;
   bool volume;                 ///< the fields, of one type and NoData, become slices from z 0 up
-  const wchar_t* volume_name;  ///< of the property that they make then
+  const wchar_t* volume_name;  ///< of the property that they make then; null or empty: Value
   bool profile;                ///< a grid of one row becomes a profile
 } Tzu_pgrid_options;
 /// Writes a ".pgrid" file with exact statistics and overviews; see zu/platform/zuk_file_tos4.h. It

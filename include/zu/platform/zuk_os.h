@@ -14,6 +14,8 @@ ZU_API bool zu_os_multibyte_to_wide(uint32_t code_page, const char* text, int64_
                                     Tzu_string_adp* adapter);
 /// Whether attributes of that path can be had: there is such a file or folder, /vsi paths too.
 ZU_API bool zu_os_file_exists(const wchar_t* path);
+/// When a file was last changed, in nanoseconds since 1970; 0 if that cannot be read.
+ZU_API int64_t zu_os_get_file_time(const wchar_t* path);
 /// Where a file of this program goes that cannot be written beside the data: the same path under
 /// the user's data folder ("~/.local/share/zugrid/beside/data/a.z._rg" for "/data/a.z._rg"). `make`
 /// makes its folder. False, and no call, if the user has no such folder or it cannot be made.
@@ -21,3 +23,18 @@ ZU_API bool zu_os_get_user_place_w(const wchar_t* path, bool make, Tzu_string_ad
 /// Offset of the texts in the language in force: 0 Russian, 50000 English.
 ZU_API int32_t zu_res_get_lng(void);
 ZU_API void zu_res_set_lng(int32_t offset);
+
+// --- Texts and pictures that all parts of the system share
+
+/// Text `id` of `zuk_basic` in the language in force; null if there is none. Lives as long as the
+/// library.
+ZU_API const wchar_t* zu_res_get_wstr(int32_t id);
+/// Picture `id` of `zuk_basic`: one letter a pixel, width * height of them, the top row first; null
+/// if there is none. Lives as long as the library.
+ZU_API const char* zu_res_get_bitmap(int32_t id, uint32_t* width, uint32_t* height);
+/// Turns letters into width * height pixels of four bytes (r, g, b, 0), the bottom row first, as in
+/// a DIB. False if their number is another or a letter stands for no colour; the pixels are then
+/// undefined. The letters: . background, w white, k black, g grey, l light grey, r red, o orange,
+/// y yellow, e green, t turquoise, b blue, s light blue, d dark blue, n brown, v violet.
+ZU_API bool zu_res_paint_bitmap(const char* letters, uint32_t width, uint32_t height,
+                                uint8_t* pixels);

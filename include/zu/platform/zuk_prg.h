@@ -86,6 +86,11 @@ ZU_API void zu_pv_d2_add_vtx(Tzu_pv_d2* list, const Tzu_vtx_d2* vertex);
 ZU_API uint64_t zu_pv_d2_get_size(const Tzu_pv_d2* list);
 /// The vertices, not owned, until the list changes.
 ZU_API Tzu_vtx_d2* zu_pv_d2_get_arr(Tzu_pv_d2* list);
+ZU_API void zu_pv_d2_clear(Tzu_pv_d2* list);
+/// A new list of some of the vertices, the first and the last among them, from whose line no vertex
+/// is further off than `tolerance` (Douglas and Peucker 1973, Cartographica 10(2), p. 112). The
+/// caller destroys it; null for null or out of memory.
+ZU_API Tzu_pv_d2* zu_pv_d2_chord_simplify(const Tzu_pv_d2* list, double tolerance);
 ZU_API void zu_pv_d2_apply_matrix3x3(Tzu_pv_d2* list, const Tzu_matrix3x3* matrix);
 
 /// Polylines or polygon rings.

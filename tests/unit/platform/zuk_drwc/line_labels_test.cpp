@@ -152,6 +152,18 @@ TEST(levels, are_drawn_as_short_numbers_where_the_style_asks_and_there_is_one) {
     EXPECT_EQ(glyphs_of(row.level, row.label), row.glyphs) << row.level.value_or(-1) << row.label;
 }
 
+TEST(levels, a_number_that_is_too_large_to_draw_leaves_the_region_as_it_was) {
+  drwc_ptr drwc(zu_drwc_create_image(20, 20, 1e7, false));
+  Tzu_box_d2 page;
+  zu_drwc_get_page(drwc.get(), &page);
+  const Tzu_box_d2 half{0, 0, page.x1 / 2, page.y1};
+  zu_drwc_set_region(drwc.get(), &half);
+  draw_level(drwc, 1.0, true);
+  zu_drwc_set_region(drwc.get(), nullptr);
+  zu_drwc_fill_box(drwc.get(), &page, {0, 0, 0, 0});
+  EXPECT_EQ(pixel(drwc, 20, 20, 19, 10).opacity, 255);
+}
+
 TEST(levels, the_line_is_broken_under_its_number) {
   drwc_ptr drwc(zu_drwc_create_image(400, 80, 101.6, false));  // four pixels a millimetre
   draw_level(drwc, 11111.0, true);

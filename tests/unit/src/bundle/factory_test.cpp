@@ -222,13 +222,4 @@ TEST(localizer_client, finds_the_localizer_once_and_falls_back_when_it_goes) {
   EXPECT_EQ(load_text(23), L"Scale");
 }
 
-TEST(texts, come_in_the_language_in_force) {
-  zu_res_set_lng(0);
-  EXPECT_EQ(load_text(300), L"Структура файла сети");
-  zu_res_set_lng(50000);
-  EXPECT_EQ(load_text(10171), L"Not specified");
-  EXPECT_EQ(load_text(1), L"");
-  EXPECT_EQ(load_text(0), L"");
-}
-
 }  // namespace

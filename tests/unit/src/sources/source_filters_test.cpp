@@ -49,7 +49,7 @@ TEST_F(source_filters, describe_themselves_in_the_language_in_force) {
   zu_res_set_lng(0);
   EXPECT_EQ(description(gdal_), L"Сеточные файлы");
   EXPECT_EQ(description(rastr_), L"Растровые файлы");
-  EXPECT_EQ(description(tos4_coord_), L"TОС Два столбца координат");
+  EXPECT_EQ(description(tos4_coord_), L"TOС Два столбца координат");
 }
 
 TEST_F(source_filters, have_masks) {

@@ -29,12 +29,12 @@ const segy_format_info* segy_format_of(int code);
 void decode_segy_samples(const segy_format_info& format, bool little_endian, std::byte* raw,
                          std::size_t count, void* out);
 
-class segy_file {
+class section_file {
  public:
   /// Throws `segy_failure` if the file is no whole SEG-Y file with traces of one length.
-  explicit segy_file(const std::string& path);
-  segy_file(const segy_file&) = delete;
-  segy_file& operator=(const segy_file&) = delete;
+  explicit section_file(const std::string& path);
+  section_file(const section_file&) = delete;
+  section_file& operator=(const section_file&) = delete;
 
   const segy_format_info& format() const { return *format_; }
   bool little_endian() const { return little_endian_; }
@@ -48,7 +48,7 @@ class segy_file {
   /// A number of the binary header or of a trace header by its byte as the standard counts it
   /// (3201 and up, 1 and up); throws for a byte where no number begins.
   std::int32_t header_field(int byte) const;
-  std::int32_t trace_field(std::uint64_t trace, int byte) const;
+  std::vector<std::int32_t> trace_fields(std::uint64_t trace, const std::vector<int>& bytes) const;
 
   /// The samples `rows` of one trace, not falling and counted from its first, as elements.
   void read(std::uint64_t trace, const std::vector<std::int64_t>& rows, void* out);

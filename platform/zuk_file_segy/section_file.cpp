@@ -1,4 +1,4 @@
-#include "platform/zuk_file_segy/segy_file.h"
+#include "platform/zuk_file_segy/section_file.h"
 
 #include <algorithm>
 #include <bit>
@@ -75,7 +75,7 @@ void decode_segy_samples(const segy_format_info& format, bool little_endian, std
     std::memcpy(out, raw, count * format.bytes);
 }
 
-segy_file::segy_file(const std::string& path) : file_(path) {
+section_file::section_file(const std::string& path) : file_(path) {
   if (file_.size() < fixed_bytes)
     throw segy_failure("the file is too short for the headers of SEG-Y (" +
                        std::to_string(file_.size()) + " bytes)");
@@ -86,7 +86,7 @@ segy_file::segy_file(const std::string& path) : file_(path) {
   read_times();
 }
 
-void segy_file::read_layout() {
+void section_file::read_layout() {
   binary_.resize(SEGY_BINARY_HEADER_SIZE);
   file_.read(text_bytes, reinterpret_cast<std::byte*>(binary_.data()), binary_.size());
   int code = number_at(binary_, format_byte, false);
@@ -108,7 +108,7 @@ void segy_file::read_layout() {
   read_sample_count();
 }
 
-void segy_file::read_sample_count() {
+void section_file::read_sample_count() {
   samples_ = static_cast<std::uint64_t>(header_field(SEGY_BIN_SAMPLES) & 0xFFFF);
   constexpr int extended = 3269;  // bytes 3269 to 3272 since revision 2, which segyio does not turn
   if ((header_field(SEGY_BIN_SEGY_REVISION) & 0xFF00) == 0x0200) {
@@ -123,7 +123,7 @@ void segy_file::read_sample_count() {
 }
 
 // The count is followed where it is a count; -1 means that a stanza of its own ends them.
-std::uint64_t segy_file::end_of_extended_headers(int count) const {
+std::uint64_t section_file::end_of_extended_headers(int count) const {
   if (count >= 0) return fixed_bytes + static_cast<std::uint64_t>(count) * text_bytes;
   static const std::string ascii = "((SEG: EndText))";
   static const std::string ebcdic =
@@ -137,7 +137,7 @@ std::uint64_t segy_file::end_of_extended_headers(int count) const {
   throw segy_failure("the extended text headers do not end");
 }
 
-void segy_file::count_traces() {
+void section_file::count_traces() {
   if (first_trace_ > file_.size()) throw segy_failure("the file ends inside its text headers");
   std::uint64_t sample_bytes = samples_ * format_->bytes;
   if (sample_bytes > INT_MAX) throw segy_failure("traces longer than can be read");
@@ -150,34 +150,37 @@ void segy_file::count_traces() {
   if (traces_ > INT_MAX) throw segy_failure("more traces than can be counted");
 }
 
-void segy_file::read_times() {
+void section_file::read_times() {
   int microseconds = header_field(SEGY_BIN_INTERVAL) & 0xFFFF;
-  if (microseconds == 0) microseconds = trace_field(0, SEGY_TR_SAMPLE_INTER) & 0xFFFF;
+  const auto first = trace_fields(0, {SEGY_TR_SAMPLE_INTER, SEGY_TR_DELAY_REC_TIME});
+  if (microseconds == 0) microseconds = first[0] & 0xFFFF;
   interval_ = microseconds == 0 ? 1 : microseconds / 1000.0;
-  delay_ = trace_field(0, SEGY_TR_DELAY_REC_TIME);
+  delay_ = first[1];
 }
 
-std::int32_t segy_file::header_field(int byte) const {
+std::int32_t section_file::header_field(int byte) const {
   std::int32_t value = 0;
   if (segy_get_bfield(binary_.data(), byte, &value) != SEGY_OK)
     throw segy_failure("no number begins at byte " + std::to_string(byte));
   return value;
 }
 
-std::int32_t segy_file::trace_field(std::uint64_t trace, int byte) const {
+std::vector<std::int32_t> section_file::trace_fields(std::uint64_t trace,
+                                                     const std::vector<int>& bytes) const {
   char header[SEGY_TRACE_HEADER_SIZE];
   if (trace >= traces_) throw segy_failure("no trace " + std::to_string(trace + 1));
   if (segy_traceheader(headers_.get(), static_cast<int>(trace), header,
                        static_cast<long>(first_trace_),
                        static_cast<int>(trace_bytes_ - trace_header_bytes)) != SEGY_OK)
     throw segy_failure("the header of trace " + std::to_string(trace + 1) + " cannot be read");
-  std::int32_t value = 0;
-  if (segy_get_field(header, byte, &value) != SEGY_OK)
-    throw segy_failure("no number begins at byte " + std::to_string(byte));
-  return value;
+  std::vector<std::int32_t> values;
+  for (int byte : bytes)
+    if (segy_get_field(header, byte, &values.emplace_back()) != SEGY_OK)
+      throw segy_failure("no number begins at byte " + std::to_string(byte));
+  return values;
 }
 
-void segy_file::read(std::uint64_t trace, const std::vector<std::int64_t>& rows, void* out) {
+void section_file::read(std::uint64_t trace, const std::vector<std::int64_t>& rows, void* out) {
   if (trace >= traces_) throw segy_failure("no trace " + std::to_string(trace + 1));
   raw_.resize(rows.size() * format_->bytes);
   file_.pick(first_trace_ + trace * trace_bytes_ + trace_header_bytes, format_->bytes, rows,

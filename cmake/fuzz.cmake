@@ -1,0 +1,27 @@
+# One program for each tests/fuzz/NAME_fuzz.cpp. With ZU_FUZZ libFuzzer drives it; otherwise it runs
+# the empty input and every file of tests/fuzz/corpus/NAME once, as a test.
+
+file(GLOB fuzz_targets CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/fuzz/*_fuzz.cpp)
+foreach(source ${fuzz_targets})
+  get_filename_component(program ${source} NAME_WE)
+  string(REGEX REPLACE "_fuzz$" "" name ${program})
+  # A target of the host meets the platform as the host does; the others have its insides in reach.
+  file(STRINGS ${source} of_host REGEX "^#include \"host/")
+  if(of_host)
+    set(looked_at zu_host_cli)
+  else()
+    set(looked_at zuk_platform_objects)
+  endif()
+  add_executable(${program} ${source})
+  target_link_libraries(${program} PRIVATE ${looked_at})
+  if(of_host)
+    add_dependencies(${program} zuk_grid_layer2d)
+  endif()
+  if(ZU_FUZZ)
+    target_link_options(${program} PRIVATE -fsanitize=fuzzer)
+  else()
+    target_sources(${program} PRIVATE ${CMAKE_SOURCE_DIR}/tests/fuzz/replay.cpp)
+    add_test(NAME ${program} COMMAND ${program} ${CMAKE_SOURCE_DIR}/tests/fuzz/corpus/${name})
+    set_tests_properties(${program} PROPERTIES ENVIRONMENT "${ZU_TEST_ENVIRONMENT}")
+  endif()
+endforeach()

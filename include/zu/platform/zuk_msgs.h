@@ -1,0 +1,25 @@
+#pragma once
+// Messages to the person at the program: progress of long work. What is seen of it is the host's;
+// without a host's hooks everything is silent and nothing is ever stopped.
+
+#include "zu/platform/zuk_api.h"
+
+/// What a host offers. A null member is skipped; `user` is handed back.
+typedef struct Tzu_progress_hooks {
+  void* (*begin)(int32_t can_stop, void* user);  ///< gives the window, which may be null
+  void (*caption)(void* window, const wchar_t* text, void* user);
+  void (*show)(void* window, int64_t done, int64_t total, void* user);
+  bool (*stopped)(void* window, void* user);
+  void (*end)(void* window, void* user);
+  void* user;
+} Tzu_progress_hooks;
+/// Hooks for the progress objects made from now on; null takes them away. They are copied.
+ZU_API void zu_progress_set_hooks(const Tzu_progress_hooks* hooks);
+
+typedef struct Tzu_progress Tzu_progress;
+/// `can_stop` non-zero lets the person stop the work. Null if out of memory.
+ZU_API Tzu_progress* zu_progress_create(int32_t can_stop);
+ZU_API void zu_progress_destroy(Tzu_progress* progress);
+ZU_API void zu_progress_wcaption(Tzu_progress* progress, const wchar_t* text);
+ZU_API void zu_progress_show64(Tzu_progress* progress, int64_t done, int64_t total);
+ZU_API bool zu_progress_get_stopped(Tzu_progress* progress);  ///< false for null

@@ -16,7 +16,7 @@ namespace {
 
 constexpr double miter_limit = 10;
 /// Vertices after which an opaque set is stroked: Cairo sorts the edges of a path, and several
-/// paths are done sooner than a long one.
+/// paths are done sooner than a long one. On a screen each line is a path of its own.
 constexpr std::size_t opaque_at_once = 200;
 
 /// Dashes in pixels; empty for a solid line. A pattern Cairo would refuse is a solid line.
@@ -134,7 +134,8 @@ bool stroke(const stroke_page& page, const Tzu_ov_d2& lines, const Tzu_pln_style
   numbers level(page, lines, style);
   cairo_new_path(page.cairo);
   bool any = false;
-  std::size_t waiting = 0, at_once = style.color.a == 0 ? opaque_at_once : SIZE_MAX;
+  std::size_t waiting = 0, at_once = SIZE_MAX;
+  if (style.color.a == 0) at_once = page.thinned ? 0 : opaque_at_once;
   auto& set = const_cast<Tzu_ov_d2&>(lines);  // read only; the getters give what may be edited
   std::vector<Tzu_vtx_d2> line;
   for (std::uint64_t i = 0; i < zu_ov_d2_get_size(&set); ++i) {

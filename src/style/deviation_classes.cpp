@@ -18,6 +18,7 @@ void set_deviation_classes(Tzu_rng_scale* scale, const deviation_params& params)
     set_equal_intervals(scale, params.count, params.mean - reach, params.mean + reach);
   }
   round_boundaries(scale, params.digits);
+  set_captions(scale);
 }
 
 }  // namespace zu::style

@@ -16,8 +16,8 @@ struct deviation_params {
 };
 
 /// `count` equal intervals between mean - coefficient * deviation and mean + coefficient *
-/// deviation, rounded; the scale keeps how it was made. Count 0 leaves no classes, and tails that
-/// meet at the mean.
+/// deviation, rounded, with captions; the scale keeps how it was made. Count 0 leaves no classes,
+/// and tails that meet at the mean.
 void set_deviation_classes(Tzu_rng_scale* scale, const deviation_params& params);
 
 }  // namespace zu::style

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "src/bundle/owned.h"
+#include "src/bundle/strings.h"
 
 namespace {
 
@@ -33,6 +34,9 @@ TEST_F(deviation_classes, are_rounded_and_keep_how_they_were_made) {
   EXPECT_EQ(zu_rng_scale_get_rng_type(scale_), zu_range_deviation);
   EXPECT_EQ(zu_rng_scale_get_round_digits(scale_), 1);
   EXPECT_EQ(zu_rng_scale_get_deviation_coeff(scale_), 1);
+  EXPECT_NE(
+      text_of([&](Tzu_string_adp* a) { zu_rng_scale_get_max_caption_w(scale_, a); }).find(L"110"),
+      std::wstring::npos);
 }
 
 TEST_F(deviation_classes, none_leave_two_tails_that_meet_at_the_mean) {

@@ -1,8 +1,8 @@
 // Times one kind of redraw in this process and prints it as a line of JSON.
-//   draw FILE classes|shade|isolines|values|image X0,Y0,X1,Y1 CRS|- kept|fresh [B0,B1,…]
+//   draw FILE classes|shade|isolines|values|image X0,Y0,X1,Y1 CRS|- kept|panned|fresh [B0,B1,…]
 // A picture of 1920 x 1080 pixels: one warm-up, then the median of some runs. "kept" repaints one
-// layer of a file that stays open; "fresh" opens, draws and closes in the timed span. "shade" and
-// "isolines" lie above classes.
+// layer of a file that stays open; "panned" moves half a box east before each; "fresh" opens,
+// draws and closes in the timed span. "shade" and "isolines" lie above classes.
 
 #include <algorithm>
 #include <chrono>
@@ -87,7 +87,7 @@ double peak_mib() {
 
 int main(int argc, char** argv) {
   if (argc < 6) {
-    std::fprintf(stderr, "usage: draw FILE KIND BOX CRS|- kept|fresh [BREAKS]\n");
+    std::fprintf(stderr, "usage: draw FILE KIND BOX CRS|- kept|panned|fresh [BREAKS]\n");
     return 2;
   }
   std::filesystem::path program = std::filesystem::canonical("/proc/self/exe");
@@ -96,12 +96,17 @@ int main(int argc, char** argv) {
   std::wstring source = std::filesystem::path(argv[1]).wstring();
   std::string kind = argv[2], crs = argv[4];
   Tzu_box_d2 box = widened(numbers(argv[3]));
-  bool fresh = std::strcmp(argv[5], "fresh") == 0;
+  bool fresh = std::strcmp(argv[5], "fresh") == 0, panned = std::strcmp(argv[5], "panned") == 0;
   std::vector<double> breaks = argc > 6 ? numbers(argv[6]) : std::vector<double>();
 
   Tzu_drwc* page = zu_drwc_create_image(nx, ny, 96, false);
-  Izu_render* render = zu_render_create(page, &box);
-  if (crs != "-") zu_render_set_pj4wstr(render, std::wstring(crs.begin(), crs.end()).c_str());
+  Izu_render* render = nullptr;
+  auto look_at_box = [&] {
+    if (render != nullptr) zu_render_destroy(render);
+    render = zu_render_create(page, &box);
+    if (crs != "-") zu_render_set_pj4wstr(render, std::wstring(crs.begin(), crs.end()).c_str());
+  };
+  look_at_box();
   std::unique_ptr<bench::layer> kept;
   auto open = [&] {
     kept = std::make_unique<bench::layer>(host, source);
@@ -118,6 +123,11 @@ int main(int argc, char** argv) {
     if (fresh) {
       kept.reset();
       zu_datasource_set_pool_size(0);
+    }
+    if (panned) {
+      double step = (box.x1 - box.x0) / 2;
+      box.x0 += step, box.x1 += step;
+      look_at_box();
     }
     auto start = std::chrono::steady_clock::now();
     if (fresh) {

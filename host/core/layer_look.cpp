@@ -253,7 +253,10 @@ void apply_look(const layer_look& look, layer& dressed) {
   dressed.set_settings(settings);
   if (look.slice) zu_tos_slice_lr2d_set_zslice(dressed.entity(), *look.slice);
   Tzu_stl_mngr* styles = dressed.style_manager();
-  if (settings.draw == draw_type::scale && styles != nullptr) set_style(look, data, styles);
+  bool has_scale = styles != nullptr && zu_stl_mngr_get_mode(styles) != zu_style_simple;
+  if (settings.draw == draw_type::scale && styles != nullptr &&
+      (look.styles_a_scale() || !has_scale))
+    set_style(look, data, styles);
   if (Tzu_hillshade_style* style = dressed.hillshade_style()) set_hillshade(look, data, style);
   if (Tzu_isoline_style* style = dressed.isoline_style()) set_isolines(look, data, style);
 }

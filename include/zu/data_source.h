@@ -44,15 +44,17 @@ struct data_source_impl : plain_interface<data_source_impl> {
   virtual bool extent(double* /*box*/, bool /*force*/) { return false; }
   virtual std::int64_t field_count() { return 0; }
   virtual void field_name(std::int64_t, string_visitor) {}
+  /// What a person reads for the name; no call if there is nothing else to read.
+  virtual void field_caption(std::int64_t, string_visitor) {}
   virtual bool find_field(const wchar_t* /*exact name*/, std::int64_t* /*index*/) { return false; }
   virtual void get_projection(string_visitor) {}  ///< WKT or PROJ text; no call if there is none
   virtual bool set_projection(const wchar_t*) { return false; }  ///< stores it with the file
   using operations =
       in_order<&data_source_impl::release, unused, &data_source_impl::has_capability,
                &data_source_impl::extent, unused, unused, unused, &data_source_impl::field_count,
-               &data_source_impl::field_name, unused, unused, unused, unused, unused, unused,
-               unused, unused, &data_source_impl::find_field, &data_source_impl::get_projection,
-               &data_source_impl::set_projection>;
+               &data_source_impl::field_name, &data_source_impl::field_caption, unused, unused,
+               unused, unused, unused, unused, unused, &data_source_impl::find_field,
+               &data_source_impl::get_projection, &data_source_impl::set_projection>;
 };
 using data_source = of<data_source_impl>;
 

@@ -19,13 +19,18 @@ bool fits(std::int64_t origin, std::uint64_t size, std::int64_t all) {
          size <= static_cast<std::uint64_t>(all - origin);
 }
 
-/// The coarsest level that still has a sample for each one wanted.
+/// The coarsest level that still has a sample for each one wanted. A window rounded to whole nodes
+/// may lack a few.
 int level_for(const tile_plan& plan, const std::uint64_t* size, const std::uint64_t* sample) {
+  constexpr double short_by = 1.01;
+  auto allows = [&](int axis, double step) {
+    return size[axis] == 1 ||
+           static_cast<double>(size[axis]) * short_by >= step * static_cast<double>(sample[axis]);
+  };
   int level = 0;
   while (level + 1 < plan.levels()) {
-    auto step = static_cast<std::uint64_t>(plan.level(level + 1).step);
-    if (size[0] / sample[0] < step && size[0] > 1) break;
-    if (size[1] / sample[1] < step && size[1] > 1) break;
+    auto step = static_cast<double>(plan.level(level + 1).step);
+    if (!allows(0, step) || !allows(1, step)) break;
     ++level;
   }
   return level;

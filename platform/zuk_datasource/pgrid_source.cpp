@@ -245,23 +245,27 @@ bool pgrid_source::compute_stat(std::int64_t field, std::uint64_t most,
     int level = 0;
     auto samples = [&](int number) {
       const tile_level& l = file_->plan().level(number);
-      return static_cast<double>(l.size[0]) * static_cast<double>(l.size[1]) *
-             static_cast<double>(file_->head().size[2]);
+      return l.size[0] * l.size[1] * file_->head().size[2];
     };
-    while (most > 0 && samples(level) > static_cast<double>(most) &&
+    while (most > 0 && static_cast<std::uint64_t>(samples(level)) > most &&
            level + 1 < file_->plan().levels())
       ++level;
+    std::int64_t missing = samples(level);
     partial_statistics all;
     std::vector<std::byte> nothing = empty_sample(*found);
-    bool skip = statistics_of_run(nothing.data(), found->type, 1, valid).count == 0;
     std::size_t pitch = static_cast<std::size_t>(file_->head().tile[0]) * nothing.size();
-    bool whole = file_->for_tiles(index, level, skip, [&](const pgrid_file::seen_tile& tile) {
+    bool whole = file_->for_tiles(index, level, [&](const pgrid_file::seen_tile& tile) {
+      missing -= tile.nx * tile.ny;
       for (std::int64_t y = 0; y < tile.ny; ++y)
         all.add(statistics_of_run(tile.samples + static_cast<std::size_t>(y) * pitch, found->type,
                                   static_cast<std::size_t>(tile.nx), valid));
       return progress == nullptr || progress(tile.share, user);
     });
     if (!whole) return false;
+    // Tiles that are not there are all of one value, which may count.
+    partial_statistics rest = statistics_of_run(nothing.data(), found->type, 1, valid);
+    rest.count *= static_cast<std::uint64_t>(missing);
+    all.add(rest);
     *out = summary(all, level > 0);
     return true;
   } catch (const std::exception& failure) {

@@ -28,7 +28,7 @@ class drawing_context {
 
   virtual void fill(Tzu_color color) = 0;
   virtual void draw(const Tzu_dib_draw_record& record, const Tzu_dib& dib) = 0;
-  void draw_lines(const Tzu_ov_d2& set, const Tzu_pln_style& style);
+  void draw_lines(const Tzu_ov_d2& lines, const Tzu_pln_style& style);
   /// The height is that of the font; the anchor is a `Tzu_text_anchor`. Throws std::bad_alloc.
   void draw_text(double x_mm, double y_mm, double height_mm, int anchor, Tzu_color color,
                  const std::string& utf8);

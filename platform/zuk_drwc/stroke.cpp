@@ -1,22 +1,15 @@
 #include "platform/zuk_drwc/stroke.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <cstdint>
-#include <optional>
-#include <string>
-
-#include "platform/zuk_drwc/cut_line.h"
-#include "platform/zuk_drwc/line_labels.h"
-#include "platform/zuk_drwc/text_line.h"
 
 namespace zu::platform {
 namespace {
 
 constexpr double miter_limit = 10;
-/// Vertices after which an opaque set is stroked: Cairo sorts the edges of a path, and several
-/// paths are done sooner than a long one.
+/// Vertices after which opaque lines are stroked: Cairo sorts the edges of a path, and several
+/// paths are done sooner than a long one. On a screen each line is a path of its own.
 constexpr std::size_t opaque_at_once = 200;
 
 /// Dashes in pixels; empty for a solid line. A pattern Cairo would refuse is a solid line.
@@ -35,129 +28,73 @@ std::vector<double> dashes_of(const Tzu_pln_style& style, double per_mm) {
   return sum > finest * static_cast<double>(count) ? dashes : std::vector<double>();
 }
 
-void set_pen(cairo_t* cairo, const Tzu_pln_style& style, double width) {
+void set_pen(cairo_t* cairo, const strokes& lines) {
   constexpr cairo_line_cap_t caps[] = {CAIRO_LINE_CAP_BUTT, CAIRO_LINE_CAP_ROUND,
                                        CAIRO_LINE_CAP_SQUARE};
   constexpr cairo_line_join_t joins[] = {CAIRO_LINE_JOIN_MITER, CAIRO_LINE_JOIN_ROUND,
                                          CAIRO_LINE_JOIN_BEVEL};
-  cairo_set_line_width(cairo, width);
-  cairo_set_line_cap(cairo, caps[std::clamp<std::int32_t>(style.cap, 0, 2)]);
-  cairo_set_line_join(cairo, joins[std::clamp<std::int32_t>(style.join, 0, 2)]);
+  Tzu_color c = lines.color;
+  cairo_set_source_rgba(cairo, c.r / 255.0, c.g / 255.0, c.b / 255.0, (255 - c.a) / 255.0);
+  cairo_set_line_width(cairo, lines.width);
+  cairo_set_line_cap(cairo, caps[lines.cap]);
+  cairo_set_line_join(cairo, joins[lines.join]);
   cairo_set_miter_limit(cairo, miter_limit);
+  cairo_set_dash(cairo, nullptr, 0, 0);
+  cairo_new_path(cairo);
 }
 
-void add_path(const stroke_page& page, const line_piece& piece) {
+void add_path(cairo_t* cairo, const line_piece& piece, bool thinned) {
   constexpr double nearest = 0.1;  // pixels
   const std::vector<Tzu_vtx_d2>& v = piece.vertices;
   std::size_t count = piece.closed ? v.size() - 1 : v.size();
   Tzu_vtx_d2 last = v[0];
-  cairo_move_to(page.cairo, last.x, last.y);
+  cairo_move_to(cairo, last.x, last.y);
   for (std::size_t i = 1; i < count; ++i) {
     bool close_by = std::abs(v[i].x - last.x) < nearest && std::abs(v[i].y - last.y) < nearest;
-    if (page.thinned && close_by && i + 1 < count) continue;
+    if (thinned && close_by && i + 1 < count) continue;
     last = v[i];
-    cairo_line_to(page.cairo, last.x, last.y);
+    cairo_line_to(cairo, last.x, last.y);
   }
-  if (piece.closed) cairo_close_path(page.cairo);
+  if (piece.closed) cairo_close_path(cairo);
 }
 
-void stroke_dashed(const stroke_page& page, const line_piece& piece,
-                   const std::vector<double>& dashes) {
+void stroke_dashed(cairo_t* cairo, const line_piece& piece, const strokes& lines) {
   double period = 0;
-  for (double length : dashes) period += length;
-  if (dashes.size() % 2 == 1) period *= 2;
+  for (double length : lines.dashes) period += length;
+  if (lines.dashes.size() % 2 == 1) period *= 2;
   double phase = std::fmod(piece.start, period);
-  cairo_set_dash(page.cairo, dashes.data(), static_cast<int>(dashes.size()),
+  cairo_set_dash(cairo, lines.dashes.data(), static_cast<int>(lines.dashes.size()),
                  std::isfinite(phase) ? phase : 0.0);
-  add_path(page, piece);
-  cairo_stroke(page.cairo);
+  add_path(cairo, piece, lines.thinned);
+  cairo_stroke(cairo);
 }
-
-/// The shortest text of a number with up to 15 digits.
-std::string number_text(double value) {
-  char text[32];
-  auto end = std::to_chars(text, text + sizeof text, value == 0 ? 0.0 : value,
-                           std::chars_format::general, 15)
-                 .ptr;
-  return {text, end};
-}
-
-/// The number of a set of lines, on them.
-class numbers {
- public:
-  /// Nothing is numbered if the style does not ask for it or the set has no level.
-  numbers(const stroke_page& page, const Tzu_ov_d2& lines, const Tzu_pln_style& style)
-      : page_(page) {
-    double level;
-    if (!style.label || !zu_ov_d2_get_level(&lines, &level) || !std::isfinite(level)) return;
-    text_.emplace(page.cairo, number_text(level), font_size * page.per_mm);
-    request_ = {text_->width(), text_->capital_height(), spacing * page.per_mm, page.shown};
-  }
-
-  /// Parts of a piece between the numbers that it gets.
-  std::vector<line_piece> parted(const line_piece& piece) {
-    if (!text_) return {piece};
-    std::vector<line_label> places = place_labels(piece.vertices, request_, page_.labels);
-    places_.insert(places_.end(), places.begin(), places.end());
-    return without_labels(piece, places);
-  }
-  void draw() const {
-    for (const line_label& place : places_) {
-      double c = std::cos(place.angle), s = std::sin(place.angle);
-      double back = request_.width / 2, down = request_.height / 2;
-      text_->draw(place.middle.x - c * back - s * down, place.middle.y - s * back + c * down,
-                  place.angle);
-    }
-  }
-
- private:
-  static constexpr double font_size = 2.5, spacing = 100;  // millimetres
-
-  const stroke_page& page_;
-  std::optional<text_line> text_;
-  label_request request_{};
-  std::vector<line_label> places_;
-};
 
 }  // namespace
 
-bool stroke(const stroke_page& page, const Tzu_ov_d2& lines, const Tzu_pln_style& style) {
-  double most = 2 * (page.width + page.height);
-  double width = std::min(style.width * page.per_mm, most);
-  set_pen(page.cairo, style, width);
-  std::vector<double> dashes = dashes_of(style, page.per_mm);
-  if (dashes.empty()) cairo_set_dash(page.cairo, nullptr, 0, 0);
-  // Far enough outside that neither caps nor corners of what was cut off are missed.
-  double margin = width / 2 * miter_limit + 2;
-  const Tzu_box_d2 near_the_page{-margin, -margin, page.width + margin, page.height + margin};
+strokes::strokes(const Tzu_pln_style& style, double per_mm, double most, bool thin)
+    : width(std::min(style.width * per_mm, most)),
+      dashes(dashes_of(style, per_mm)),
+      cap(std::clamp<std::int32_t>(style.cap, 0, 2)),
+      join(std::clamp<std::int32_t>(style.join, 0, 2)),
+      color(style.color),
+      thinned(thin) {}
 
-  numbers level(page, lines, style);
-  cairo_new_path(page.cairo);
-  bool any = false;
-  std::size_t waiting = 0, at_once = style.color.a == 0 ? opaque_at_once : SIZE_MAX;
-  auto& set = const_cast<Tzu_ov_d2&>(lines);  // read only; the getters give what may be edited
-  std::vector<Tzu_vtx_d2> line;
-  for (std::uint64_t i = 0; i < zu_ov_d2_get_size(&set); ++i) {
-    Tzu_pv_d2* list = zu_ov_d2_get_pv_ptr(&set, i);
-    const Tzu_vtx_d2* vertices = zu_pv_d2_get_arr(list);
-    line.assign(vertices, vertices + zu_pv_d2_get_size(list));
-    for (Tzu_vtx_d2& v : line) v = {v.x * page.per_mm, page.height - v.y * page.per_mm};
-    for (const line_piece& piece : cut_line(line.data(), line.size(), near_the_page)) {
-      any = true;
-      for (const line_piece& part : level.parted(piece)) {
-        if (!dashes.empty()) {
-          stroke_dashed(page, part, dashes);
-          continue;
-        }
-        add_path(page, part);
-        waiting += part.vertices.size();
-        if (waiting > at_once) cairo_stroke(page.cairo), waiting = 0;
-      }
+double strokes::margin() const { return width / 2 * miter_limit + 2; }
+
+void stroke(cairo_t* cairo, const strokes& lines) {
+  set_pen(cairo, lines);
+  std::size_t waiting = 0, at_once = SIZE_MAX;
+  if (lines.color.a == 0) at_once = lines.thinned ? 0 : opaque_at_once;
+  for (const line_piece& part : lines.parts) {
+    if (!lines.dashes.empty()) {
+      stroke_dashed(cairo, part, lines);
+      continue;
     }
+    add_path(cairo, part, lines.thinned);
+    waiting += part.vertices.size();
+    if (waiting > at_once) cairo_stroke(cairo), waiting = 0;
   }
-  if (dashes.empty()) cairo_stroke(page.cairo);
-  level.draw();
-  return any;
+  cairo_stroke(cairo);
 }
 
 }  // namespace zu::platform

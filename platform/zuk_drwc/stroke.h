@@ -4,24 +4,29 @@
 #include <vector>
 
 #include "platform/zuk_drwc/cairo_owned.h"
-#include "zu/platform/zuk_prg.h"
+#include "platform/zuk_drwc/cut_line.h"
 #include "zu/platform/zuk_styles.h"
 
 namespace zu::platform {
 
-/// Where strokes go: user space is pixels of the page, y downwards, and the colour is set.
-struct stroke_page {
-  cairo_t* cairo;
-  double per_mm;                    ///< pixels a millimetre
-  double width, height;             ///< of the page in pixels
-  bool thinned;                     ///< vertices a fraction of a pixel apart are not wanted
-  Tzu_box_d2 shown;                 ///< the part of the page that will show
-  std::vector<Tzu_box_d2>& labels;  ///< boxes of numbers on the page, in its pixels
+/// Lines and the pen that draws them, in pixels of a page, y downwards.
+struct strokes {
+  std::vector<line_piece> parts;
+  double width;
+  std::vector<double> dashes;  ///< none: solid lines
+  int cap, join;
+  Tzu_color color;
+  bool thinned;  ///< vertices a fraction of a pixel apart are not wanted
+
+  /// The pen of a style, without lines; not wider than `most`.
+  strokes(const Tzu_pln_style& style, double per_mm, double most, bool thinned);
+  /// How far outside of what shows a line may be cut, so that neither caps nor corners of what was
+  /// cut off are missed.
+  double margin() const;
 };
 
-/// Strokes lines given in millimetres; false if none came near the page. Solid lines of a
-/// transparent colour are one stroke, so that it shows once where they cross. Numbers are drawn
-/// where the style asks for them and the set has a level.
-bool stroke(const stroke_page& page, const Tzu_ov_d2& lines, const Tzu_pln_style& style);
+/// Strokes the lines. Solid lines of a transparent colour are one stroke, so that it shows once
+/// where they cross.
+void stroke(cairo_t* cairo, const strokes& lines);
 
 }  // namespace zu::platform

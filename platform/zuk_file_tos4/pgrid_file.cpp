@@ -145,6 +145,7 @@ std::size_t pgrid_file::add_property(grid_property property) {
 void pgrid_file::set_head(const grid_head& head) {
   grid_head next = head;
   next.size = head_.size, next.tile = head_.tile, next.levels = head_.levels;
+  check(next);
   edit change(*this);
   store_head(*base_, next);
   change.commit();
@@ -154,6 +155,7 @@ void pgrid_file::set_head(const grid_head& head) {
 void pgrid_file::set_property(std::size_t index, const grid_property& property) {
   grid_property next = property;
   next.slot = at(index).slot, next.type = at(index).type;
+  check(next);
   edit change(*this);
   store_property(*base_, next);
   change.commit();
@@ -202,7 +204,10 @@ pgrid_file::edit::edit(pgrid_file& file) : file_(file), open_(!file.base().in_tr
 }
 
 pgrid_file::edit::~edit() {
+  if (committed_) return;
+  file_.spoiled_ = true;
   if (!open_) return;
+  file_.spoiled_ = false;
   file_.forget_tiles();
   try {
     if (file_.base_->in_transaction()) file_.base_->run("ROLLBACK");
@@ -213,16 +218,19 @@ pgrid_file::edit::~edit() {
 }
 
 void pgrid_file::edit::commit() {
-  if (!open_) return;
-  file_.store_changed();
-  file_.base_->run("COMMIT");
-  open_ = false;
+  if (open_) file_.finish();
+  committed_ = true;
+}
+
+void pgrid_file::finish() {
+  if (spoiled_) throw pgrid_failure("a part of it could not be written");
+  store_changed();
+  base().run("COMMIT");
 }
 
 void pgrid_file::commit() {
   if (temporary_ == nullptr) throw pgrid_failure("is in its place already");
-  store_changed();
-  base().run("COMMIT");
+  finish();
   version_.reset(), remove_.reset(), insert_.reset(), select_.reset();
   base_.reset();
   try {
@@ -300,7 +308,7 @@ const std::byte* pgrid_file::tile(std::size_t property, int level, std::int64_t 
   return hold(property, plan_.id(at(property).slot, level, z, y, x)).samples.data();
 }
 
-bool pgrid_file::for_tiles(std::size_t property, int level, bool skip_missing,
+bool pgrid_file::for_tiles(std::size_t property, int level,
                            const std::function<bool(const seen_tile&)>& see) {
   const tile_level& l = plan_.level(level);
   const std::int64_t first = plan_.id(at(property).slot, level, 0, 0, 0);
@@ -308,12 +316,10 @@ bool pgrid_file::for_tiles(std::size_t property, int level, bool skip_missing,
   statement next(base().get(),
                  "SELECT id FROM tile WHERE id >= ?1 AND id < ?2 ORDER BY id LIMIT 1");
   for (std::int64_t number = 0; number < all; ++number) {
-    if (skip_missing) {
-      next.bind(1, first + number).bind(2, first + all);
-      if (!next.step()) break;
-      number = next.integer(0) - first;
-      next.reset();
-    }
+    next.bind(1, first + number).bind(2, first + all);
+    if (!next.step()) break;
+    number = next.integer(0) - first;
+    next.reset();
     std::int64_t z = number / in_slice, y = number % in_slice / l.tiles[0];
     std::int64_t x = number % in_slice % l.tiles[0];
     seen_tile seen{tile(property, level, z, y, x),
@@ -370,12 +376,15 @@ void pgrid_file::write(std::size_t property, const node_box& box, const std::byt
   for (int level = 0; level < plan_.levels(); ++level) write_level(property, level, box, samples);
 }
 
+void pgrid_file::check_run(std::int64_t start, std::int64_t count) const {
+  if (start < 0 || count < 0 || start > head_.nodes() || count > head_.nodes() - start)
+    throw pgrid_failure("has no such nodes");
+}
+
 // A run in row order is at most a part of a row, whole rows and a part of a row in each slice.
 template <class work>
 void pgrid_file::for_boxes_of_run(std::int64_t start, std::int64_t count, work w) const {
   std::int64_t nx = head_.size[0], slice = nx * head_.size[1];
-  if (start < 0 || count < 0 || start > head_.nodes() || count > head_.nodes() - start)
-    throw pgrid_failure("has no such nodes");
   for (std::int64_t done = 0; done < count;) {
     std::int64_t at = start + done, in_slice = at % slice, x = in_slice % nx;
     std::int64_t left = std::min(count - done, slice - in_slice);
@@ -389,6 +398,7 @@ void pgrid_file::for_boxes_of_run(std::int64_t start, std::int64_t count, work w
 void pgrid_file::write_run(std::size_t property, std::int64_t start, std::int64_t count,
                            const std::byte* samples) {
   std::size_t width = sample_width(at(property).type);
+  check_run(start, count);
   edit change(*this);
   for_boxes_of_run(start, count, [&](const node_box& box, std::int64_t done) {
     write(property, box, samples + static_cast<std::size_t>(done) * width);
@@ -400,6 +410,7 @@ void pgrid_file::read_run(std::size_t property, std::int64_t start, std::int64_t
                           std::byte* samples) {
   const std::size_t width = sample_width(at(property).type);
   const std::int64_t across = head_.tile[0], down = head_.tile[1];
+  check_run(start, count);
   reading state(*this);
   for_boxes_of_run(start, count, [&](const node_box& box, std::int64_t done) {
     std::byte* out = samples + static_cast<std::size_t>(done) * width;

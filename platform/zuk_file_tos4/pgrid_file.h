@@ -63,12 +63,11 @@ class pgrid_file {
     std::int64_t nx, ny;       ///< samples in it that are no padding
     double share;              ///< of the tiles, with this one
   };
-  /// Shows every tile of a level, or only those that are there; false if `see` gave false. Inside a
-  /// reading.
-  bool for_tiles(std::size_t property, int level, bool skip_missing,
-                 const std::function<bool(const seen_tile&)>& see);
+  /// Shows the tiles of a level that are there; false if `see` gave false. Inside a reading.
+  bool for_tiles(std::size_t property, int level, const std::function<bool(const seen_tile&)>& see);
 
-  /// One edit; undone unless committed. Statistics of what it writes are dropped.
+  /// One edit; undone unless committed, and then all that it stands in is too. Statistics of what
+  /// it writes are dropped.
   class edit {
    public:
     explicit edit(pgrid_file& file);
@@ -79,7 +78,7 @@ class pgrid_file {
 
    private:
     pgrid_file& file_;
-    bool open_;
+    bool open_, committed_ = false;
   };
   /// Dense rows of samples of the property's own type, into the nodes and the overviews. Inside an
   /// edit or while the file is made.
@@ -108,9 +107,11 @@ class pgrid_file {
   void load(held_tile& tile);
   void store(held_tile& tile);
   void store_changed();
+  void finish();  // the transaction
   void forget_tiles();
   void write_level(std::size_t property, int level, const node_box& box, const std::byte* samples);
   const grid_property& at(std::size_t property) const;
+  void check_run(std::int64_t start, std::int64_t count) const;
   template <class work> void for_boxes_of_run(std::int64_t start, std::int64_t count, work w) const;
 
   std::unique_ptr<atomic_file> temporary_;  // of a new file
@@ -124,6 +125,7 @@ class pgrid_file {
   std::unordered_map<std::int64_t, held_tiles::iterator> by_id_;
   std::size_t held_bytes_ = 0;
   std::int64_t seen_version_ = -1;
+  bool spoiled_ = false;  // a part of the transaction failed: none of it may stay
 };
 
 }  // namespace zu::platform

@@ -22,6 +22,7 @@ constexpr double least_azimuth = 1e-6;
 
 profile_drawing::profile_drawing(Izu_render* render, Izu_layer* layer)
     : render_(render),
+      drwc_(zu_render_get_drwc(render)),
       layer_(layer),
       selection_(zu_lr2d_get_data_ptr(layer)),
       manager_(zu_tos_grid_1d_lr2d_get_stl_mngr_ptr(layer)),
@@ -89,9 +90,10 @@ void profile_drawing::draw_band(data::grid_datasource& source, std::int64_t band
   profile_curve curve(origin[0], spacing[0], data::nodata_test::of(block.get(), element_float64));
   trace(source, block, static_cast<std::uint64_t>(sizes[0]), curve);
   place(curve, origin, source.azimuth());
-  show(curve.unselected(), zu_stl_prm_get_pln_style_ptr(style, 0));
+  std::wstring name = source.field_name(band);
+  show(name, curve.unselected(), zu_stl_prm_get_pln_style_ptr(style, 0));
   bool own = own_selected_style_ || scene_selected_ == nullptr;
-  show(curve.selected(), own ? zu_stl_prm_get_pln_style_ptr(style, 1) : scene_selected_);
+  show(name, curve.selected(), own ? zu_stl_prm_get_pln_style_ptr(style, 1) : scene_selected_);
 }
 
 /// Samples that cannot be read end the curve.
@@ -130,8 +132,12 @@ void profile_drawing::place(profile_curve& curve, const double* origin, double a
   if (moved) curve.apply(matrix);
 }
 
-void profile_drawing::show(const Tzu_ov_d2* lines, const Tzu_pln_style* style) const {
-  if (zu_ov_d2_get_size(lines) > 0) zu_render_cr_pln(render_, lines, style);
+void profile_drawing::show(const std::wstring& name, const Tzu_ov_d2* lines,
+                           const Tzu_pln_style* style) const {
+  if (zu_ov_d2_get_size(lines) == 0) return;
+  zu_drwc_beg_object_w(drwc_, name.c_str());
+  zu_render_cr_pln(render_, lines, style);
+  zu_drwc_end_object_w(drwc_, name.c_str());
 }
 
 }  // namespace zu

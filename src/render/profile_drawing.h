@@ -7,6 +7,7 @@
 #include "src/data/grid_datasource.h"
 #include "src/render/profile_curve.h"
 #include "zu/layer2d.h"
+#include "zu/platform/zuk_drwc.h"
 #include "zu/platform/zuk_styles.h"
 
 namespace zu {
@@ -27,9 +28,11 @@ class profile_drawing {
              profile_curve& curve) const;
   /// From the profile's own plane to render coordinates; the azimuth in degrees.
   void place(profile_curve& curve, const double* origin, double azimuth) const;
-  void show(const Tzu_ov_d2* lines, const Tzu_pln_style* style) const;
+  /// As an object of the page that has the band's name.
+  void show(const std::wstring& name, const Tzu_ov_d2* lines, const Tzu_pln_style* style) const;
 
   Izu_render* render_;
+  Tzu_drwc* drwc_;
   Izu_layer* layer_;
   const Tzu_table_data* selection_;
   Tzu_stl_mngr* manager_;

@@ -29,7 +29,7 @@ void grids_editor2d_extension_service::get_extensions(scene_2d_editor_extension_
   visit_extensions(visitor, rastr_, tos4_grid_, tos4_slice_, tos4_coord_, tos4_profil_);
 }
 void grids_editor2d_extension_service::get_filters(scene_editor_filter_visitor visitor) {
-  visit_filters(visitor, rastr_filter_, tos4_grid_filter_, tos4_coord_filter_);
+  visit_filters(visitor, rastr_filter_, tos4_grid_filter_, tos4_coord_filter_, segy_filter_);
 }
 
 }  // namespace zu

@@ -35,6 +35,7 @@ class grids_editor2d_extension_service : public referent<scene_2d_editor_extensi
   rastr_source_filter_adder rastr_filter_;
   tos4_grid_source_filter_adder tos4_grid_filter_;
   tos4_coord_source_filter_adder tos4_coord_filter_;
+  segy_source_filter_adder segy_filter_;
 };
 
 }  // namespace zu

@@ -4,7 +4,10 @@
 #include "src/bundle/strings.h"
 #include "src/bundle/texts.h"
 #include "src/data/grid_datasource.h"
+#include "src/layer/grid_layer2d.h"
 #include "src/sources/file_names.h"
+#include "src/sources/segy_layer_setup.h"
+#include "src/sources/segy_params.h"
 #include "src/style/scale_file.h"
 #include "zu/platform/zuk_file_tos4.h"
 #include "zu/platform/zuk_lr2d.h"
@@ -117,6 +120,20 @@ void tos4_grid_source_filter_adder::add(Tzu_lr_builder* builder, const wchar_t* 
 bool tos4_coord_source_filter_adder::accepts(const wchar_t* path) { return is_tos4_file(path); }
 void tos4_coord_source_filter_adder::add(Tzu_lr_builder* builder, const wchar_t* path) {
   add_layer(builder, path, "tos_2crd_lr2d");
+}
+
+bool segy_source_filter_adder::accepts(const wchar_t* path) {
+  return mask_holds(extension_of(path));
+}
+void segy_source_filter_adder::add(Tzu_lr_builder* builder, const wchar_t* path) {
+  owned<zu_segy_prms_destroy> record(zu_segy_prms_create());
+  if (!choose_segy_params(path, record.get())) return;
+  Izu_layer* layer = add_layer(builder, path, "grid_lr2d");
+  if (layer == nullptr) return;
+  zu_lr_set_lr_subtype(layer, L"segy_sub_lr2d");
+  // A section has no map projection.
+  if (grid_layer2d* object = grid_layer_of_entity(layer)) object->clear_has_proj();
+  set_up_segy_layer(layer, record.get());
 }
 
 }  // namespace zu

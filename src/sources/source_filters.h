@@ -59,4 +59,13 @@ class tos4_coord_source_filter_adder : public source_filter {
   void add(Tzu_lr_builder* builder, const wchar_t* path) override;
 };
 
+/// A section, after a person has said where its traces lie.
+class segy_source_filter_adder : public source_filter {
+ public:
+  segy_source_filter_adder() : source_filter(220, 221, 222) {}
+  bool accepts(const wchar_t* path) override;
+  /// A person who declines leaves no layer and no error.
+  void add(Tzu_lr_builder* builder, const wchar_t* path) override;
+};
+
 }  // namespace zu

@@ -1,6 +1,10 @@
 #include "src/style/range_classes.h"
 
+#include "src/bundle/strings.h"
+#include "src/bundle/texts.h"
+
 #include <cmath>
+#include <string_view>
 #include <vector>
 
 namespace zu::style {
@@ -18,6 +22,22 @@ std::vector<Tzu_stl_prm*> styles_of(Tzu_rng_scale* scale) {
   for (std::uint64_t i = 0; i < size; ++i) add(zu_rng_scale_get_scale_prm_ptr(scale, i));
   add(zu_rng_scale_get_max_prm_ptr(scale));
   return all;
+}
+
+// Texts that all parts of the system share.
+constexpr std::int32_t below_text = -621, above_text = -622, between_text = -623;
+
+/// The form with each "%ls" replaced, in order.
+std::wstring filled(std::wstring form, const std::vector<std::wstring>& parts) {
+  constexpr std::wstring_view mark = L"%ls";
+  std::size_t place = 0;
+  for (const std::wstring& part : parts) {
+    place = form.find(mark, place);
+    if (place == std::wstring::npos) break;
+    form.replace(place, mark.size(), part);
+    place += part.size();
+  }
+  return form;
 }
 
 }  // namespace
@@ -57,6 +77,24 @@ void round_boundaries(Tzu_rng_scale* scale, std::int32_t digits) {
   }
 }
 
+void set_captions(Tzu_rng_scale* scale) {
+  std::int32_t digits = zu_rng_scale_get_round_digits(scale);
+  auto number = [&](double value) {
+    return text_of([&](Tzu_string_adp* a) { zu_round_digits_format_number(digits, value, a); });
+  };
+  std::wstring below = load_text(below_text) + number(zu_rng_scale_get_min_value(scale));
+  std::wstring above = load_text(above_text) + number(zu_rng_scale_get_max_value(scale));
+  zu_rng_scale_set_min_caption_w(scale, below.c_str());
+  zu_rng_scale_set_max_caption_w(scale, above.c_str());
+  const std::wstring form = load_text(between_text);
+  std::uint64_t size = zu_rng_scale_get_size(scale);
+  for (std::uint64_t i = 0; i < size; ++i) {
+    std::wstring between = filled(
+        form, {number(zu_rng_scale_get_min(scale, i)), number(zu_rng_scale_get_max(scale, i))});
+    zu_rng_scale_set_caption_w(scale, i, between.c_str());
+  }
+}
+
 bool spread_colors(Tzu_rng_scale* scale, std::int32_t array) {
   std::vector<Tzu_stl_prm*> styles = styles_of(scale);
   std::vector<Tzu_color> colors;
@@ -75,6 +113,7 @@ bool fill_range_scale(Tzu_rng_scale* scale, const data::open_reference& source,
   set_equal_intervals(scale, default_classes, grid.field_minimum(index), grid.field_maximum(index));
   zu_rng_scale_set_rng_type(scale, zu_range_equal);
   round_boundaries(scale, zu_rng_scale_get_round_digits(scale));
+  set_captions(scale);
   return spread_colors(scale, default_colors);
 }
 

@@ -17,13 +17,16 @@ void set_equal_intervals(Tzu_rng_scale* scale, std::uint32_t count, double minim
 /// leaves them as they are.
 void round_boundaries(Tzu_rng_scale* scale, std::int32_t digits);
 
+/// Captions of all rows from their boundaries, in the language in force; "other" keeps its own.
+void set_captions(Tzu_rng_scale* scale);
+
 /// Spreads a numbered array of colours over lower tail, classes and upper tail; transparencies
 /// stay. False, and nothing changed, if there is no such array.
 bool spread_colors(Tzu_rng_scale* scale, std::int32_t array);
 
-/// Ten equal intervals between the limits of a field, rounded as the scale says, from blue through
-/// white to red. False, and
-/// nothing changed, if the source does not open or has no such field.
+/// Ten equal intervals between the limits of a field, rounded as the scale says, with captions,
+/// from blue through white to red. False, and nothing changed, if the source does not open or has
+/// no such field.
 bool fill_range_scale(Tzu_rng_scale* scale, const data::open_reference& source,
                       const std::wstring& field);
 

@@ -90,8 +90,8 @@ TEST_F(bad_input, a_command_line_that_lacks_something_says_what) {
       {{"render", good_}, "--output"},
       {{"render", "", "-o", path("o.png")}, "SOURCE"},
       {{"render", good_, "-o", ""}, "--output"},
-      {{"render", good_, "-o", path("o.xyz")}, "must end in .png or .tif"},
-      {{"render", good_, "-o", path("noending")}, "must end in .png or .tif"},
+      {{"render", good_, "-o", path("o.xyz")}, "must end in .png, .tif, .pdf or .svg"},
+      {{"render", good_, "-o", path("noending")}, "must end in .png, .tif, .pdf or .svg"},
       {{"info"}, "SOURCE"},
       {{"info", good_, good_}, "good.tif"},
   };

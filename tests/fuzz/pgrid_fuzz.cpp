@@ -27,8 +27,7 @@ void read_some(pgrid_file& file) {
     pgrid_file::reading state(file);
     for (int level = 0; level < file.plan().levels(); ++level) {
       std::int64_t seen = 0;
-      file.for_tiles(p, level, true,
-                     [&](const pgrid_file::seen_tile&) { return ++seen < most_tiles; });
+      file.for_tiles(p, level, [&](const pgrid_file::seen_tile&) { return ++seen < most_tiles; });
     }
   }
 }

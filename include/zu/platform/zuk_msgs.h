@@ -1,8 +1,13 @@
 #pragma once
-// Messages to the person at the program: progress of long work. What is seen of it is the host's;
-// without a host's hooks everything is silent and nothing is ever stopped.
+// Messages to the person at the program, and progress of long work. What is seen of them is the
+// host's; without a host's hooks everything is silent and nothing is ever stopped.
 
 #include "zu/platform/zuk_api.h"
+
+typedef void (*Tzu_message_sink)(const wchar_t* text, void* user);
+/// Who gets the messages from now on; null is nobody.
+ZU_API void zu_set_message_sink(Tzu_message_sink sink, void* user);
+ZU_API void zu_show_wmessage(const wchar_t* text);
 
 /// What a host offers. A null member is skipped; `user` is handed back.
 typedef struct Tzu_progress_hooks {

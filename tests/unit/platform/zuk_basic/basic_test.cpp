@@ -60,6 +60,7 @@ TEST(color_array, may_give_its_colours_in_turn) {
 TEST(color_array, of_an_unknown_number_is_none) {
   Tzu_color color{1, 2, 3, 4};
   EXPECT_FALSE(zu_clr_arrays_generate_ex(-1, 1, &color, 0));
+  EXPECT_FALSE(zu_clr_arrays_generate_ex(26, 1, &color, 0));
   EXPECT_FALSE(zu_clr_arrays_generate_ex(1000, 1, &color, 0));
   EXPECT_FALSE(zu_clr_arrays_generate_ex(5, 1, nullptr, 0));
   EXPECT_EQ(color.r, 1);
@@ -102,6 +103,22 @@ TEST(channels, are_copied_with_names_and_limits) {
   zu_rgb_channels_destroy(to);
   EXPECT_EQ(zu_rgb_channels_get_red(nullptr), nullptr);
   zu_rgb_channels_destroy(nullptr);
+}
+
+TEST(color_array, of_number_25_runs_from_wine_through_white_to_black) {
+  Tzu_color colors[3] = {};
+  ASSERT_TRUE(zu_clr_arrays_generate_ex(25, 3, colors, 0));
+  EXPECT_EQ(colors[0].r, 128);
+  EXPECT_EQ(colors[0].g, 0);
+  EXPECT_EQ(colors[1].g, 255);
+  EXPECT_EQ(colors[2].r, 0);
+}
+
+TEST(options, overviews_are_built_unless_the_person_says_no) {
+  EXPECT_TRUE(zu_options_get_build_overviews());
+  zu_options_set_build_overviews(false);
+  EXPECT_FALSE(zu_options_get_build_overviews());
+  zu_options_set_build_overviews(true);
 }
 
 }  // namespace

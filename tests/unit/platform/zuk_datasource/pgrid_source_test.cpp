@@ -162,6 +162,27 @@ TEST(pgrid_source, statistics_of_empty_tiles_are_those_of_their_cells) {
   EXPECT_LE(stat.count, 6000u / 4);
 }
 
+TEST(pgrid_source, statistics_of_a_grid_that_is_almost_empty_come_at_once) {
+  folder f;
+  platform::grid_property p;
+  p.name = "p", p.type = element_int32;
+  platform::grid_head head;
+  head.type = zu_tos4_plane, head.size = {100000000, 100000000, 1};
+  const std::int32_t value = -5;
+  {
+    platform::pgrid_file file(f.at("a.pgrid"), head);
+    file.add_property(p);
+    file.write(0, {7, 7, 1, 1, 0}, reinterpret_cast<const std::byte*>(&value));
+    file.commit();
+  }
+  source s(f.at("a.pgrid"));
+  Tzu_field_stat stat{};
+  EXPECT_TRUE(zu_datasource_compute_stat(s.get(), 0, 0, nullptr, nullptr, &stat));
+  EXPECT_EQ(stat.count, 10000000000000000u);
+  EXPECT_EQ(stat.minimum, -5);
+  EXPECT_EQ(stat.maximum, 0);
+}
+
 // --- Volumes, profiles, fields
 
 TEST(pgrid_source, bands_become_slices) {
@@ -269,9 +290,9 @@ TEST(pgrid_source, slices_of_different_types_or_nodata_make_no_volume) {
     source s(f.at("a.pgrid"));
     EXPECT_EQ(convert(s, f.at("b.pgrid"), {nullptr, 0, true, nullptr, false}), round == 0);
   }
-  EXPECT_EQ(reasons(f.at("b.pgrid")),
-            std::vector<std::wstring>{
-                L"slices of different types or NoData cannot stand in one volume"});
+  EXPECT_EQ(
+      reasons(f.at("b.pgrid")),
+      std::vector<std::wstring>{L"slices of different types or NoData cannot stand in one volume"});
 }
 
 TEST(pgrid_source, bands_of_one_name_are_told_apart) {

@@ -56,7 +56,7 @@ std::string refusal(const std::string& path, bool overviews = true) {
     pgrid_file::reading state(file);
     for (std::size_t p = 0; p < file.properties().size(); ++p)
       for (int level = 0; level < (overviews ? file.plan().levels() : 1); ++level)
-        file.for_tiles(p, level, true, [](const pgrid_file::seen_tile&) { return true; });
+        file.for_tiles(p, level, [](const pgrid_file::seen_tile&) { return true; });
   } catch (const pgrid_failure& failure) {
     return failure.what();
   }
@@ -207,7 +207,7 @@ std::int32_t value_of_all(const std::string& path) {
     pgrid_file::reading state(file);
     for (int level = 0; level < file.plan().levels(); ++level) {
       const tile_level& l = file.plan().level(level);
-      file.for_tiles(0, level, false, [&](const pgrid_file::seen_tile& tile) {
+      file.for_tiles(0, level, [&](const pgrid_file::seen_tile& tile) {
         for (std::int64_t y = 0; y < tile.ny; ++y)
           for (std::int64_t x = 0; x < tile.nx; ++x) {
             std::int32_t here;

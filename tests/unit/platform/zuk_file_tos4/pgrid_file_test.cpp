@@ -169,7 +169,7 @@ TEST(pgrid_file, nodes_never_written_are_nodata_and_cost_nothing) {
     }
     EXPECT_LT(std::filesystem::file_size(f.at("a.pgrid")), 1u << 20);
     pgrid_file file(f.at("a.pgrid"), access::read);
-    std::byte cell[8];
+    alignas(8) std::byte cell[8];
     file.read_run(0, 9999999999999999, 1, cell);
     double value = 0;
     if (each.type == 1) value = static_cast<double>(std::to_integer<int>(cell[0]));
@@ -335,6 +335,22 @@ TEST(pgrid_file, opens_in_a_folder_that_cannot_be_written) {
     EXPECT_EQ(f.names(), std::vector<std::string>{"a.pgrid"});
   }
   std::filesystem::permissions(f.at(""), std::filesystem::perms(0700));
+}
+
+TEST(pgrid_file, an_edit_of_which_a_part_failed_does_not_stay) {
+  folder f;
+  std::vector<float> cells(30, 1), others(30, 2);
+  made(f.at("a.pgrid"), plane(10, 3), property("p", 9), cells);
+  pgrid_file file(f.at("a.pgrid"), access::edit);
+  {
+    pgrid_file::edit change(file);
+    file.write_run(0, 0, 30, bytes(others));
+    { pgrid_file::edit part(file); }
+    EXPECT_EQ(refusal([&] { change.commit(); }), "a part of it could not be written");
+  }
+  EXPECT_EQ(read_all<float>(file), cells);
+  file.write_run(0, 0, 30, bytes(others));
+  EXPECT_EQ(read_all<float>(file), others);
 }
 
 // --- Making

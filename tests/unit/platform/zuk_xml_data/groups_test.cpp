@@ -41,17 +41,20 @@ TEST(style_groups, any_settings_come_back) {
       manager_ptr saved = make.manager(type), loaded = make.manager(type);
       node_ptr tree = read_back(saving(saved.get()));
       ASSERT_TRUE(load(tree.get(), type, loaded.get())) << seed;
+      ASSERT_EQ(facts(loaded.get()), facts(saved.get())) << seed;
       ASSERT_EQ(written_by(saving(loaded.get())), written_by(saving(saved.get()))) << seed;
     }
     hillshade_ptr shade = make.hillshade(), other_shade = make.hillshade();
     node_ptr tree = read_back(saving(shade.get()));
     ASSERT_TRUE(zu_xml_save_style_load_hillshade_style(nullptr, tree.get(), L"hillshade",
                                                        other_shade.get()));
+    ASSERT_EQ(facts(other_shade.get()), facts(shade.get())) << seed;
     ASSERT_EQ(written_by(saving(other_shade.get())), written_by(saving(shade.get()))) << seed;
     isoline_ptr isolines = make.isolines(), others = make.isolines();
     tree = read_back(saving(isolines.get()));
     ASSERT_TRUE(
         zu_xml_save_style_load_isoline_style(nullptr, tree.get(), L"isoline", others.get()));
+    ASSERT_EQ(facts(others.get()), facts(isolines.get())) << seed;
     ASSERT_EQ(written_by(saving(others.get())), written_by(saving(isolines.get()))) << seed;
   }
 }

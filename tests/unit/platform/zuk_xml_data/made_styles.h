@@ -1,10 +1,12 @@
 #pragma once
 // Styles with settings from a seeded generator, and the text that a group writes of them.
 
+#include <bit>
 #include <cmath>
 #include <memory>
 #include <random>
 #include <string>
+#include <string_view>
 
 #include "platform/zuk_xml_data/nodes.h"
 #include "tests/unit/platform/taken_text.h"
@@ -55,7 +57,8 @@ class style_maker {
     return made;
   }
   void fill(Tzu_stl_prm* style) {
-    for (int i = 0; i < 2; ++i) style->colors[i] = color(), style->lines[i] = line();
+    for (int i = 0; i < 2; ++i) style->colors[i] = color();
+    for (int i = 0; with_lines_ && i < 2; ++i) style->lines[i] = line();
   }
   void fill(Tzu_scale_prm* row) {
     row->visible = flag();
@@ -63,6 +66,7 @@ class style_maker {
   }
   manager_ptr manager(const char* type) {
     manager_ptr made(zu_stl_mngr_create(type));
+    with_lines_ = type == std::string_view("pln_mngr_style");  // the others have no use for them
     zu_stl_mngr_set_mode(made.get(), below(4));
     fill(zu_stl_mngr_get_simple_sp_ptr(made.get()));
     zu_stl_mngr_set_val_prop_name_w(made.get(), text().c_str());
@@ -127,6 +131,96 @@ class style_maker {
   }
 
   std::mt19937 random_;
+  bool with_lines_ = true;
+};
+
+/// All that a style holds, asked of the style itself, to hold what was read against what was
+/// written.
+class facts {
+ public:
+  explicit facts(Tzu_stl_mngr* m) {
+    add(zu_stl_mngr_get_mode(m));
+    add(*zu_stl_mngr_get_simple_sp_ptr(m));
+    add([&](Tzu_string_adp* a) { zu_stl_mngr_get_val_prop_name_w(m, a); });
+    add([&](Tzu_string_adp* a) { zu_stl_mngr_get_rng_prop_name_w(m, a); });
+    add(zu_stl_mngr_get_val_scale_ptr(m));
+    add(zu_stl_mngr_get_rng_scale_ptr(m));
+  }
+  explicit facts(const Tzu_hillshade_style* s) {
+    add([&](Tzu_string_adp* a) { zu_hillshade_style_get_propname(s, a); });
+    for (double each :
+         {zu_hillshade_style_get_z_coeff(s), zu_hillshade_style_get_sun_slope_degree(s),
+          zu_hillshade_style_get_sun_aspect_degree(s), zu_hillshade_style_get_part(s)})
+      add(each);
+    add(zu_hillshade_style_get_use(s));
+    add(zu_hillshade_style_get_multidir(s));
+  }
+  explicit facts(const Tzu_isoline_style* s) {
+    add([&](Tzu_string_adp* a) { zu_isoline_style_get_propname(s, a); });
+    add(zu_isoline_style_get_use(s));
+    add(zu_isoline_style_get_thin_step(s));
+    add(zu_isoline_style_get_bold_step(s));
+    Tzu_pln_style line;
+    zu_isoline_style_get_thin_style(s, &line);
+    add(line);
+    zu_isoline_style_get_bold_style(s, &line);
+    add(line);
+  }
+  bool operator==(const facts&) const = default;
+
+ private:
+  void add(double number) { all_ += std::to_wstring(std::bit_cast<std::uint64_t>(number)) + L'|'; }
+  template <class function> auto add(function ask) -> decltype(ask(nullptr)) {
+    all_ += text_of(ask) + L'|';
+  }
+  void add(Tzu_color c) {
+    for (int each : {c.r, c.g, c.b, c.a}) add(each);
+  }
+  void add(const Tzu_pln_style& line) {
+    for (double each : {line.width, line.cap + 0.0, line.join + 0.0, line.dash_count + 0.0,
+                        line.visible + 0.0, line.label + 0.0})
+      add(each);
+    for (int i = 0; i < line.dash_count; ++i) add(line.dashes[i]);
+    add(line.color);
+  }
+  void add(const Tzu_stl_prm& style) {
+    for (int i = 0; i < 2; ++i) add(style.colors[i]);
+    for (int i = 0; i < 2; ++i) add(style.lines[i]);
+  }
+  void add(const Tzu_scale_prm* row) {
+    add(row->visible);
+    add(row->style);
+  }
+  void add(Tzu_val_scale* scale) {
+    for (std::uint64_t i = 0; i < zu_val_scale_get_size(scale); ++i) {
+      add([&](Tzu_string_adp* a) { zu_val_scale_get_text_w(scale, i, a); });
+      add([&](Tzu_string_adp* a) { zu_val_scale_get_caption_w(scale, i, a); });
+      add(zu_val_scale_get_scale_prm_ptr(scale, i));
+    }
+    add([&](Tzu_string_adp* a) { zu_val_scale_get_other_caption_w(scale, a); });
+    add(zu_val_scale_get_other_prm_ptr(scale));
+  }
+  void add(Tzu_rng_scale* scale) {
+    for (std::uint64_t i = 0; i < zu_rng_scale_get_size(scale); ++i) {
+      add(zu_rng_scale_get_min(scale, i));
+      add(zu_rng_scale_get_max(scale, i));
+      add([&](Tzu_string_adp* a) { zu_rng_scale_get_caption_w(scale, i, a); });
+      add(zu_rng_scale_get_scale_prm_ptr(scale, i));
+    }
+    for (double each :
+         {zu_rng_scale_get_min_value(scale), zu_rng_scale_get_max_value(scale),
+          zu_rng_scale_get_rng_type(scale) + 0.0, zu_rng_scale_get_round_digits(scale) + 0.0,
+          zu_rng_scale_get_deviation_coeff(scale)})
+      add(each);
+    add([&](Tzu_string_adp* a) { zu_rng_scale_get_min_caption_w(scale, a); });
+    add([&](Tzu_string_adp* a) { zu_rng_scale_get_max_caption_w(scale, a); });
+    add([&](Tzu_string_adp* a) { zu_rng_scale_get_other_caption_w(scale, a); });
+    add(zu_rng_scale_get_min_prm_ptr(scale));
+    add(zu_rng_scale_get_max_prm_ptr(scale));
+    add(zu_rng_scale_get_other_prm_ptr(scale));
+  }
+
+  std::wstring all_;
 };
 
 /// The whole text of a tree in which `save` has written under the root.

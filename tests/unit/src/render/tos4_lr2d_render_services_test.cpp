@@ -4,6 +4,7 @@
 
 #include "src/bundle/strings.h"
 #include "tests/unit/src/made_grid.h"
+#include "tests/unit/src/made_pgrid.h"
 #include "tests/unit/src/render/layer_bench.h"
 #include "zu/platform/zuk_dib.h"
 #include "zu/platform/zuk_tos_lr2d.h"
@@ -159,26 +160,69 @@ TEST(tos4_grid2d_lr2d_render_service, values_between_the_nodes_are_bilinear_if_t
   }
 }
 
-TEST(tos4_grid3d_lr2d_render_service, asks_for_the_slice_that_the_layer_says) {
-  // A grid of one plane has slice 0 and no other.
-  for (int slice : {0, 1, 7}) {
-    slice_bench b("tos_slice_lr2d", four_bands("tos_slice.tif"));
-    b.style();
-    zu_tos_grid_lr2d_set_draw_type(b.layer.get(), zu_tos_draw_image);
-    zu_tos_slice_lr2d_set_zslice(b.layer.get(), slice);
-    page shown(2, 1, {0, 0, 2, 1});
-    b.draw(shown);
-    EXPECT_EQ(shown.is_empty(), slice != 0) << slice;
+/// Two cells a slice: 1, 2 in the lowest, then 11, 12 and so on.
+std::wstring volume(const std::string& name, int slices) {
+  tests::made_pgrid file(name);
+  file.grid = {zu_tos4_volume, {2, 1, slices}, {0.5, 0.5, 0}, {1, 1, 1}, 0.0, nullptr};
+  std::vector<double> nodes;
+  for (int z = 0; z < slices; ++z) nodes.insert(nodes.end(), {z * 10 + 1.0, z * 10 + 2.0});
+  file.add(L"v", nodes);
+  return file.close();
+}
+
+struct volume_bench : slice_bench {
+  explicit volume_bench(const std::string& name) : slice_bench("tos_slice_lr2d", volume(name, 4)) {
+    zu_tos_grid_lr2d_set_draw_type(layer.get(), zu_tos_draw_gray);
+    Tzu_clr_channel* gray =
+        zu_rgb_channels_get_gray(zu_tos_grid_lr2d_get_rgb_channels_ptr(layer.get()));
+    zu_clr_channel_set_prop_name_w(gray, L"v");
+    zu_clr_channel_set_limits(gray, 0, 255);
   }
+  int first_cell(std::int64_t slice) {
+    zu_tos_slice_lr2d_set_zslice(layer.get(), slice);
+    page shown(2, 1, {0, 0, 2, 1});
+    draw(shown);
+    return shown.is_empty() ? -1 : shown.pixel(0, 0)[0];
+  }
+};
+
+TEST(tos4_grid3d_lr2d_render_service, shows_the_slice_that_the_layer_says) {
+  volume_bench b("tos_volume.pgrid");
+  EXPECT_EQ(b.first_cell(0), 1);
+  EXPECT_EQ(b.first_cell(2), 21);
+  EXPECT_EQ(b.first_cell(3), 31);
+  EXPECT_EQ(b.first_cell(4), -1);  // there are four
 }
 
 TEST(tos4_grid3d_lr2d_render_service, the_slice_is_cut_to_32_bits) {
-  slice_bench b("tos_slice_lr2d", four_bands("tos_far_slice.tif"));
-  zu_tos_grid_lr2d_set_draw_type(b.layer.get(), zu_tos_draw_image);
-  zu_tos_slice_lr2d_set_zslice(b.layer.get(), std::int64_t{1} << 32);
-  page shown(2, 1, {0, 0, 2, 1});
-  b.draw(shown);
-  EXPECT_FALSE(shown.is_empty());
+  volume_bench b("tos_far_slice.pgrid");
+  EXPECT_EQ(b.first_cell((std::int64_t{1} << 32) + 2), 21);
+}
+
+TEST(tos4_grid3d_lr2d_render_service, the_shade_is_that_of_the_slice) {
+  // Level in the lowest slice, a slope in the other.
+  tests::made_pgrid file("tos_shade.pgrid");
+  file.grid = {zu_tos4_volume, {4, 4, 2}, {0.5, 0.5, 0}, {1, 1, 1}, 0.0, nullptr};
+  std::vector<double> nodes(32, 0.0);
+  for (std::size_t i = 0; i < 16; ++i) nodes[16 + i] = static_cast<double>(i % 4) * 5;
+  file.add(L"v", nodes);
+  slice_bench b("tos_slice_lr2d", file.close());
+  zu_stl_prm_clr_set_all(
+      zu_stl_mngr_get_simple_sp_ptr(zu_tos_grid_lr2d_get_clr_stl_mngr_ptr(b.layer.get())),
+      {200, 200, 200, 0}, 0);
+  Tzu_hillshade_style* shade = zu_tos_grid_lr2d_get_hillshade_style(b.layer.get());
+  zu_hillshade_style_set_use(shade, true);
+  zu_hillshade_style_set_propname(shade, L"v");
+  rgba middle[2];
+  for (std::int64_t slice : {0, 1}) {
+    zu_tos_slice_lr2d_set_zslice(b.layer.get(), slice);
+    page shown(40, 40, {0, 0, 4, 4});
+    b.draw(shown);
+    middle[slice] = shown.pixel(20, 20);
+  }
+  EXPECT_EQ(middle[0][3], 255);
+  EXPECT_EQ(middle[1][3], 255);
+  EXPECT_NE(middle[0][0], middle[1][0]);
 }
 
 }  // namespace

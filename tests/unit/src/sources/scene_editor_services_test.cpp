@@ -74,7 +74,7 @@ TEST(scene_editor_services, of_other_files_has_its_extensions_and_filters_in_ord
   EXPECT_EQ(types_of(service), (texts{L"rtr_lr2d", L"tos_grid_lr2d", L"tos_slice_lr2d",
                                       L"tos_2crd_lr2d", L"tos_grid_lr1d"}));
   EXPECT_EQ(filters_of(service),
-            (texts{L"Raster Files", L"OAT Uniform Grid", L"OAT XY Coordinates"}));
+            (texts{L"Raster Files", L"OAT Uniform Grid", L"OAT XY Coordinates", L"SEG-Y Files"}));
 }
 
 TEST(scene_editor_services, show_each_kind_of_layer_by_a_shared_picture) {

@@ -5,7 +5,9 @@
 #include <vector>
 
 #include "src/bundle/owned.h"
+#include "src/bundle/strings.h"
 #include "tests/unit/src/made_grid.h"
+#include "zu/platform/zuk_os.h"
 
 namespace {
 
@@ -72,6 +74,20 @@ TEST_F(range_classes, are_rounded_to_multiples_of_a_power_of_ten) {
   set_equal_intervals(scale_, 1, -2.5, 2.5);
   style::round_boundaries(scale_, 0);
   EXPECT_EQ(boundaries(), (std::vector<double>{-3, -3, 3, 3})) << "halves go away from zero";
+}
+
+TEST_F(range_classes, have_captions_of_their_boundaries) {
+  std::int32_t language = zu_res_get_lng();
+  zu_res_set_lng(50000);
+  set_equal_intervals(scale_, 2, 0, 5);
+  zu_rng_scale_set_round_digits(scale_, -1);
+  style::set_captions(scale_);
+  auto caption = [&](auto ask) { return text_of([&](Tzu_string_adp* a) { ask(a); }); };
+  EXPECT_EQ(caption([&](auto* a) { zu_rng_scale_get_min_caption_w(scale_, a); }), L"up to 0.0");
+  EXPECT_EQ(caption([&](auto* a) { zu_rng_scale_get_max_caption_w(scale_, a); }), L"above 5.0");
+  EXPECT_EQ(caption([&](auto* a) { zu_rng_scale_get_caption_w(scale_, 0, a); }), L"0.0 – 2.5");
+  EXPECT_EQ(caption([&](auto* a) { zu_rng_scale_get_caption_w(scale_, 1, a); }), L"2.5 – 5.0");
+  zu_res_set_lng(language);
 }
 
 TEST_F(range_classes, take_the_colours_of_an_array_from_tail_to_tail) {

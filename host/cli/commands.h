@@ -30,5 +30,6 @@ command add_info(CLI::App& options);
 command add_convert(CLI::App& options);
 command add_probe(CLI::App& options);
 command add_project(CLI::App& options);
+command add_config(CLI::App& options);
 
 }  // namespace zu::cli

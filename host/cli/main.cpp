@@ -12,6 +12,7 @@
 #include "host/cli/manual.h"
 #include "host/cli/option_texts.h"
 #include "host/core/failure.h"
+#include "host/core/settings.h"
 
 namespace {
 
@@ -29,6 +30,7 @@ constexpr entry commands[] = {
     {"convert", "put a grid into a .pgrid file", &add_convert},
     {"probe", "say what a grid has at a point", &add_probe},
     {"project", "keep scenes of layers in a file and draw them", &add_project},
+    {"config", "choose what holds for all projects", &add_config},
 };
 
 std::string names() {
@@ -59,12 +61,17 @@ int main(int argc, char** argv) {
   parser.require_subcommand(0, 1);
   parser.set_version_flag("--version", "zugrid " ZU_VERSION);
   int result = exit_success;
-  std::string running;
+  std::string running, language;
+  parser.add_option("--lang", language, "language of what grids say of themselves: ru or en")
+      ->type_name("LANG")
+      ->check(CLI::IsMember({"ru", "en"}));
   for (const entry& each : commands) {
     CLI::App* part = parser.add_subcommand(each.name, each.summary);
     command run = each.add(*part);
-    part->callback([&result, &running, run, name = each.name] {
+    part->fallthrough();  // so that --lang may stand behind the command too
+    part->callback([&result, &running, &language, run, name = each.name] {
       running = name;
+      zu::host::choose_language(language);
       result = run();
     });
   }

@@ -9,7 +9,7 @@ namespace {
 
 constexpr double miter_limit = 10;
 /// Vertices after which opaque lines are stroked: Cairo sorts the edges of a path, and several
-/// paths are done sooner than a long one.
+/// paths are done sooner than a long one. On a screen each line is a path of its own.
 constexpr std::size_t opaque_at_once = 200;
 
 /// Dashes in pixels; empty for a solid line. A pattern Cairo would refuse is a solid line.
@@ -83,7 +83,8 @@ double strokes::margin() const { return width / 2 * miter_limit + 2; }
 
 void stroke(cairo_t* cairo, const strokes& lines) {
   set_pen(cairo, lines);
-  std::size_t waiting = 0, at_once = lines.color.a == 0 ? opaque_at_once : SIZE_MAX;
+  std::size_t waiting = 0, at_once = SIZE_MAX;
+  if (lines.color.a == 0) at_once = lines.thinned ? 0 : opaque_at_once;
   for (const line_piece& part : lines.parts) {
     if (!lines.dashes.empty()) {
       stroke_dashed(cairo, part, lines);

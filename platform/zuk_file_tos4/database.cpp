@@ -177,7 +177,7 @@ void database::configure() {
   run("PRAGMA cell_size_check = ON");
   run("PRAGMA temp_store = MEMORY");
   if (mode_ == access::build) {
-    run("PRAGMA journal_mode = OFF");
+    run("PRAGMA journal_mode = MEMORY");  // OFF is refused to a defensive connection
     run("PRAGMA synchronous = OFF");
     run("PRAGMA locking_mode = EXCLUSIVE");
   } else if (mode_ == access::edit) {

@@ -13,6 +13,7 @@
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <vector>
 
 #include "platform/zuk_basic/guarded.h"
 #include "platform/zuk_basic/utf8.h"
@@ -57,6 +58,23 @@ void check_depth(const pugi::xml_document& tree) {
   if (!walked.traverse(depths)) throw refused("is nested too deeply");
 }
 
+/// Blank text is no content; where character references have made it, it is not to stay either,
+/// since it would be gone once the tree is written and read again.
+void drop_blank_texts(pugi::xml_document& tree) {
+  struct walker : pugi::xml_tree_walker {
+    std::vector<pugi::xml_node> blank;
+    bool for_each(pugi::xml_node& node) override {
+      std::string_view text = node.value();
+      if (node.type() == pugi::node_pcdata &&
+          text.find_first_not_of(" \t\r\n") == std::string_view::npos)
+        blank.push_back(node);
+      return true;
+    }
+  } texts;
+  tree.traverse(texts);
+  for (pugi::xml_node& node : texts.blank) node.parent().remove_child(node);
+}
+
 std::size_t line_of(std::string_view text, std::ptrdiff_t offset) {
   std::string_view before = text.substr(0, static_cast<std::size_t>(offset > 0 ? offset : 0));
   return static_cast<std::size_t>(std::count(before.begin(), before.end(), '\n')) + 1;
@@ -83,6 +101,7 @@ Tzu_xnode* parsed(std::string_view text) {
   }
   if (!root) throw refused("is no XML: it has no root");
   check_depth(*tree);
+  drop_blank_texts(*tree);
   return new Tzu_xnode{root, std::move(tree)};
 }
 
@@ -109,7 +128,10 @@ std::string text_of(const Tzu_xnode& root) {
   out << "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
   root.tree->save(out, "  ", pugi::format_indent | pugi::format_no_declaration,
                   pugi::encoding_utf8);
-  return out.str();
+  // pugixml writes a carriage return inside a text bare, and would read a line's end there.
+  std::string text = out.str(), escaped;
+  for (char letter : text) letter == '\r' ? escaped += "&#13;" : escaped += letter;
+  return escaped;
 }
 
 void write(const std::string& path, const std::string& text) {

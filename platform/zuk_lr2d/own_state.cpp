@@ -38,7 +38,7 @@ own_state* state_of(const Izu_layer* layer) {
   return layer != nullptr ? layer->own.get() : nullptr;
 }
 
-bool own_state::box_of(data_source source, Tzu_box_d2& box) {
+bool own_state::box_of(const std::wstring& /*name*/, data_source source, Tzu_box_d2& box) {
   double four[4];
   if (!call<&data_source_impl::extent>(source, four, true)) return false;
   zu_box_d2_make_xy(&box, four[0], four[1], four[2], four[3]);
@@ -65,7 +65,7 @@ namespace {
 
 bool own_box(const Izu_layer& layer, Tzu_box_d2& box) {
   open_source source(layer.source);
-  if (!layer.own->box_of(source.get(), box)) return false;
+  if (!layer.own->box_of(layer.source, source.get(), box)) return false;
   if (!layer.own->reprojected()) return true;
   std::wstring target = text_of([&](Tzu_string_adp* a) { zu_lr2d_get_dst_pj4wstr(&layer, a); });
   owned<zu_rpj_fb_d2_destroy> rpj(zu_rpj_fb_d2_create());

@@ -23,8 +23,8 @@ class own_state {
   virtual Tzu_stl_mngr* style_manager() { return nullptr; }
   virtual Tzu_hillshade_style* hillshade_style() { return nullptr; }
   virtual Tzu_isoline_style* isoline_style() { return nullptr; }
-  /// Box of an open source in source coordinates, the outer edge of its cells.
-  virtual bool box_of(data_source source, Tzu_box_d2& box);
+  /// Box of the open source of that name in source coordinates, the outer edge of its cells.
+  virtual bool box_of(const std::wstring& name, data_source source, Tzu_box_d2& box);
   /// Whether its box goes through the projections of source and scene.
   virtual bool reprojected() const { return true; }
   // The kind's own settings in the project tree.

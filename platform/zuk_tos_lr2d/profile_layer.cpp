@@ -15,7 +15,7 @@ namespace {
 class profile_state final : public own_state {
  public:
   Tzu_stl_mngr* style_manager() override { return manager.get(); }
-  bool box_of(zu::data_source source, Tzu_box_d2& box) override;
+  bool box_of(const std::wstring& name, zu::data_source source, Tzu_box_d2& box) override;
   /// Curves are drawn in the layer's own coordinates.
   bool reprojected() const override { return false; }
   void save(Tzu_xnode* node, void* context) const override;
@@ -44,7 +44,7 @@ bool heights_of(zu::data_source source, double& low, double& high) {
   return std::isfinite(low) && std::isfinite(high);
 }
 
-bool profile_state::box_of(zu::data_source source, Tzu_box_d2& box) {
+bool profile_state::box_of(const std::wstring& /*name*/, zu::data_source source, Tzu_box_d2& box) {
   zu::grid_source grid = zu::cast<zu::grid_source_impl>(source);
   int32_t sizes[3];
   double origin[3], spacing[3], low, high;

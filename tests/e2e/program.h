@@ -81,6 +81,7 @@ class in_a_folder : public testing::Test {
       if (std::freopen((log + "out").c_str(), "w", stdout) == nullptr ||
           std::freopen((log + "err").c_str(), "w", stderr) == nullptr)
         _exit(126);
+      setenv("XDG_CONFIG_HOME", path("config").c_str(), 1);  // not the settings of who tests
       if (prepare) prepare();
       std::string program = program_path();
       std::vector<char*> all{program.data()};

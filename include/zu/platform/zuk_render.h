@@ -2,6 +2,7 @@
 // A render: one picture of one scene box on a drawing context.
 
 #include "zu/platform/zuk_drwc.h"
+#include "zu/platform/zuk_lr2d.h"
 
 typedef struct Izu_render Izu_render;
 
@@ -28,3 +29,8 @@ ZU_API int32_t zu_render_get_plane(const Izu_render* render);
 /// Draws polylines given in render coordinates, as `zu_drwc_draw_pln` draws millimetres.
 ZU_API void zu_render_cr_pln(Izu_render* render, const Tzu_ov_d2* lines,
                              const Tzu_pln_style* style);
+/// Draws the nodes of a layer of the type "tos_2crd_lr2d" as square points in the colours of its
+/// style manager: the simple one, or by the value of a scale's field. Selected nodes have the
+/// scene's colour of the selection, or their own. A layer of another type is left alone, and what
+/// cannot be read is not drawn.
+ZU_API void zu_tos_2crd_lr2d_draw(Izu_render* render, Izu_layer* layer);

@@ -251,7 +251,7 @@ ZU_API const Tzu_rotate_params* zu_stl_mngr_get_rotate_params(const Tzu_stl_mngr
 // --- Hillshade and isolines. A null style gives the value of a new one.
 
 typedef struct Tzu_hillshade_style Tzu_hillshade_style;
-/// Not in use; z factor 1, sun at 45 degrees above the horizon and azimuth 315, part 0.5.
+/// Not in use; z factor 1, sun at 45 degrees above the horizon and azimuth 315, half of the colour.
 ZU_API Tzu_hillshade_style* zu_hillshade_style_create(void);
 ZU_API void zu_hillshade_style_destroy(Tzu_hillshade_style* style);
 ZU_API void zu_hillshade_style_assign(Tzu_hillshade_style* style, const Tzu_hillshade_style* from);

@@ -44,3 +44,10 @@ ZU_API void zu_tos_grid_1d_lr2d_set_height_prp_name_w(Izu_layer* layer, const wc
 /// another kind of layer. A new layer has the identity.
 ZU_API const Tzu_affine_2d* zu_tos_grid_lr1d_get_affine_trnsf(const Izu_layer* layer);
 ZU_API void zu_tos_grid_lr1d_set_affine_trnsf(Izu_layer* layer, const Tzu_affine_2d* affine);
+
+// --- Grids whose nodes have columns of x and y ("tos_2crd_lr2d"), drawn as points
+
+ZU_API Tzu_stl_mngr* zu_tos_2crd_lr2d_get_clr_stl_mngr_ptr(const Izu_layer* layer);
+/// Side of a point, 0 to 100 mm; a new layer has 1. What is no number is ignored.
+ZU_API double zu_tos_2crd_lr2d_get_point_size(const Izu_layer* layer);
+ZU_API void zu_tos_2crd_lr2d_set_point_size(Izu_layer* layer, double millimetres);

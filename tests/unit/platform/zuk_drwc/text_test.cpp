@@ -132,6 +132,8 @@ TEST_F(objects, a_pdf_lists_each_once_inside_its_outer_one) {
     zu_drwc_beg_object_w(drwc.get(), L"inner");
     zu_drwc_end_object_w(drwc.get(), L"outer");  // not the innermost one: no effect
     zu_drwc_end_object_w(drwc.get(), L"inner");
+    zu_drwc_beg_object_w(drwc.get(), L"inner");  // inside the outer one, which is still open
+    zu_drwc_end_object_w(drwc.get(), L"inner");
     zu_drwc_end_object_w(drwc.get(), L"outer");
     zu_drwc_end_object_w(drwc.get(), L"never begun");
   }

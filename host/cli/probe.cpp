@@ -30,7 +30,9 @@ int run(const texts& given) {
   if (!given.crs.empty()) check_projection("--crs", given.crs);
   host::bundle services;
   host::scene scene(services);
-  host::layer& layer = scene.add(given.source);
+  // Whatever layer the source would be, the grid behind it is asked.
+  host::layer& layer = scene.add_layer("grid_lr2d", given.source);
+  layer.data();
   if (!given.crs.empty()) scene.set_projection(given.crs);
   std::vector<host::object_info> found = host::probe(services, layer, x, y);
   if (found.empty()) throw host::failure(given.source, "has no cell at this point");

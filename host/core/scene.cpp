@@ -69,7 +69,9 @@ layer& scene::add(const std::string& source) {
   auto found = std::find_if(filters.begin(), filters.end(), takes);
   if (found != filters.end())
     call<&scene_editor_filter_impl::add>(*found, builder.get(), path.c_str());
-  else
+  // A filter that neither made a layer nor said why had a dialog declined, for want of trace
+  // coordinates mostly; the samples can be seen without.
+  if (layers_.size() == before && work.error_text.empty())
     zu_lr_builder_add_layer(builder.get(), path.c_str(), grid_type);
   if (layers_.size() == before) {
     std::vector<std::string> why = reasons(path, zu_problem_open);

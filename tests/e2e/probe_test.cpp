@@ -49,6 +49,17 @@ TEST_F(probe, says_where_the_cell_is_counted_from_one) {
   EXPECT_NE(result.out.find("height: 3"), std::string::npos) << result.out;
 }
 
+TEST_F(probe, a_grid_file_says_what_its_origin_says) {
+  placed();
+  ASSERT_EQ(run({"convert", path("g.tif"), path("g.pgrid")}).exit, 0);
+  std::size_t files = file_count();
+  outcome original = run({"probe", path("g.tif"), "500125", "6000985"});
+  outcome converted = run({"probe", path("g.pgrid"), "500125", "6000985"});
+  EXPECT_EQ(converted.exit, 0) << converted.err;
+  EXPECT_EQ(converted.out, original.out);
+  EXPECT_EQ(file_count(), files) << "a look left something beside the file";
+}
+
 TEST_F(probe, a_point_beside_the_grid_is_a_failure_with_its_reason) {
   placed();
   outcome result = run({"probe", path("g.tif"), "500131", "6000990"});

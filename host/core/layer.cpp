@@ -13,6 +13,9 @@
 namespace zu::host {
 namespace {
 
+/// The platform draws these itself.
+constexpr char coordinates_type[] = "tos_2crd_lr2d";
+
 std::string file_name_of(const std::string& path) {
   std::size_t slash = path.find_last_of("/\\");
   return slash == std::string::npos ? path : path.substr(slash + 1);
@@ -85,11 +88,15 @@ using node_ptr = std::unique_ptr<Tzu_xnode, closed>;
 
 }  // namespace
 
+bool layer::has_type(const bundle& services, const std::string& type) {
+  return services.layers(type) || services.renderer(type) || type == coordinates_type;
+}
+
 layer::layer(const bundle& services, const std::string& type, const std::string& source)
     : services_(services), entity_(zu_lr2d_create(type.c_str())) {
   call<&layer_2d_service_impl::create_layer>(
       services.layers(type), layer_2d_visitor(handle_of<layer_2d_visitor_impl>(*this)));
-  if (entity_ == nullptr || (!object_ && !services.renderer(type))) {
+  if (entity_ == nullptr || !has_type(services, type)) {
     zu_lr2d_destroy(entity_);
     throw failure(source, "there are no layers of type " + type);
   }
@@ -189,6 +196,7 @@ void layer::load(Tzu_xnode* node) {
 }
 
 void layer::draw(Izu_render* render) const {
+  if (type() == coordinates_type) return zu_tos_2crd_lr2d_draw(render, entity_);
   call<&layer_2d_renderer_extension_service_impl::render>(services_.renderer(type()), render,
                                                           entity_);
 }

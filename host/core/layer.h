@@ -31,6 +31,8 @@ struct draw_settings {
 
 class layer final : layer_2d_visitor_impl {
  public:
+  /// Whether there are layers of a type: the bundle's, or the platform's own.
+  static bool has_type(const bundle& services, const std::string& type);
   /// A layer of a type that the bundle or the platform knows, on a source that may be missing.
   /// Throws `failure` for an unknown type.
   layer(const bundle& services, const std::string& type, const std::string& source);

@@ -153,7 +153,7 @@ void project::read_layer(Tzu_xnode* node, project_scene& scene) {
   project_layer read;
   read.kept = copy_of(node);
   std::string type = attribute(node, L"type");
-  if (services_.layers(type) || services_.renderer(type)) {
+  if (layer::has_type(services_, type)) {
     layer& shown = scene.content->add_layer(type, read_source(attribute(node, L"source"), folder_));
     read.shown = &shown;
     std::wstring subtype = wide(attribute(node, L"subtype"));

@@ -19,7 +19,7 @@ std::wstring& main_module() {
   return path;
 }
 
-bool build_overviews = true;
+bool build_overviews = false;
 
 }  // namespace
 

@@ -16,7 +16,9 @@ namespace {
 
 constexpr wchar_t values[] = L"Values";
 constexpr std::int32_t net_of_two_dimensions = 3;
-constexpr std::uint64_t tile_traces = 16, most_tile_samples = 4096;
+// Whoever reads a section in row order asks for the samples of one tile at a time: it is as many
+// whole rows as can be held, so that a trace is not visited for each of its samples.
+constexpr std::uint64_t most_tile_samples = std::uint64_t(1) << 22;
 constexpr std::size_t traces_at_once = 64;
 
 bool fits(std::int64_t origin, std::uint64_t size, std::uint64_t all) {
@@ -113,8 +115,8 @@ class segy_block final : public polymorphic<grid_block_impl> {
  public:
   explicit segy_block(segy_reader reader)
       : reader_(std::move(reader)),
-        tile_x_(std::min(tile_traces, reader_.columns())),
-        tile_y_(std::min(most_tile_samples, reader_.rows())) {}
+        tile_x_(std::min(most_tile_samples, reader_.columns())),
+        tile_y_(std::clamp(most_tile_samples / tile_x_, std::uint64_t(1), reader_.rows())) {}
 
   void release() override { delete this; }
   std::int32_t type() override { return reader_.type(); }

@@ -100,18 +100,32 @@ std::vector<Tzu_vtx_d2> segy_points(const section_file& file, std::int32_t coord
 
 bool estimate_segy_params(const section_file& file, const Tzu_segy_estim_opts& options,
                           Tzu_segy_prms& params, const share_taker& progress) {
-  for (std::int32_t type : options.types) {
-    if (!is_line(segy_points(file, type, options.coeff_type, options.coeff, progress),
-                 file.traces(), options.allow_duplicates))
-      continue;
-    params.coord_type = type;
-    params.coeff_type = options.coeff_type;
-    params.coeff = options.coeff_type == zu_segy_coeff_header
-                       ? options.coeff
-                       : fixed_coefficient(options.coeff_type, options.coeff);
-    return true;
+  bool stopped = false;
+  auto watched = [&](double share) {
+    stopped = stopped || !progress(share);
+    return !stopped;
+  };
+  auto points_of = [&](std::int32_t type) {
+    return segy_points(file, type, options.coeff_type, options.coeff, watched);
+  };
+  auto fits = [&](std::int32_t type) {
+    return is_line(points_of(type), file.traces(), options.allow_duplicates);
+  };
+  auto found = std::find_if(options.types.begin(), options.types.end(), fits);
+  if (found == options.types.end()) {
+    constexpr std::int32_t all[] = {zu_segy_coord_receiver, zu_segy_coord_source,
+                                    zu_segy_coord_cdp};
+    auto has_none = [&](std::int32_t type) { return points_of(type).empty(); };
+    if (!std::all_of(std::begin(all), std::end(all), has_none)) return false;
+    found = options.types.begin();
   }
-  return false;
+  if (stopped || found == options.types.end()) return false;
+  params.coord_type = *found;
+  params.coeff_type = options.coeff_type;
+  params.coeff = options.coeff_type == zu_segy_coeff_header
+                     ? options.coeff
+                     : fixed_coefficient(options.coeff_type, options.coeff);
+  return true;
 }
 
 }  // namespace zu::platform

@@ -181,8 +181,10 @@ bool zu_segy_file_estimate2d_params(const wchar_t* path, const Tzu_segy_estim_op
   if (options == nullptr || record == nullptr) return false;
   return guarded(path, false, [&](const wchar_t& first) {
     return kept(&first, zu_problem_open, [&] {
-      return estimate_segy_params(section_file(to_utf8(&first)), *options, *record,
-                                  reporting_to(monitor));
+      bool found = estimate_segy_params(section_file(to_utf8(&first)), *options, *record,
+                                        reporting_to(monitor));
+      if (!found) zu_problems_add(&first, zu_problem_open, L"no coordinates of traces make a line");
+      return found;
     });
   });
 }

@@ -1,7 +1,6 @@
 // Nodes of a coordinate layer as points.
 
 #include <cmath>
-#include <limits>
 
 #include "platform/zuk_basic/guarded.h"
 #include "platform/zuk_basic/text_of.h"

@@ -18,6 +18,8 @@ constexpr double line_tolerance = 2.0;
 constexpr std::uint32_t class_count = 11;
 constexpr double deviations = 2.0;
 constexpr std::int32_t class_colors = 25;
+constexpr std::int64_t most_samples_read_whole = 16'000'000;
+constexpr std::uint64_t samples_of_estimate = 1'000'000;
 
 std::wstring source_of(const Izu_layer* layer) {
   return text_of([&](Tzu_string_adp* a) { zu_lr2d_get_wsource(layer, a); });
@@ -28,6 +30,26 @@ bool open(const Izu_layer* layer, data::grid_datasource& source) {
   reference.name = source_of(layer);
   reference.opener = &zu_datasource_open;
   return source.open(reference, data::open_write_if_possible);
+}
+
+/// Mean and deviation of the field: exact, or, of a section that a picture should not wait for,
+/// from a part of its samples.
+void fill_stat(Tzu_stat* stat, data::grid_datasource& source, const std::wstring& name,
+               std::int64_t field) {
+  std::int32_t sizes[3] = {0, 0, 0};
+  source.sizes(sizes);
+  if (std::int64_t(sizes[0]) * sizes[1] <= most_samples_read_whole)
+    return source.fill_stat(stat, field);
+  Tzu_handle opened{};
+  zu_datasource_open(name.c_str(), 1, nullptr, &opened);
+  Tzu_field_stat part;
+  if (zu_datasource_compute_stat(opened, field, samples_of_estimate, nullptr, nullptr, &part)) {
+    zu_stat_set_minimum(stat, part.minimum);
+    zu_stat_set_maximum(stat, part.maximum);
+    zu_stat_set_average(stat, part.mean);
+    zu_stat_set_stddev(stat, part.stddev);
+  }
+  call<&data_source_impl::release>(opened);
 }
 
 bool has_overviews(const std::wstring& source) {
@@ -75,7 +97,7 @@ void set_default_scale(Izu_layer* layer) {
   if (!open(layer, source)) return;
   std::int64_t field = source.find_field(values_field);
   if (field < 0) return;
-  source.fill_stat(stat.get(), field);
+  fill_stat(stat.get(), source, source_of(layer), field);
   Tzu_stl_mngr* manager = zu_lr_get_style_mngr_ptr(layer);
   zu_stl_mngr_set_mode(manager, zu_style_range);
   zu_stl_mngr_set_rng_prop_name_w(manager, values_field);

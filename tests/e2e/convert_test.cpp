@@ -83,6 +83,26 @@ TEST_F(convert, bands_become_slices_of_a_volume) {
   EXPECT_EQ(data["fields"][0]["statistics"]["maximum"], 3);
 }
 
+TEST_F(convert, a_slice_draws_as_the_band_that_it_was) {
+  made_grid made = grid("g.tif", 40, 30, GDT_Float32, 3);
+  for (int band = 1; band <= 3; ++band) {
+    std::vector<double> values(40 * 30);
+    for (std::size_t i = 0; i < values.size(); ++i)
+      values[i] = static_cast<double>(i * static_cast<std::size_t>(band) % 41);
+    made.values(band, values);
+  }
+  made.close();
+  ASSERT_EQ(to(path("g.tif"), "v.pgrid", {"--volume"}).exit, 0);
+  for (int band = 1; band <= 3; ++band) {
+    std::vector<std::string> look{"--size",   "40x30",    "--breaks",
+                                  "10,20,30", "--colors", "#ff0000,#00ff00,#0000ff,#888888"};
+    std::vector<std::string> slice = look, field = look;
+    slice.insert(slice.end(), {"--slice", std::to_string(band - 1)});
+    field.insert(field.end(), {"--field", "Band " + std::to_string(band)});
+    EXPECT_TRUE(drawn(path("v.pgrid"), slice) == drawn(path("g.tif"), field)) << band;
+  }
+}
+
 TEST_F(convert, one_field_is_chosen_by_name) {
   made_grid made = grid("g.tif", 2, 2, GDT_Byte, 3);
   made.close();

@@ -3,7 +3,9 @@
 
 #include <unistd.h>
 
+#include <cstdint>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
@@ -13,13 +15,12 @@
 
 namespace {
 
-const std::string& folder() {
-  static const std::string made = [] {
-    char name[] = "/dev/shm/project_fuzz.XXXXXX";
-    return std::string(mkdtemp(name) != nullptr ? name : "/tmp");
-  }();
-  return made;
-}
+/// A folder in memory, gone at the end.
+struct folder {
+  std::string path = "/dev/shm/project_fuzz." + std::to_string(getpid());
+  folder() { std::filesystem::create_directories(path); }
+  ~folder() { std::filesystem::remove_all(path); }
+};
 
 std::string content_of(const std::string& path) {
   std::ifstream file(path, std::ios::binary);
@@ -30,7 +31,8 @@ std::string content_of(const std::string& path) {
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, std::size_t size) {
   static const zu::host::bundle services;
-  std::string given = folder() + "/given.zgp", saved = folder() + "/saved.zgp";
+  static const folder made;
+  std::string given = made.path + "/given.zgp", saved = made.path + "/saved.zgp";
   std::ofstream(given, std::ios::binary)
       .write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
   try {

@@ -26,7 +26,8 @@ ZU_API const wchar_t* zu_options_get_main_module_path(void);
 /// Overrides the above; null goes back to the program's own path.
 ZU_API void zu_options_set_main_module_path(const wchar_t* path);
 
-/// Whether a section that is opened gets its reduced copies at once; a new program says yes.
+/// Whether a section that is opened gets its reduced copies at once, which reads all of it. Off
+/// until the host says otherwise.
 ZU_API bool zu_options_get_build_overviews(void);
 ZU_API void zu_options_set_build_overviews(bool build);
 

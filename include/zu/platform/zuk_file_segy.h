@@ -75,7 +75,8 @@ ZU_API void zu_segy_estim_opts_set_crd_type(Tzu_segy_estim_opts* options, int32_
 ZU_API void zu_segy_estim_opts_set_crd_types(Tzu_segy_estim_opts* options, const int32_t* types,
                                              uint64_t count);
 /// Sets coordinate type, coefficient type and coefficient of the record by the first type of the
-/// options whose coordinates make a line: two points that differ, or the point of the one trace.
+/// options whose coordinates make a line: two points that differ, or the point of the one trace. A
+/// file without coordinates of any kind has no line that could be wrong, and takes the first type.
 /// `monitor` is a handle on "zu_monitor_interface_0", or null. False, and the record unchanged, if
 /// none fits, the file cannot be read or the monitor stopped it.
 ZU_API bool zu_segy_file_estimate2d_params(const wchar_t* path, const Tzu_segy_estim_opts* options,

@@ -114,11 +114,11 @@ TEST(color_array, of_number_25_runs_from_wine_through_white_to_black) {
   EXPECT_EQ(colors[2].r, 0);
 }
 
-TEST(options, overviews_are_built_unless_the_person_says_no) {
-  EXPECT_TRUE(zu_options_get_build_overviews());
-  zu_options_set_build_overviews(false);
+TEST(options, overviews_are_built_only_where_the_host_says_so) {
   EXPECT_FALSE(zu_options_get_build_overviews());
   zu_options_set_build_overviews(true);
+  EXPECT_TRUE(zu_options_get_build_overviews());
+  zu_options_set_build_overviews(false);
 }
 
 }  // namespace

@@ -139,9 +139,23 @@ TEST_F(segy_params, may_forbid_traces_at_one_point) {
   EXPECT_FALSE(estimate());
 }
 
-TEST_F(segy_params, of_a_file_without_coordinates_or_without_a_file_do_not_fit) {
+TEST_F(segy_params, of_a_file_without_any_coordinates_are_the_first_type_that_was_asked_for) {
   make({{0, 0}, {0, 0}}, 181);
+  EXPECT_TRUE(estimate());
+  EXPECT_EQ(zu_segy_prms_get_coord_type(record_), 0);
+  zu_segy_estim_opts_set_crd_type(options_, 2);
+  EXPECT_TRUE(estimate());
+  EXPECT_EQ(zu_segy_prms_get_coord_type(record_), 2);
+  EXPECT_TRUE(line(2, 3, 1).empty());
+}
+
+TEST_F(segy_params, of_one_point_for_all_traces_do_not_fit_and_say_why) {
+  make({{5, 5}, {5, 5}}, 181);
   EXPECT_FALSE(estimate());
+  EXPECT_GT(zu_problems_get_count(path_.c_str()), 0);
+}
+
+TEST_F(segy_params, of_no_file_do_not_fit) {
   path_ = L"/nowhere/a.sgy";
   EXPECT_FALSE(estimate());
 }

@@ -64,6 +64,7 @@ class segy_layer_setup : public testing::Test {
     object_.update_box();
     zu_options_set_build_overviews(true);
   }
+  void TearDown() override { zu_options_set_build_overviews(false); }
   owned<zu_lr2d_destroy> make_layer(grid_layer2d& object) {
     owned<zu_lr2d_destroy> layer(zu_lr2d_create("grid_lr2d"));
     zu_lr2d_set_wsource(layer.get(), path_.c_str());
@@ -168,7 +169,6 @@ TEST_F(segy_layer_setup, overviews_are_not_built_where_the_person_does_not_want_
   make_overviews(layer_.get());
   EXPECT_FALSE(has_overviews());
   EXPECT_EQ(progress_.begun, 0);
-  zu_options_set_build_overviews(true);
 }
 
 TEST_F(segy_layer_setup, a_stopped_build_leaves_no_overviews) {

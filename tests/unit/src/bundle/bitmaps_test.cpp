@@ -89,12 +89,12 @@ kept_picture masked(std::uint64_t height, std::uint64_t row_bytes, std::uint64_t
 
 TEST(key_visitor, takes_its_key_from_the_first_pixel_of_the_last_row) {
   // Rows of 3 bytes whose last is padding; the key is 7.
-  kept_picture gray = masked(2, 3, 2, 1, 1, {7, 9, 0, 7, 1, 0});
+  kept_picture gray = masked(2, 3, 2, 1, 1, {9, 7, 0, 7, 1, 0});
   EXPECT_EQ(gray.row_bytes, 8u);
   EXPECT_EQ(gray.pixel_bytes, 4u);
   EXPECT_EQ(gray.channels, 4u);
   EXPECT_EQ(gray.interleave, 1u);
-  EXPECT_EQ(gray.pixels, (bytes{0, 0, 0, 0, 9, 9, 9, 255, 0, 0, 0, 0, 1, 1, 1, 255}));
+  EXPECT_EQ(gray.pixels, (bytes{9, 9, 9, 255, 0, 0, 0, 0, 0, 0, 0, 0, 1, 1, 1, 255}));
   // Two of three bytes are not enough to be cut out.
   kept_picture colours = masked(2, 8, 2, 4, 3, {1, 2, 3, 0, 1, 2, 4, 0, 1, 2, 3, 0, 5, 6, 7, 0});
   EXPECT_EQ(colours.pixels, (bytes{0, 0, 0, 0, 1, 2, 4, 255, 0, 0, 0, 0, 5, 6, 7, 255}));

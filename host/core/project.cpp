@@ -106,7 +106,7 @@ std::string project_layer::source() const {
 
 project::project(const bundle& services)
     : services_(services), tree_(zu_xnode_create_root_w(root_name)) {
-  scenes_.push_back({"", std::make_unique<scene>(services), {}});
+  scenes_.emplace_back().content = std::make_unique<scene>(services);
 }
 
 project::project(const bundle& services, const std::string& path)
@@ -135,8 +135,9 @@ project::project(const bundle& services, const std::string& path)
 
 void project::read_scene(Tzu_xnode* node) {
   if (scenes_.size() >= most_layers) throw failure("has too many scenes");
-  scenes_.push_back({attribute(node, L"name"), std::make_unique<scene>(services_), {}});
-  project_scene& read = scenes_.back();
+  project_scene& read = scenes_.emplace_back();
+  read.name = attribute(node, L"name");
+  read.content = std::make_unique<scene>(services_);
   read.content->set_projection(attribute(node, L"projection"));
   Tzu_optional_color selected{};
   if (zu_xml_data_load_color(nullptr, node, L"selected_color", &selected.color)) {

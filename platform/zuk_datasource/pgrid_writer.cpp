@@ -218,6 +218,7 @@ bool write_pgrid(handle source, const std::wstring& path, const Tzu_pgrid_option
     for (std::int64_t i = 0; i < there; ++i) fields.push_back(i);
   if (fields.empty()) throw pgrid_failure("there is no field to write");
   std::vector<grid_property> made;
+  made.reserve(fields.size());
   for (std::int64_t field : fields) made.push_back(property_of(source, field));
   if (options.volume) {
     for (const grid_property& each : made)

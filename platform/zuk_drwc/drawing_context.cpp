@@ -125,8 +125,9 @@ void drawing_context::draw_text(double x_mm, double y_mm, double height_mm, int 
                   anchor <= zu_anchor_high_right;
   if (!sensible || color.a == 255 || utf8.empty() || region().is_empty()) return;
   text_line text(cairo_.get(), utf8, height_mm * per_mm_);
-  double x = x_mm * per_mm_ - anchor % 3 * text.width() / 2;
-  double y = height_ - y_mm * per_mm_ + anchor / 3 * text.capital_height() / 2;
+  int column = anchor % 3, row = anchor / 3;
+  double x = x_mm * per_mm_ - column * text.width() / 2;
+  double y = height_ - y_mm * per_mm_ + row * text.capital_height() / 2;
   // Cairo counts pixels in 24 bits.
   if (std::abs(x) > far_off || std::abs(y) > far_off) return;
   saved_state saved = clipped_to(region());

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <numbers>
 #include <optional>
 
@@ -99,7 +100,8 @@ std::optional<place> best_near(const measured_line& line, double middle, double 
   double step = std::max(request.height, reach / tries);
   std::optional<place> best;
   for (int i = 0; i <= 2 * tries; ++i) {
-    double offset = (i + 1) / 2 * step * (i % 2 == 0 ? 1 : -1);
+    int away = (i + 1) / 2;
+    double offset = away * step * (i % 2 == 0 ? 1 : -1);
     if (std::abs(offset) > reach) break;
     std::optional<place> found = place_at(line, middle + offset, request);
     if (!found || found->bend > bent * request.height || (best && found->bend >= best->bend))
@@ -123,8 +125,10 @@ std::vector<line_label> place_labels(const std::vector<Tzu_vtx_d2>& line,
   measured_line measured(line);
   double length = measured.length();
   if (!(length >= least_line * request.width)) return labels;
-  double parts = std::max(1.0, std::floor(length / request.spacing)), part = length / parts;
-  for (double middle = part / 2; middle < length; middle += part) {
+  auto parts = static_cast<std::int64_t>(std::max(1.0, std::floor(length / request.spacing)));
+  double part = length / static_cast<double>(parts);
+  for (std::int64_t i = 0; i < parts; ++i) {
+    double middle = (static_cast<double>(i) + 0.5) * part;
     // Whole texts stay in their part, so that neighbours leave each other's gaps alone.
     double reach = std::max(0.0, part / 2 - request.width / 2 - gap * request.height);
     std::optional<place> found = best_near(measured, middle, reach, request, taken);

@@ -18,11 +18,11 @@ constexpr std::uint64_t trace_header_bytes = SEGY_TRACE_HEADER_SIZE;
 constexpr std::size_t format_byte = SEGY_BIN_FORMAT - SEGY_BIN_JOB_ID;
 
 constexpr segy_format_info formats[] = {
-    {1, 4, element_float32, 4}, {2, 4, element_int32, 4},   {3, 2, element_int16, 2},
-    {5, 4, element_float32, 4}, {6, 8, element_float64, 8}, {7, 3, element_int32, 4},
-    {8, 1, element_int8, 1},    {9, 8, element_int64, 8},   {10, 4, element_uint32, 4},
-    {11, 2, element_uint16, 2}, {12, 8, element_uint64, 8}, {15, 3, element_uint32, 4},
-    {16, 1, element_uint8, 1},
+    {1, element_float32, 4, 4}, {2, element_int32, 4, 4},   {3, element_int16, 2, 2},
+    {5, element_float32, 4, 4}, {6, element_float64, 8, 8}, {7, element_int32, 3, 4},
+    {8, element_int8, 1, 1},    {9, element_int64, 8, 8},   {10, element_uint32, 4, 4},
+    {11, element_uint16, 2, 2}, {12, element_uint64, 8, 8}, {15, element_uint32, 3, 4},
+    {16, element_uint8, 1, 1},
 };
 
 int number_at(const std::vector<char>& bytes, std::size_t at, bool little_endian) {

@@ -17,8 +17,8 @@ namespace zu::platform {
 /// How samples of one format code are stored.
 struct segy_format_info {
   int code;
-  std::size_t bytes;     ///< of a sample in the file
   std::int32_t element;  ///< element type by which it is presented, as zu/data_source.h counts
+  std::size_t bytes;     ///< of a sample in the file
   std::size_t element_bytes;
 };
 /// Null for a code that cannot be read: 4 (fixed point with gain) and those without a meaning.

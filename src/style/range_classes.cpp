@@ -98,6 +98,7 @@ void set_captions(Tzu_rng_scale* scale) {
 bool spread_colors(Tzu_rng_scale* scale, std::int32_t array) {
   std::vector<Tzu_stl_prm*> styles = styles_of(scale);
   std::vector<Tzu_color> colors;
+  colors.reserve(styles.size());
   for (Tzu_stl_prm* style : styles) colors.push_back(*zu_stl_prm_get_clr_style_ptr(style, 0));
   if (!zu_clr_arrays_generate_ex(array, colors.size(), colors.data(), 0)) return false;
   for (std::size_t i = 0; i < styles.size(); ++i) zu_stl_prm_clr_set_all(styles[i], colors[i], 0);

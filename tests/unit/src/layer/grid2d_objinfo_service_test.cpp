@@ -132,12 +132,13 @@ TEST_F(objinfo, has_nothing_before_the_first_node_or_beyond_the_last_line) {
   for (auto [x, y] : points) EXPECT_FALSE(at(x, y)) << x << " " << y;
 }
 
-TEST_F(objinfo, is_silent_on_layers_of_another_type_and_on_sources_that_do_not_open) {
-  std::wstring source = three_by_two();
-  open(source, "rtr_lr2d");
+TEST_F(objinfo, is_silent_on_layers_of_another_type) {
+  open(three_by_two(), "rtr_lr2d");
   EXPECT_FALSE(at(0.5, 0.5));
-  object_.bind_entity(nullptr);
-  open(source + L".not_there");
+}
+
+TEST_F(objinfo, is_silent_on_sources_that_do_not_open) {
+  open(three_by_two() + L".not_there");
   EXPECT_FALSE(at(0.5, 0.5));
   entity_.reset();
   EXPECT_FALSE(at(0.5, 0.5)) << "no entity at all";

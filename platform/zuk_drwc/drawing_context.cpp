@@ -102,10 +102,12 @@ void drawing_context::draw_lines(const Tzu_ov_d2& lines, const Tzu_pln_style& st
   }
   if (drawn.parts.empty()) return;
   saved_state saved = clipped_to(style.color.a == 0 ? bled_region() : region());
-  stroke(cairo_.get(), drawn);
+  stroke_lines(drawn);
   numbers.draw();
   inked();
 }
+
+void drawing_context::stroke_lines(const strokes& lines) { stroke(cairo_.get(), lines); }
 
 void drawing_context::fill_box(const Tzu_box_d2& mm, Tzu_color color) {
   Tzu_box_d2 all = page(), shown;

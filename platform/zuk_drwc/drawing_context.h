@@ -14,6 +14,8 @@
 
 namespace zu::platform {
 
+struct strokes;
+
 class drawing_context {
  public:
   virtual ~drawing_context() = default;
@@ -66,6 +68,7 @@ class drawing_context {
   /// Clips what Cairo draws while the result lives to a box, if there is a region.
   [[nodiscard]] saved_state clipped_to(const pixel_box& box);
   virtual void inked() {}
+  virtual void stroke_lines(const strokes& lines);
   /// Takes note of an object inside another one (0: the page itself); what it is to be called by as
   /// the outer one of others.
   virtual int note_object(int, const std::wstring&) { return 0; }

@@ -1,9 +1,12 @@
 #include "platform/zuk_drwc/image_context.h"
 
 #include <algorithm>
+#include <future>
 #include <new>
+#include <utility>
 
 #include "platform/zuk_drwc/save_picture.h"
+#include "platform/zuk_drwc/stroke.h"
 
 namespace zu::platform {
 
@@ -37,6 +40,39 @@ void image_context::draw(const Tzu_dib_draw_record& record, const Tzu_dib& dib) 
     draw_clipped(place, dib, record.alpha);
   else
     put_dib(surface_.get(), 0, 0, place, region(), dib, record.alpha);
+}
+
+/// The upper and the lower half of a screen's picture side by side: each is a surface of its own
+/// rows, so that a pixel gets the same ink as from the whole.
+void image_context::stroke_lines(const strokes& lines) {
+  constexpr std::size_t worth_a_thread = 500;  // vertices
+  std::size_t vertices = 0;
+  for (const line_piece& part : lines.parts) vertices += part.vertices.size();
+  bool plain = lines.thinned && lines.dashes.empty() && lines.color.a == 0;
+  if (!plain || clipped_ || region_ || vertices < worth_a_thread || ny_ < 2)
+    return drawing_context::stroke_lines(lines);
+  cairo_surface_flush(surface_.get());
+  auto* bytes = reinterpret_cast<unsigned char*>(words_of(surface_.get()));
+  auto row_bytes = static_cast<int>(stride_of(surface_.get()) * 4);
+  auto stroke_rows = [&](std::uint64_t from, std::uint64_t to) {
+    surface_ptr rows(cairo_image_surface_create_for_data(
+        bytes + static_cast<std::int64_t>(from) * row_bytes, CAIRO_FORMAT_ARGB32,
+        static_cast<int>(nx_), static_cast<int>(to - from), row_bytes));
+    cairo_ptr cairo(cairo_create(rows.get()));
+    cairo_translate(cairo.get(), 0, -static_cast<double>(from));
+    double margin = lines.margin();
+    const Tzu_box_d2 near_the_rows{-margin, static_cast<double>(from) - margin, width_ + margin,
+                                   static_cast<double>(to) + margin};
+    std::vector<line_piece> parts;
+    for (const line_piece& part : lines.parts)
+      for (line_piece& piece : cut_line(part.vertices.data(), part.vertices.size(), near_the_rows))
+        parts.push_back(std::move(piece));
+    stroke(cairo.get(), lines, parts);
+  };
+  auto upper = std::async(std::launch::async, stroke_rows, std::uint64_t{0}, ny_ / 2);
+  stroke_rows(ny_ / 2, ny_);
+  upper.get();
+  cairo_surface_mark_dirty(surface_.get());
 }
 
 /// Through a surface of its own, which Cairo paints inside the clip.

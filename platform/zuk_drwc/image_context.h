@@ -20,6 +20,9 @@ class image_context : public drawing_context {
   void save(const std::string& path, const Tzu_box_d2* georeference,
             const std::string& projection) override;
 
+ protected:
+  void stroke_lines(const strokes& lines) override;
+
  private:
   void draw_clipped(const pixel_box& place, const Tzu_dib& dib, std::uint8_t alpha);
 

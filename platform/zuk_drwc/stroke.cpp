@@ -81,11 +81,13 @@ strokes::strokes(const Tzu_pln_style& style, double per_mm, double most, bool th
 
 double strokes::margin() const { return width / 2 * miter_limit + 2; }
 
-void stroke(cairo_t* cairo, const strokes& lines) {
+void stroke(cairo_t* cairo, const strokes& lines) { stroke(cairo, lines, lines.parts); }
+
+void stroke(cairo_t* cairo, const strokes& lines, const std::vector<line_piece>& parts) {
   set_pen(cairo, lines);
   std::size_t waiting = 0, at_once = SIZE_MAX;
   if (lines.color.a == 0) at_once = lines.thinned ? 0 : opaque_at_once;
-  for (const line_piece& part : lines.parts) {
+  for (const line_piece& part : parts) {
     if (!lines.dashes.empty()) {
       stroke_dashed(cairo, part, lines);
       continue;

@@ -28,5 +28,7 @@ struct strokes {
 /// Strokes the lines. Solid lines of a transparent colour are one stroke, so that it shows once
 /// where they cross.
 void stroke(cairo_t* cairo, const strokes& lines);
+/// The same with other lines than its own.
+void stroke(cairo_t* cairo, const strokes& pen, const std::vector<line_piece>& parts);
 
 }  // namespace zu::platform

@@ -59,6 +59,33 @@ TEST(lines, the_width_is_in_millimetres_whatever_the_resolution) {
   EXPECT_EQ(column(drwc, 20, 17, 22), (opacities{0, 255, 255, 255, 255, 0}));
 }
 
+/// Opacities of a picture with a line that goes up and down over its middle, in many vertices.
+opacities zigzag(bool accurate) {
+  constexpr std::uint64_t size = 201;  // an odd number of rows has no middle between two
+  drwc_ptr drwc(zu_drwc_create_image(size, size, 25.4, accurate));
+  vertices line;
+  for (int i = 0; i < 3000; ++i)
+    line.push_back({5 + i * 0.0633, 100 + 90 * std::sin(i * 0.0421) + i % 7 * 0.3});
+  draw_line(drwc, line, black(1.3));
+  opacities found;
+  for (std::uint64_t y = 0; y < size; ++y)
+    for (std::uint64_t x = 0; x < size; ++x) found.push_back(pixel(drwc, size, size, x, y).opacity);
+  return found;
+}
+
+TEST(lines, many_vertices_on_a_screen_give_the_ink_of_one_stroke) {
+  opacities screen = zigzag(false), print = zigzag(true);
+  ASSERT_EQ(screen.size(), print.size());
+  int different = 0, inked = 0;
+  for (std::size_t i = 0; i < screen.size(); ++i) {
+    inked += print[i] > 0 ? 1 : 0;
+    // Strokes that overlap in a pixel add their edges; of one stroke there is one edge.
+    different += std::abs(screen[i] - print[i]) > 24 ? 1 : 0;
+  }
+  EXPECT_GT(inked, 10000);
+  EXPECT_LT(different, inked / 100);
+}
+
 TEST(lines, half_a_pixel_of_line_is_half_as_strong) {
   drwc_ptr drwc = made_picture(side, side);
   draw_line(drwc, {{0, 10.5}, {40, 10.5}}, black(0.5));

@@ -43,7 +43,7 @@ TEST_F(interrupted, a_picture_is_the_old_one_or_the_new_one) {
   for (int signal : {SIGINT, SIGKILL}) {
     for (int i = 0; i < 20; ++i) {
       ASSERT_EQ(render(source, old_look).exit, 0);
-      auto after = std::chrono::duration_cast<std::chrono::microseconds>(once) * i / 16;
+      auto after = std::chrono::duration_cast<std::chrono::microseconds>(once) * i / 8;
       int status = run_for(after, signal, line);
       ended_by_signal += WIFSIGNALED(status) ? 1 : 0;
       picture shown(path("o.png"));

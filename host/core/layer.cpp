@@ -1,6 +1,7 @@
 #include "host/core/layer.h"
 
 #include <cmath>
+#include <new>
 #include <string_view>
 #include <utility>
 
@@ -81,11 +82,6 @@ void write_platform(const draw_settings& settings, Izu_layer* entity) {
   }
 }
 
-struct closed {
-  void operator()(Tzu_xnode* node) const { zu_xnode_close(node); }
-};
-using node_ptr = std::unique_ptr<Tzu_xnode, closed>;
-
 }  // namespace
 
 bool layer::has_type(const bundle& services, const std::string& type) {
@@ -93,14 +89,15 @@ bool layer::has_type(const bundle& services, const std::string& type) {
 }
 
 layer::layer(const bundle& services, const std::string& type, const std::string& source)
-    : services_(services), entity_(zu_lr2d_create(type.c_str())) {
+    : services_(services) {
+  // Nothing is made before all that may be refused has been.
+  std::wstring name = wide_name(source);
+  if (!has_type(services, type)) throw failure(source, "there are no layers of type " + type);
+  entity_ = zu_lr2d_create(type.c_str());
+  if (entity_ == nullptr) throw std::bad_alloc();
   call<&layer_2d_service_impl::create_layer>(
       services.layers(type), layer_2d_visitor(handle_of<layer_2d_visitor_impl>(*this)));
-  if (entity_ == nullptr || !has_type(services, type)) {
-    zu_lr2d_destroy(entity_);
-    throw failure(source, "there are no layers of type " + type);
-  }
-  zu_lr2d_set_wsource(entity_, wide_name(source).c_str());
+  zu_lr2d_set_wsource(entity_, name.c_str());
   set_caption(file_name_of(source));
   if (object_) {
     zu_lr2d_set_plugin_interface(entity_, object_);

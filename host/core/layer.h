@@ -8,10 +8,16 @@
 
 #include "host/core/bundle.h"
 #include "host/core/source.h"
+#include "zu/platform/zuk_io.h"
 #include "zu/platform/zuk_lr2d.h"
 #include "zu/platform/zuk_render.h"
 
 namespace zu::host {
+
+struct node_closed {
+  void operator()(Tzu_xnode* node) const { zu_xnode_close(node); }
+};
+using node_ptr = std::unique_ptr<Tzu_xnode, node_closed>;
 
 /// Numbers of the grid layer's draw types.
 enum class draw_type { scale = 0, image = 1, gray = 2, rgb = 3 };
@@ -78,7 +84,7 @@ class layer final : layer_2d_visitor_impl {
   void write_tree(const draw_settings& settings);
 
   const bundle& services_;
-  Izu_layer* entity_;
+  Izu_layer* entity_ = nullptr;
   layer_2d object_;
   bool visible_ = true;
   mutable std::unique_ptr<source> data_;

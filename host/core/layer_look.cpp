@@ -222,8 +222,8 @@ std::string why_not(const layer_look& look, const layer& dressed) {
   const source& data = dressed.data();
   if (data.fields().empty()) return "has no fields";
   if (dressed.type() == profile_type) {
-    bool curves = look.colors_nothing_but_lines();
-    return curves ? "" : "is a profile, drawn as curves: of the styles it takes --simple alone";
+    bool plain = look.colors_nothing_but_lines();
+    return plain ? "" : "is a profile, drawn as curves: of the styles it takes --simple alone";
   }
   if (look.draw == draw_type::image && !makes_image(data)) return "its bands make no image";
   if (look.slice) {
@@ -240,15 +240,15 @@ void apply_look(const layer_look& look, layer& dressed) {
   const source& data = dressed.data();
   if (std::string reason = why_not(look, dressed); !reason.empty())
     throw failure(data.name(), reason);
+  if (dressed.type() == profile_type) {
+    if (look.simple) set_style(look, data, dressed.style_manager());
+    return;
+  }
   draw_settings settings = dressed.settings();
   settings.draw = drawn_as(look, settings.draw);
   settings.transparency = look.transparency;
   settings.interpolate = look.interpolate;
   settings.channels.reset(zu_rgb_channels_create());
-  if (dressed.type() == profile_type) {
-    if (look.simple) set_style(look, data, dressed.style_manager());
-    return;
-  }
   set_channels(settings.draw, look, data, settings.channels.get());
   dressed.set_settings(settings);
   if (look.slice) zu_tos_slice_lr2d_set_zslice(dressed.entity(), *look.slice);

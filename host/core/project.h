@@ -13,11 +13,6 @@
 
 namespace zu::host {
 
-struct node_closed {
-  void operator()(Tzu_xnode* node) const { zu_xnode_close(node); }
-};
-using node_ptr = std::unique_ptr<Tzu_xnode, node_closed>;
-
 /// A layer of a project.
 struct project_layer {
   layer* shown = nullptr;  ///< null if its type is one that nobody here knows

@@ -1,4 +1,4 @@
-# Four test programs. Tests stand in the same folders as the code they look at.
+# Five test programs. Tests stand in the same folders as the code they look at.
 
 find_package(GTest REQUIRED)
 
@@ -8,7 +8,7 @@ function(zu_test name)
   set_tests_properties(${name} PROPERTIES ENVIRONMENT "${ZU_TEST_ENVIRONMENT}")
 endfunction()
 set(ZU_TEST_ENVIRONMENT
-    "ZU_BUILD_DIR=${CMAKE_BINARY_DIR};ZU_SOURCE_DIR=${CMAKE_SOURCE_DIR};LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/leaks.supp;ASAN_OPTIONS=detect_odr_violation=0"
+    "ZU_BUILD_DIR=${CMAKE_BINARY_DIR};ZU_SOURCE_DIR=${CMAKE_SOURCE_DIR};LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/leaks.supp;ASAN_OPTIONS=detect_odr_violation=0;QT_QPA_PLATFORM=offscreen"
 )
 
 # The bundle's own code, on the real platform.
@@ -35,7 +35,15 @@ add_executable(e2e ${e2e_tests})
 target_link_libraries(e2e PRIVATE zu_host_cli PkgConfig::GDAL GTest::gtest_main)
 add_dependencies(e2e zugrid)
 
-foreach(program unit_bundle unit_platform abi e2e)
+# The window, offscreen, driven as a person drives it.
+find_package(Qt6 REQUIRED COMPONENTS Test)
+file(GLOB_RECURSE gui_tests CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/gui/*.cpp)
+add_executable(gui ${gui_tests})
+target_link_libraries(gui PRIVATE zu_host_desktop Qt6::Test GTest::gtest)
+target_precompile_headers(gui PRIVATE <QtTest> <QtWidgets> <gtest/gtest.h>)
+add_dependencies(gui zuk_grid_layer2d)
+
+foreach(program unit_bundle unit_platform abi e2e gui)
   zu_test(${program})
 endforeach()
 

@@ -56,7 +56,7 @@ template <auto operation, auto... all> constexpr int index_of(slots<all...>) {
 }
 /// The list that a class's operations stand in: its own, or that of the interface that it is a part
 /// of.
-template <class base> auto list_of() {
+template <class base> constexpr auto list_of() {
   if constexpr (requires { typename base::listed_in; })
     return typename base::listed_in::operations();
   else

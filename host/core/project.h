@@ -4,6 +4,7 @@
 // What was read and not changed is written as it was read, whether this program understands it or
 // not: layers of unknown types, layers whose source is missing, attributes and nodes of others.
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
@@ -13,12 +14,18 @@
 
 namespace zu::host {
 
+/// A layer as it was read from a file.
+struct layer_origin {
+  node_ptr node;
+  // Of the layer made from it.
+  std::string state, caption;
+};
+
 /// A layer of a project.
 struct project_layer {
   layer* shown = nullptr;  ///< null if its type is one that nobody here knows
-  node_ptr kept;           ///< as it was read; empty for a new one
-  // Of `shown` when it had been read.
-  std::string state_as_read, caption_as_read;
+  std::shared_ptr<const layer_origin> origin;  ///< null for a new one
+  std::uint64_t id = 0;  ///< its own in the project, also after it was removed and made again
 
   std::string type() const;
   std::string caption() const;
@@ -29,6 +36,8 @@ struct project_scene {
   std::string name;
   std::unique_ptr<scene> content;
   std::vector<project_layer> layers;  ///< the lowest first; those shown stand in the scene so too
+  std::shared_ptr<Tzu_xnode> kept;    ///< as it was read; null for a new one
+  std::uint64_t id = 0;               ///< its own in the project
 };
 
 class project {
@@ -41,24 +50,44 @@ class project {
   project(const bundle& services, const std::string& path);
 
   std::vector<project_scene>& scenes() { return scenes_; }
+  const std::vector<project_scene>& scenes() const { return scenes_; }
   /// The scene of a name; throws `failure` if there is none.
   project_scene& find_scene(const std::string& name);
+  /// A new scene behind the others. References to scenes end.
+  project_scene& add_scene(const std::string& name);
+  void remove_scene(std::size_t index);
   /// Opens a source on top of a scene; gives what was added. Throws `failure`.
   std::vector<layer*> add(project_scene& scene, const std::string& source);
   void remove(project_scene& scene, std::size_t index);
+  /// Takes a layer out of its place and puts it so that it stands at `to`, 0 being the lowest.
+  void move(project_scene& scene, std::size_t from, std::size_t to);
+  /// Leads a layer to another source, with the look that it has in the project. Nothing for a layer
+  /// of an unknown type.
+  void relink(project_scene& scene, std::size_t index, const std::string& source);
   /// Writes the file whole or not at all. Sources beside it or below its folder are written as
   /// relative paths. Throws `failure`.
   void save(const std::string& path);
 
  private:
+  friend class history;
+  /// Makes a scene or layer that was there once, on top of its like, under the id that it had.
+  project_scene& restore_scene(std::uint64_t id, std::shared_ptr<Tzu_xnode> kept);
+
   void read_scene(Tzu_xnode* node);
   void read_layer(Tzu_xnode* node, project_scene& scene);
   void write_scene(Tzu_xnode* node, const project_scene& scene, const std::string& folder) const;
+  std::uint64_t next_id() { return ++last_id_; }
 
   const bundle& services_;
   std::string folder_;  // of the file as it was read
   node_ptr tree_;
   std::vector<project_scene> scenes_;
+  std::uint64_t last_id_ = 0;
 };
+
+/// What a layer saves, as text; and back.
+std::string state_of(const layer& shown);
+void load_state(layer& shown, const std::string& state);
+std::string subtype_of(const layer& shown);
 
 }  // namespace zu::host

@@ -1,37 +1,13 @@
 #pragma once
 // Undo and redo of everything that a project's file keeps.
 
-#include <cstdint>
 #include <deque>
 #include <functional>
-#include <memory>
-#include <optional>
 #include <string>
-#include <vector>
 
-#include "host/core/project.h"
+#include "host/core/memento.h"
 
 namespace zu::host {
-
-/// What a project was at a moment. Copies share the texts of what did not change between them.
-struct layer_memento {
-  std::uint64_t id = 0;
-  std::shared_ptr<const layer_origin> origin;  ///< as it was read; null for a new one
-  bool known = false;  ///< false: a layer of an unknown type, which is its origin and nothing more
-  std::string type, subtype, source, caption;
-  bool visible = true;
-  std::shared_ptr<const std::string> state;  ///< never null if known
-  bool operator==(const layer_memento& other) const;
-};
-struct scene_memento {
-  std::uint64_t id = 0;
-  std::shared_ptr<Tzu_xnode> kept;
-  std::string name, projection;
-  std::optional<std::uint32_t> selected_color;
-  std::vector<layer_memento> layers;  ///< the lowest first
-  bool operator==(const scene_memento& other) const;
-};
-using project_memento = std::vector<scene_memento>;
 
 /// The steps that a person can take back, over a project that lives longer than this.
 class history {
@@ -65,8 +41,8 @@ class history {
   /// none.
   bool is_changed() const;
 
-  /// Called with a layer before `undo` or `redo` ends it.
-  std::function<void(layer&)> before_removal;
+  /// Called with a layer before `undo` or `redo` ends it or changes its state.
+  std::function<void(layer&)> before_change;
 
  private:
   struct step {
@@ -74,8 +50,7 @@ class history {
     project_memento after;
   };
 
-  project_memento take() const;
-  void go_to(std::size_t position);
+  bool go_to(std::size_t position);
 
   project& content_;
   std::deque<step> steps_;  // the first is what the project was before all steps kept

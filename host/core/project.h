@@ -23,7 +23,7 @@ struct layer_origin {
 
 /// A layer of a project.
 struct project_layer {
-  layer* shown = nullptr;  ///< null if its type is one that nobody here knows
+  layer* shown = nullptr;                      ///< null if its type is one that nobody here knows
   std::shared_ptr<const layer_origin> origin;  ///< null for a new one
   std::uint64_t id = 0;  ///< its own in the project, also after it was removed and made again
 
@@ -49,6 +49,7 @@ class project {
   /// Reads a file. Throws `failure` with the file and the reason; nothing of it is used then.
   project(const bundle& services, const std::string& path);
 
+  const bundle& services() const { return services_; }
   std::vector<project_scene>& scenes() { return scenes_; }
   const std::vector<project_scene>& scenes() const { return scenes_; }
   /// The scene of a name; throws `failure` if there is none.
@@ -61,6 +62,8 @@ class project {
   void remove(project_scene& scene, std::size_t index);
   /// Takes a layer out of its place and puts it so that it stands at `to`, 0 being the lowest.
   void move(project_scene& scene, std::size_t from, std::size_t to);
+  /// Gives the layers shown the order in which they stand in the project.
+  static void arrange(project_scene& scene);
   /// Leads a layer to another source, with the look that it has in the project. Nothing for a layer
   /// of an unknown type.
   void relink(project_scene& scene, std::size_t index, const std::string& source);
@@ -69,10 +72,6 @@ class project {
   void save(const std::string& path);
 
  private:
-  friend class history;
-  /// Makes a scene or layer that was there once, on top of its like, under the id that it had.
-  project_scene& restore_scene(std::uint64_t id, std::shared_ptr<Tzu_xnode> kept);
-
   void read_scene(Tzu_xnode* node);
   void read_layer(Tzu_xnode* node, project_scene& scene);
   void write_scene(Tzu_xnode* node, const project_scene& scene, const std::string& folder) const;
@@ -84,10 +83,5 @@ class project {
   std::vector<project_scene> scenes_;
   std::uint64_t last_id_ = 0;
 };
-
-/// What a layer saves, as text; and back.
-std::string state_of(const layer& shown);
-void load_state(layer& shown, const std::string& state);
-std::string subtype_of(const layer& shown);
 
 }  // namespace zu::host

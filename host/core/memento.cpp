@@ -55,12 +55,9 @@ layer_memento layer_memento_of(const project_layer& now, const project_memento& 
   return taken;
 }
 
-/// A layer's own state: as its file had it, if it is that one.
+/// Never from the origin, which may be silent of what has changed since.
 void load_state(layer& into, const layer_memento& wanted) {
-  if (wanted.origin && wanted.origin->state == *wanted.state)
-    into.load(wanted.origin->node.get());
-  else
-    into.load_state(*wanted.state);
+  into.load_state(*wanted.state);
   // A tree is not asked for the projection where a layer has one already.
   if (into.projection() != wanted.projection) into.set_projection(wanted.projection);
   into.update();

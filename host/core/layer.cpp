@@ -118,6 +118,18 @@ std::string layer::source_name() const {
   return narrow(text_of([&](Tzu_string_adp* adapter) { zu_lr2d_get_wsource(entity_, adapter); }));
 }
 
+void layer::relink(const std::string& name) {
+  std::wstring wide = wide_name(name);
+  zu_problems_clear(wide.c_str());
+  auto opened = std::make_unique<source>(name);
+  if (caption() == file_name_of(source_name())) set_caption(file_name_of(name));
+  data_ = std::move(opened);
+  zu_lr2d_set_wsource(entity_, wide.c_str());
+  zu_lr2d_source_changed(entity_);
+  zu_lr2d_update_box(entity_);
+  zu_lr2d_update_validity(entity_);
+}
+
 std::string layer::caption() const {
   return narrow(text_of([&](Tzu_string_adp* adapter) { zu_lr2d_get_wcaption(entity_, adapter); }));
 }

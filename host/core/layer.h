@@ -49,6 +49,9 @@ class layer final : layer_2d_visitor_impl {
   Izu_layer* entity() const { return entity_; }
   std::string type() const;
   std::string source_name() const;
+  /// Shows another source with the same look; the caption follows if it was the file's name.
+  /// Throws `failure` if it will not open, and nothing has changed.
+  void relink(const std::string& source);
   std::string caption() const;
   void set_caption(const std::string& caption);
   /// The source, opened when it is first asked for. Throws `failure` if it will not open.

@@ -193,6 +193,17 @@ void project::remove(project_scene& scene, std::size_t index) {
   if (shown != nullptr) scene.content->remove(*shown);
 }
 
+void project::move(project_scene& scene, std::size_t from, std::size_t to) {
+  project_layer moved = std::move(scene.layers.at(from));
+  scene.layers.erase(scene.layers.begin() + static_cast<std::ptrdiff_t>(from));
+  to = std::min(to, scene.layers.size());
+  scene.layers.insert(scene.layers.begin() + static_cast<std::ptrdiff_t>(to), std::move(moved));
+  std::vector<const layer*> order;
+  for (const project_layer& each : scene.layers)
+    if (each.shown != nullptr) order.push_back(each.shown);
+  scene.content->arrange(order);
+}
+
 void project::write_scene(Tzu_xnode* node, const project_scene& scene,
                           const std::string& folder) const {
   update(node, L"name", scene.name);

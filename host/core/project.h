@@ -46,6 +46,8 @@ class project {
   /// Opens a source on top of a scene; gives what was added. Throws `failure`.
   std::vector<layer*> add(project_scene& scene, const std::string& source);
   void remove(project_scene& scene, std::size_t index);
+  /// Puts a layer where another one stands; those between move by one.
+  void move(project_scene& scene, std::size_t from, std::size_t to);
   /// Writes the file whole or not at all. Sources beside it or below its folder are written as
   /// relative paths. Throws `failure`.
   void save(const std::string& path);

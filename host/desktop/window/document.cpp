@@ -120,9 +120,47 @@ void document::set_layer_visible(int index, bool visible) {
           [&] { layer->set_visible(visible); });
 }
 
+void document::relink_layer(int index, const QString& source) {
+  host::layer* layer = scene().layers.at(std::size_t(index)).shown;
+  if (layer == nullptr) return;
+  perform(words("Choose the source", "Выбор источника"),
+          [&] { layer->relink(source.toStdString()); });
+}
+
 void document::set_projection(const QString& text) {
   perform(words("Change the projection", "Смена проекции"),
           [&] { scene().content->set_projection(text.toStdString()); });
+}
+
+void document::add_scene(const QString& name) {
+  perform(words("Add a scene", "Добавление сцены"), [&] {
+    host::project_scene& added = project_->scenes().emplace_back();
+    added.name = name.toStdString();
+    added.content = std::make_unique<host::scene>(services_);
+  });
+  Q_EMIT replaced();
+  set_active_scene(static_cast<int>(project_->scenes().size()) - 1);
+}
+
+void document::remove_scene(int index) {
+  auto& scenes = project_->scenes();
+  if (scenes.size() < 2 || index < 0 || index >= static_cast<int>(scenes.size())) return;
+  set_active_layer(nullptr);
+  perform(words("Remove the scene", "Удаление сцены"), [&] {
+    Q_EMIT about_to_change();
+    scenes.erase(scenes.begin() + index);
+    if (active_scene_ >= index && active_scene_ > 0) --active_scene_;
+    Q_EMIT replaced();
+  });
+  Q_EMIT scene_activated();
+}
+
+void document::rename_scene(int index, const QString& name) {
+  host::project_scene& renamed = project_->scenes().at(std::size_t(index));
+  if (renamed.name == name.toStdString()) return;
+  perform(words("Rename the scene", "Переименование сцены"),
+          [&] { renamed.name = name.toStdString(); });
+  Q_EMIT replaced();
 }
 
 void document::perform(const QString& name, const std::function<void()>& change) {
@@ -130,6 +168,18 @@ void document::perform(const QString& name, const std::function<void()>& change)
   change();
   changed();
 }
+
+void document::input_happened(const QString& name) {
+  Q_UNUSED(name)
+  changed();
+}
+
+bool document::can_undo() const { return false; }
+bool document::can_redo() const { return false; }
+QString document::undo_name() const { return {}; }
+QString document::redo_name() const { return {}; }
+void document::undo() {}
+void document::redo() {}
 
 void document::changed() {
   is_changed_ = true;

@@ -50,7 +50,9 @@ start_page::start_page(QWidget* parent)
 
 void start_page::set_recent(const QStringList& paths) {
   while (QLayoutItem* item = recent_->takeAt(0)) {
-    delete item->widget();
+    // One of them may be what was just clicked.
+    item->widget()->hide();
+    item->widget()->deleteLater();
     delete item;
   }
   recent_heading_->setVisible(!paths.isEmpty());

@@ -54,9 +54,17 @@ template <auto operation, auto... all> constexpr int index_of(slots<all...>) {
    ...);
   return found;
 }
+/// The list that a class's operations stand in: its own, or that of the interface that it is a part
+/// of.
+template <class base> constexpr auto list_of() {
+  if constexpr (requires { typename base::listed_in; })
+    return typename base::listed_in::operations();
+  else
+    return typename base::operations();
+}
 template <auto operation, class base, class result, class... args, class... given>
 result call_slot(result (base::*)(args...), handle h, given&&... values) {
-  constexpr int index = index_of<operation>(typename base::operations());
+  constexpr int index = index_of<operation>(list_of<base>());
   static_assert(index >= 0, "the operation is in no slot of its interface");
   if (!h) return result();
   auto entry = reinterpret_cast<result (*)(const void*, void*, args...)>(

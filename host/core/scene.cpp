@@ -95,16 +95,11 @@ void scene::remove(const layer& removed) {
   std::erase_if(layers_, [&](const auto& each) { return each.get() == &removed; });
 }
 
-void scene::arrange(const std::vector<const layer*>& order) {
-  auto place = [&](const std::unique_ptr<layer>& each) {
-    return std::find(order.begin(), order.end(), each.get());
-  };
-  std::stable_sort(layers_.begin(), layers_.end(),
-                   [&](const auto& a, const auto& b) { return place(a) < place(b); });
-  for (const auto& each : layers_) {
-    zu_scn_2d_remove_layer(scene_, each->entity());
-    zu_scn_2d_add_layer(scene_, each->entity());
-  }
+void scene::arrange(const std::vector<layer*>& order) {
+  auto place = [&](const layer* each) { return std::find(order.begin(), order.end(), each); };
+  std::sort(layers_.begin(), layers_.end(),
+            [&](const auto& a, const auto& b) { return place(a.get()) < place(b.get()); });
+  for (const auto& each : layers_) zu_scn_2d_add_layer(scene_, each->entity());
 }
 
 void scene::set_projection(const std::string& text) {

@@ -2,9 +2,6 @@
 
 #include <QDropEvent>
 #include <QEvent>
-#include <QFileInfo>
-#include <QHeaderView>
-#include <QKeyEvent>
 #include <QPainter>
 
 #include "host/core/legend.h"
@@ -43,7 +40,8 @@ layer_list::layer_list(document& shown, QWidget* parent) : QTreeWidget(parent), 
   setObjectName(QStringLiteral("layer_list"));
   setHeaderHidden(true);
   setColumnCount(1);
-  setEditTriggers(EditKeyPressed);
+  // F2 and the other keys of a layer are actions of the window.
+  setEditTriggers(NoEditTriggers);
   setExpandsOnDoubleClick(false);
   setDragDropMode(InternalMove);
   setDefaultDropAction(Qt::MoveAction);
@@ -215,16 +213,6 @@ void layer_list::dropEvent(QDropEvent* event) {
   event->setDropAction(Qt::IgnoreAction);
   event->accept();
   document_.move_layer(from, index_of_row(row));
-}
-
-void layer_list::keyPressEvent(QKeyEvent* event) {
-  int index = current_index();
-  bool moves = event->modifiers() == Qt::ControlModifier && index >= 0;
-  if (moves && event->key() == Qt::Key_Up && index + 1 < topLevelItemCount())
-    return document_.move_layer(index, index + 1);
-  if (moves && event->key() == Qt::Key_Down && index > 0)
-    return document_.move_layer(index, index - 1);
-  QTreeWidget::keyPressEvent(event);
 }
 
 void layer_list::changeEvent(QEvent* event) {

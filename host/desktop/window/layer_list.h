@@ -7,8 +7,8 @@
 
 namespace zu::desktop {
 
-/// A check box shows and hides a layer, dragging or Ctrl+Up and Ctrl+Down reorder, F2 renames. A
-/// layer that is missing or did not work is marked, and its tip says why.
+/// A check box shows and hides a layer, dragging reorders. A layer that is missing or did not work
+/// is marked, and its tip says why.
 class layer_list final : public QTreeWidget {
   Q_OBJECT
 
@@ -27,7 +27,6 @@ class layer_list final : public QTreeWidget {
  protected:
   void changeEvent(QEvent* event) override;
   void dropEvent(QDropEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   void follow();

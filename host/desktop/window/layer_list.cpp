@@ -14,11 +14,6 @@ namespace {
 
 constexpr int legend_role = Qt::UserRole + 1;
 
-/// What a row stands for: an address that stays while the layer stays.
-const void* identity_of(const host::project_layer& layer) {
-  return layer.shown != nullptr ? static_cast<const void*>(layer.shown) : layer.kept.get();
-}
-
 QIcon swatch_of(const QColor& color, int size) {
   constexpr int oversampling = 2;
   QPixmap pixmap(size * oversampling, size * oversampling);
@@ -81,6 +76,11 @@ int layer_list::index_of_item(QTreeWidgetItem* item) const {
 
 int layer_list::current_index() const { return index_of_item(currentItem()); }
 
+void layer_list::edit_current() {
+  int index = current_index();
+  if (index >= 0) editItem(topLevelItem(index_of_row(index)));
+}
+
 const host::project_layer* layer_list::layer_at(int index) const {
   const auto& layers = document_.scene().layers;
   if (index < 0 || index >= static_cast<int>(layers.size())) return nullptr;
@@ -105,18 +105,17 @@ QStringList layer_list::problems_of(const host::project_layer& layer) {
 
 void layer_list::follow() {
   const auto& layers = document_.scene().layers;
-  std::vector<const void*> rows;
-  for (auto each = layers.rbegin(); each != layers.rend(); ++each)
-    rows.push_back(identity_of(*each));
+  std::vector<std::uint64_t> rows;
+  for (auto each = layers.rbegin(); each != layers.rend(); ++each) rows.push_back(each->id);
   filling_ = true;
   if (rows != rows_) {
     // A layer that was there stays folded as it was.
-    std::vector<const void*> folded;
+    std::vector<std::uint64_t> folded;
     for (int row = 0; row < topLevelItemCount(); ++row)
       if (!topLevelItem(row)->isExpanded()) folded.push_back(rows_[std::size_t(row)]);
     clear();
     rows_ = rows;
-    for (const void* row : rows_) {
+    for (std::uint64_t row : rows_) {
       auto* item = new QTreeWidgetItem(this);
       item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable |
                      Qt::ItemIsEditable | Qt::ItemIsDragEnabled);

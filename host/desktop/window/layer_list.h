@@ -19,7 +19,8 @@ class layer_list final : public QTreeWidget {
   int current_index() const;
   /// Lets a person type another caption for that layer.
   void edit_current();
-  /// The reasons that are kept for a layer, and what else is to be said of it; empty if all is well.
+  /// The reasons that are kept for a layer, and what else is to be said of it; empty if all is
+  /// well.
   static QStringList problems_of(const host::project_layer& layer);
 
  Q_SIGNALS:

@@ -118,9 +118,8 @@ void main_window::connect_map() {
   connect(actions_->redraw, &QAction::triggered, this, [map] { map().redraw(); });
   connect(actions_->copy_picture, &QAction::triggered, this,
           [map] { QApplication::clipboard()->setImage(map().picture()); });
-  connect(actions_->full_screen, &QAction::toggled, this, [this](bool full) {
-    setWindowState(windowState().setFlag(Qt::WindowFullScreen, full));
-  });
+  connect(actions_->full_screen, &QAction::toggled, this,
+          [this](bool full) { setWindowState(windowState().setFlag(Qt::WindowFullScreen, full)); });
   connect(views_, &scene_views::view_changed, this, &main_window::show_view);
   connect(views_, &scene_views::cursor_moved, status_, &status_line::show_coordinates);
   connect(views_, &scene_views::clicked, this, &main_window::show_info);
@@ -167,9 +166,9 @@ void main_window::connect_scenes() {
           [this] { document_.remove_scene(document_.active_scene()); });
   auto rename = [this](int index) {
     if (index < 0) return;
-    QString name = prompts_.name(this, words("Name of the scene", "Название сцены"),
-                                 QString::fromStdString(
-                                     document_.content().scenes().at(std::size_t(index)).name));
+    QString name = prompts_.name(
+        this, words("Name of the scene", "Название сцены"),
+        QString::fromStdString(document_.content().scenes().at(std::size_t(index)).name));
     if (!name.isEmpty()) document_.rename_scene(index, name);
   };
   connect(actions_->scene_rename, &QAction::triggered, this,
@@ -219,8 +218,8 @@ void main_window::show_state() {
   a.layer_up->setEnabled(index >= 0 && index + 1 < count);
   a.layer_down->setEnabled(index > 0);
   a.scene_remove->setEnabled(document_.content().scenes().size() > 1);
-  for (QAction* each : {a.zoom_in, a.zoom_out, a.zoom_all, a.redraw, a.copy_picture,
-                        a.copy_command, a.file_export, a.info_tool})
+  for (QAction* each : {a.zoom_in, a.zoom_out, a.zoom_all, a.redraw, a.copy_picture, a.copy_command,
+                        a.file_export, a.info_tool})
     each->setEnabled(count > 0);
 }
 

@@ -10,7 +10,8 @@ constexpr int most_recent = 10;
 constexpr char recent_name[] = "recent_files";
 constexpr QLatin1Char separator('\n');
 
-/// A person's settings that cannot be read are said where they are changed, not where they are used.
+/// A person's settings that cannot be read are said where they are changed, not where they are
+/// used.
 QString setting(const char* name) {
   try {
     return QString::fromStdString(host::settings().get(name));
@@ -32,9 +33,7 @@ void add_recent_file(const QString& path) {
 
 void forget_recent_files() { host::settings().set(recent_name, {}); }
 
-QByteArray kept_bytes(const char* name) {
-  return QByteArray::fromBase64(setting(name).toLatin1());
-}
+QByteArray kept_bytes(const char* name) { return QByteArray::fromBase64(setting(name).toLatin1()); }
 
 void keep_bytes(const char* name, const QByteArray& bytes) {
   host::settings().set(name, bytes.toBase64().toStdString());

@@ -64,7 +64,8 @@ bool main_window::save() {
 
 bool main_window::save_as() {
   QString proposed = document_.path();
-  if (proposed.isEmpty()) proposed = QDir(last_folder_).filePath(project_name() + QStringLiteral(".zgp"));
+  if (proposed.isEmpty())
+    proposed = QDir(last_folder_).filePath(project_name() + QStringLiteral(".zgp"));
   QString path = prompts_.file_to_save(this, proposed);
   if (path.isEmpty()) return false;
   views_->remember_boxes();

@@ -48,7 +48,8 @@ void main_window::make_menus() {
   // Panels of layers come and go, so the list is made when it opens.
   connect(panels, &QMenu::aboutToShow, this, [this, panels] {
     panels->clear();
-    for (QDockWidget* dock : findChildren<QDockWidget*>()) panels->addAction(dock->toggleViewAction());
+    for (QDockWidget* dock : findChildren<QDockWidget*>())
+      panels->addAction(dock->toggleViewAction());
     panels->addSeparator();
     for (QToolBar* bar : findChildren<QToolBar*>(Qt::FindDirectChildrenOnly))
       panels->addAction(bar->toggleViewAction());

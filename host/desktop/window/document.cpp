@@ -103,9 +103,8 @@ void document::remove_layer(int index) {
   if (index < 0 || index >= static_cast<int>(layers.size())) return;
   bool was_active = layers[std::size_t(index)].shown == active_layer_;
   if (was_active) set_active_layer(nullptr);
-  perform(words("Remove the layer", "Удаление слоя"), [&] {
-    project_->remove(scene(), std::size_t(index));
-  });
+  perform(words("Remove the layer", "Удаление слоя"),
+          [&] { project_->remove(scene(), std::size_t(index)); });
   if (was_active && !layers.empty())
     set_active_layer(layers[std::min(std::size_t(index), layers.size() - 1)].shown);
 }
@@ -191,7 +190,8 @@ void document::perform(const QString& name, const std::function<void()>& change)
 void document::input_happened(const QString& name) {
   const QString& step = name.isEmpty() ? look_changed() : name;
   int index = index_of(active_layer_);
-  std::string key = index < 0 ? std::string() : std::to_string(scene().layers[std::size_t(index)].id);
+  std::string key =
+      index < 0 ? std::string() : std::to_string(scene().layers[std::size_t(index)].id);
   history_->record(step.toStdString(), key + ' ' + step.toStdString());
   changed();
 }

@@ -17,7 +17,10 @@ class layer_list final : public QTreeWidget {
 
   /// Place in the active scene of the layer whose row is current; -1 if none is.
   int current_index() const;
-  /// The reasons that are kept for a layer, and what else is to be said of it; empty if all is well.
+  /// Lets a person type another caption for that layer.
+  void edit_current();
+  /// The reasons that are kept for a layer, and what else is to be said of it; empty if all is
+  /// well.
   static QStringList problems_of(const host::project_layer& layer);
 
  Q_SIGNALS:
@@ -39,7 +42,7 @@ class layer_list final : public QTreeWidget {
   const host::project_layer* layer_at(int index) const;
 
   document& document_;
-  std::vector<std::uint64_t> rows_;  // what the rows stand for
+  std::vector<std::uint64_t> rows_;  // the layers' ids
   bool filling_ = false;
 };
 

@@ -29,6 +29,7 @@ class plain_view final : public QWidget {
   double map_scale() const;
   void set_map_scale(double scale);
   QImage picture();
+  bool is_drawn() const { return !is_old_; }
 
  Q_SIGNALS:
   void view_changed();

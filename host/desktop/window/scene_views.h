@@ -53,7 +53,10 @@ class scene_views final : public QWidget {
   message_bar* messages_;
   QStackedWidget* stack_;
   start_page* start_;
-  std::map<const host::scene*, map_view*> views_;
+  // A new scene may come to stand where an old one stood.
+  using scene_key = std::pair<const host::scene*, std::uint64_t>;
+  static scene_key key_of(const host::project_scene& scene);
+  std::map<scene_key, map_view*> views_;
 };
 
 }  // namespace zu::desktop

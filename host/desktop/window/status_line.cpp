@@ -14,8 +14,8 @@
 namespace zu::desktop {
 namespace {
 
-constexpr double usual_scales[] = {500,   1000,   2000,   5000,    10000,   25000,
-                                   50000, 100000, 200000, 500000, 1000000, 2500000, 10000000};
+constexpr double usual_scales[] = {500,    1000,   2000,   5000,    10000,   25000,   50000,
+                                   100000, 200000, 500000, 1000000, 2500000, 10000000};
 constexpr std::size_t longest_projection = 40;
 
 /// The first quoted name of WKT, the text itself else.
@@ -132,8 +132,8 @@ void status_line::show_progress(double share) {
 
 void status_line::retranslate() {
   scale_title_->setText(words("Scale", "Масштаб"));
-  scale_->setToolTip(words("Scale of the map; type another one",
-                           "Масштаб карты; можно ввести другой"));
+  scale_->setToolTip(
+      words("Scale of the map; type another one", "Масштаб карты; можно ввести другой"));
   coordinates_->setToolTip(words("Coordinates under the pointer", "Координаты под указателем"));
   show_projection(shown_projection_);
 }

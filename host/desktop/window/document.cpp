@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "host/core/failure.h"
+#include "host/core/layer_look.h"
 #include "host/desktop/words.h"
 
 namespace zu::desktop {
@@ -88,6 +89,7 @@ QStringList document::add_sources(const QStringList& sources) {
     for (const QString& source : sources) {
       try {
         std::vector<host::layer*> made = project_->add(scene(), source.toStdString());
+        for (host::layer* each : made) host::apply_look({}, *each);
         if (!made.empty()) added = made.back();
       } catch (const host::failure& problem) {
         failures += QString::fromUtf8(problem.what());

@@ -15,6 +15,10 @@ target_precompile_headers(zu_host_desktop PRIVATE <QtWidgets> <algorithm> <cmath
 
 add_executable(zugrid-desktop host/desktop/main.cpp)
 target_link_libraries(zugrid-desktop PRIVATE zu_host_desktop)
+qt_add_resources(zugrid-desktop pictures PREFIX / BASE ${CMAKE_SOURCE_DIR}/resources/desktop
+                 FILES ${CMAKE_SOURCE_DIR}/resources/desktop/zugrid.svg)
 target_compile_definitions(zugrid-desktop PRIVATE ZU_VERSION="${PROJECT_VERSION}")
 add_dependencies(zugrid-desktop zuk_grid_layer2d)
 install(TARGETS zugrid-desktop RUNTIME DESTINATION bin)
+install(FILES resources/desktop/zugrid-desktop.desktop DESTINATION share/applications)
+install(FILES resources/desktop/zugrid.svg DESTINATION share/icons/hicolor/scalable/apps)

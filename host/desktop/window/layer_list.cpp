@@ -2,9 +2,6 @@
 
 #include <QDropEvent>
 #include <QEvent>
-#include <QFileInfo>
-#include <QHeaderView>
-#include <QKeyEvent>
 #include <QPainter>
 
 #include "host/core/legend.h"
@@ -43,7 +40,8 @@ layer_list::layer_list(document& shown, QWidget* parent) : QTreeWidget(parent), 
   setObjectName(QStringLiteral("layer_list"));
   setHeaderHidden(true);
   setColumnCount(1);
-  setEditTriggers(EditKeyPressed);
+  // F2 and the other keys of a layer are actions of the window.
+  setEditTriggers(NoEditTriggers);
   setExpandsOnDoubleClick(false);
   setDragDropMode(InternalMove);
   setDefaultDropAction(Qt::MoveAction);
@@ -78,6 +76,11 @@ int layer_list::index_of_item(QTreeWidgetItem* item) const {
 
 int layer_list::current_index() const { return index_of_item(currentItem()); }
 
+void layer_list::edit_current() {
+  int index = current_index();
+  if (index >= 0) editItem(topLevelItem(index_of_row(index)));
+}
+
 const host::project_layer* layer_list::layer_at(int index) const {
   const auto& layers = document_.scene().layers;
   if (index < 0 || index >= static_cast<int>(layers.size())) return nullptr;
@@ -103,8 +106,7 @@ QStringList layer_list::problems_of(const host::project_layer& layer) {
 void layer_list::follow() {
   const auto& layers = document_.scene().layers;
   std::vector<std::uint64_t> rows;
-  for (auto each = layers.rbegin(); each != layers.rend(); ++each)
-    rows.push_back(each->id);
+  for (auto each = layers.rbegin(); each != layers.rend(); ++each) rows.push_back(each->id);
   filling_ = true;
   if (rows != rows_) {
     // A layer that was there stays folded as it was.
@@ -138,8 +140,8 @@ void layer_list::fill(QTreeWidgetItem* item, const host::project_layer& layer) {
   QStringList problems = problems_of(layer);
   bool dead = layer.shown == nullptr || layer.shown->is_missing();
   item->setText(0, QString::fromStdString(layer.caption()));
-  item->setCheckState(0, layer.shown != nullptr && layer.shown->is_visible() ? Qt::Checked
-                                                                            : Qt::Unchecked);
+  item->setCheckState(
+      0, layer.shown != nullptr && layer.shown->is_visible() ? Qt::Checked : Qt::Unchecked);
   Qt::ItemFlags flags = item->flags();
   flags.setFlag(Qt::ItemIsUserCheckable, layer.shown != nullptr);
   flags.setFlag(Qt::ItemIsEditable, layer.shown != nullptr);
@@ -147,13 +149,12 @@ void layer_list::fill(QTreeWidgetItem* item, const host::project_layer& layer) {
   QFont font = this->font();
   font.setItalic(dead);
   item->setFont(0, font);
-  item->setForeground(0, palette().brush(dead ? QPalette::Disabled : QPalette::Active,
-                                         QPalette::Text));
-  item->setIcon(0, problems.isEmpty() ? QIcon()
-                                      : QIcon::fromTheme(QStringLiteral("dialog-warning")));
+  item->setForeground(
+      0, palette().brush(dead ? QPalette::Disabled : QPalette::Active, QPalette::Text));
+  item->setIcon(0,
+                problems.isEmpty() ? QIcon() : QIcon::fromTheme(QStringLiteral("dialog-warning")));
   QString tip = QString::fromStdString(layer.source()).toHtmlEscaped();
-  for (const QString& problem : problems)
-    tip += QStringLiteral("<br>• ") + problem.toHtmlEscaped();
+  for (const QString& problem : problems) tip += QStringLiteral("<br>• ") + problem.toHtmlEscaped();
   item->setToolTip(0, QStringLiteral("<qt>") + tip + QStringLiteral("</qt>"));
   item->setData(0, Qt::AccessibleDescriptionRole, problems.join(QLatin1Char('\n')));
   if (layer.shown != nullptr && !layer.shown->is_missing()) {
@@ -205,8 +206,8 @@ void layer_list::dropEvent(QDropEvent* event) {
   if (from < 0) return event->ignore();
   QPoint at = event->position().toPoint();
   QTreeWidgetItem* item = itemAt(at);
-  bool below = item == nullptr || item->parent() != nullptr ||
-               at.y() > visualItemRect(item).center().y();
+  bool below =
+      item == nullptr || item->parent() != nullptr || at.y() > visualItemRect(item).center().y();
   int row = item != nullptr ? topLevelItemCount() - 1 - index_of_item(item) + (below ? 1 : 0)
                             : topLevelItemCount();
   int from_row = topLevelItemCount() - 1 - from;
@@ -215,16 +216,6 @@ void layer_list::dropEvent(QDropEvent* event) {
   event->setDropAction(Qt::IgnoreAction);
   event->accept();
   document_.move_layer(from, index_of_row(row));
-}
-
-void layer_list::keyPressEvent(QKeyEvent* event) {
-  int index = current_index();
-  bool moves = event->modifiers() == Qt::ControlModifier && index >= 0;
-  if (moves && event->key() == Qt::Key_Up && index + 1 < topLevelItemCount())
-    return document_.move_layer(index, index + 1);
-  if (moves && event->key() == Qt::Key_Down && index > 0)
-    return document_.move_layer(index, index - 1);
-  QTreeWidget::keyPressEvent(event);
 }
 
 void layer_list::changeEvent(QEvent* event) {

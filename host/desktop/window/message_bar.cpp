@@ -84,8 +84,7 @@ void message_bar::dismiss() {
 void message_bar::show_summary() {
   if (lines_.isEmpty()) return;
   QString text = lines_.last();
-  if (lines_.size() > 1)
-    text += words(" (and %1 more)", " (и ещё %1)").arg(lines_.size() - 1);
+  if (lines_.size() > 1) text += words(" (and %1 more)", " (и ещё %1)").arg(lines_.size() - 1);
   summary_->setText(fontMetrics().elidedText(text, Qt::ElideMiddle, summary_->width()));
   summary_->setToolTip(text);
 }

@@ -71,8 +71,10 @@ main_window::main_window(const host::bundle& services, prompts asked)
 }
 
 main_window::~main_window() {
-  // The widgets hear of the document until they end, which is after it has.
   document_.disconnect();
+  // What shows the document ends before it does.
+  qDeleteAll(findChildren<QDockWidget*>());
+  delete takeCentralWidget();
 }
 
 QDockWidget* main_window::add_dock(const char* name, Qt::DockWidgetArea area, QWidget* content) {
@@ -217,6 +219,7 @@ void main_window::show_state() {
   a.layer_remove->setEnabled(index >= 0);
   a.layer_up->setEnabled(index >= 0 && index + 1 < count);
   a.layer_down->setEnabled(index > 0);
+  a.file_save->setEnabled(document_.is_changed() || document_.path().isEmpty());
   a.scene_remove->setEnabled(document_.content().scenes().size() > 1);
   for (QAction* each : {a.zoom_in, a.zoom_out, a.zoom_all, a.redraw, a.copy_picture, a.copy_command,
                         a.file_export, a.info_tool})

@@ -30,6 +30,7 @@ class message_bar final : public QFrame {
 
  private:
   void retranslate();
+  void take_colors();
   void show_summary();
 
   QLabel* icon_;

@@ -10,6 +10,7 @@
 #include <memory>
 
 #include "host/core/bundle.h"
+#include "host/desktop/appearance.h"
 #include "host/desktop/window/layer_list.h"
 #include "host/desktop/window/main_window.h"
 #include "host/desktop/window/message_bar.h"
@@ -44,6 +45,7 @@ class main_window_test : public testing::Test {
   void SetUp() override {
     ASSERT_TRUE(folder_.isValid());
     qputenv("XDG_CONFIG_HOME", folder_.path().toUtf8());
+    choose_appearance(appearance::light);
     choose_language(language::english);
     open_window();
   }

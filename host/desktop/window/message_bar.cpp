@@ -66,8 +66,10 @@ void message_bar::take_colors() {
   constexpr double touch = 0.22;
   const QColor amber(246, 176, 0);
   QColor ground = QGuiApplication::palette().color(QPalette::Window);
+  if (ground == ground_) return;
+  ground_ = ground;
   auto mixed = [&](int from, int to) { return static_cast<int>(from + (to - from) * touch); };
-  QPalette own = QGuiApplication::palette();
+  QPalette own;
   own.setColor(QPalette::Window,
                QColor(mixed(ground.red(), amber.red()), mixed(ground.green(), amber.green()),
                       mixed(ground.blue(), amber.blue())));
@@ -110,7 +112,7 @@ void message_bar::retranslate() {
 
 void message_bar::changeEvent(QEvent* event) {
   if (event->type() == QEvent::LanguageChange) retranslate();
-  if (event->type() == QEvent::ApplicationPaletteChange) take_colors();
+  if (event->type() == QEvent::PaletteChange) take_colors();
   QFrame::changeEvent(event);
 }
 

@@ -23,6 +23,7 @@ namespace zu::desktop {
 struct answers {
   QStringList files;
   QString save_as, source, name;
+  std::optional<QString> projection;
   unsaved_answer unsaved = unsaved_answer::cancel;
   int unsaved_asked = 0;
 
@@ -36,6 +37,7 @@ struct answers {
     };
     made.source_instead = [this](QWidget*, const QString&) { return source; };
     made.name = [this](QWidget*, const QString&, const QString&) { return name; };
+    made.projection = [this](QWidget*, const QString&) { return projection; };
     return made;
   }
 };

@@ -1,6 +1,7 @@
 #include "host/core/project.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "host/core/failure.h"
 #include "host/core/source_paths.h"
@@ -25,6 +26,25 @@ void update(Tzu_xnode* node, const wchar_t* key, const std::string& value,
     zu_xnode_get_attr_wstr(node, key, a);
   });
   if (found != wide(value)) zu_xnode_set_attr_wstr(node, key, wide(value).c_str());
+}
+
+/// The box under a scene's node; nothing if there is none that can be shown.
+std::optional<Tzu_box_d2> read_view(Tzu_xnode* scene) {
+  node_ptr node(zu_xnode_get_node_w(scene, L"view"));
+  if (!node) return {};
+  auto side = [&](const wchar_t* key) { return zu_xnode_get_attr_dbl_w(node.get(), key, NAN); };
+  Tzu_box_d2 box{side(L"x0"), side(L"y0"), side(L"x1"), side(L"y1")};
+  bool has_area = box.x1 > box.x0 && box.y1 > box.y0;
+  bool is_finite = std::isfinite(box.x1 - box.x0) && std::isfinite(box.y1 - box.y0);
+  return has_area && is_finite ? std::optional(box) : std::nullopt;
+}
+
+void write_view(Tzu_xnode* scene, const Tzu_box_d2& box) {
+  node_ptr node(zu_xnode_set_node_w(scene, L"view"));
+  zu_xnode_set_attr_dbl_w(node.get(), L"x0", box.x0);
+  zu_xnode_set_attr_dbl_w(node.get(), L"y0", box.y0);
+  zu_xnode_set_attr_dbl_w(node.get(), L"x1", box.x1);
+  zu_xnode_set_attr_dbl_w(node.get(), L"y1", box.y1);
 }
 
 node_ptr copy_of(const Tzu_xnode* node, const wchar_t* name) {
@@ -123,6 +143,7 @@ void project::read_scene(Tzu_xnode* node) {
   project_scene& read = add_scene(attribute(node, L"name"));
   read.kept.reset(copy_of(node, L"scene").release(), node_closed());
   read.content->set_projection(attribute(node, L"projection"));
+  read.view = read_view(node);
   Tzu_optional_color selected{};
   if (zu_xml_data_load_color(nullptr, node, L"selected_color", &selected.color)) {
     selected.is_set = 1;
@@ -232,6 +253,7 @@ void project::write_scene(Tzu_xnode* node, const project_scene& scene,
     zu_xml_data_save_color(nullptr, node, L"selected_color", selected.color);
   else if (stands)
     zu_xnode_remove(zu_xnode_get_node_w(node, L"selected_color"));
+  if (scene.view) write_view(node, *scene.view);
   rewritten_children children(node, L"layer");
   for (const project_layer& each : scene.layers) write_layer(children.take().get(), each, folder);
   children.remove_rest();

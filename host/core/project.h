@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -38,6 +39,8 @@ struct project_scene {
   std::vector<project_layer> layers;  ///< the lowest first; those shown stand in the scene so too
   std::shared_ptr<Tzu_xnode> kept;    ///< as it was read; null for a new one
   std::uint64_t id = 0;               ///< its own in the project
+  /// What its window showed last, which is no change of the project; nothing if none ever did.
+  std::optional<Tzu_box_d2> view;
 };
 
 class project {

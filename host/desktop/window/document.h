@@ -4,9 +4,11 @@
 #include <QObject>
 #include <QStringList>
 #include <functional>
+#include <map>
 #include <memory>
 #include <vector>
 
+#include "host/core/history.h"
 #include "host/core/project.h"
 
 namespace zu::desktop {
@@ -51,7 +53,7 @@ class document : public QObject {
   void set_layer_visible(int index, bool visible);
   /// Shows another source in a layer, with the same look. Throws host::failure if it will not open.
   void relink_layer(int index, const QString& source);
-  void set_projection(const QString& text);
+  void set_projection(const QString& text);  ///< of the active scene
 
   void add_scene(const QString& name);
   void remove_scene(int index);  ///< the last one stays
@@ -71,17 +73,19 @@ class document : public QObject {
   void redo();
 
  Q_SIGNALS:
-  void replaced();  ///< another project, or scenes added or removed
+  void replaced();  ///< another project, or scenes added, removed or renamed
   void scene_activated();
+  /// Also, with no layer, before an active one ends or is changed from outside.
   void layer_activated();
   void layers_changed();   ///< list, captions, visibility, problems
   void picture_changed();  ///< draw again
   void history_changed();  ///< also: is_changed, path
-  /// The layers are about to be ended or made anew: whoever holds one lets go of it now.
-  void about_to_change();
 
  private:
   void replace(std::unique_ptr<host::project> next, const QString& path);
+  void restart_history();
+  void activate_last_layer();
+  void step_through(bool (host::history::*step)());
   void changed();
 
   const host::bundle& services_;
@@ -89,7 +93,8 @@ class document : public QObject {
   QString path_;
   int active_scene_ = 0;
   host::layer* active_layer_ = nullptr;
-  bool is_changed_ = false;
+  std::map<std::uint64_t, std::uint64_t> last_active_;  // ids of layers by those of scenes
+  std::unique_ptr<host::history> history_;
 };
 
 }  // namespace zu::desktop

@@ -29,10 +29,12 @@ info_window::info_window(document& shown, QWidget* parent) : QTreeWidget(parent)
   setSelectionMode(ExtendedSelection);
   setAlternatingRowColors(true);
   header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
-  connect(&document_, &document::replaced, this, [this] {
+  auto forget = [this] {
     is_empty_ = true;
     retranslate();
-  });
+  };
+  connect(&document_, &document::replaced, this, forget);
+  connect(&document_, &document::scene_activated, this, forget);
   retranslate();
 }
 

@@ -3,6 +3,7 @@
 #include <QDropEvent>
 #include <QEvent>
 #include <QPainter>
+#include <QStyledItemDelegate>
 
 #include "host/core/legend.h"
 #include "host/core/texts.h"
@@ -34,11 +35,22 @@ QString key_of(const host::legend_part& part) {
   return key;
 }
 
+/// Rows a little apart, for the eye and for the hand.
+struct airy_rows : QStyledItemDelegate {
+  using QStyledItemDelegate::QStyledItemDelegate;
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    QSize size = QStyledItemDelegate::sizeHint(option, index);
+    bool is_layer = !index.parent().isValid();
+    return is_layer ? QSize(size.width(), size.height() + 6) : size;
+  }
+};
+
 }  // namespace
 
 layer_list::layer_list(document& shown, QWidget* parent) : QTreeWidget(parent), document_(shown) {
   setObjectName(QStringLiteral("layer_list"));
   setHeaderHidden(true);
+  setItemDelegate(new airy_rows(this));
   setColumnCount(1);
   // F2 and the other keys of a layer are actions of the window.
   setEditTriggers(NoEditTriggers);
@@ -67,6 +79,9 @@ layer_list::layer_list(document& shown, QWidget* parent) : QTreeWidget(parent), 
   });
   follow();
 }
+
+// A name that is being typed is not taken when its window goes.
+layer_list::~layer_list() { disconnect(); }
 
 int layer_list::index_of_item(QTreeWidgetItem* item) const {
   while (item != nullptr && item->parent() != nullptr) item = item->parent();
@@ -151,8 +166,7 @@ void layer_list::fill(QTreeWidgetItem* item, const host::project_layer& layer) {
   item->setFont(0, font);
   item->setForeground(
       0, palette().brush(dead ? QPalette::Disabled : QPalette::Active, QPalette::Text));
-  item->setIcon(0,
-                problems.isEmpty() ? QIcon() : QIcon::fromTheme(QStringLiteral("dialog-warning")));
+  item->setIcon(0, problems.isEmpty() ? QIcon() : QIcon::fromTheme(QStringLiteral("data-warning")));
   QString tip = QString::fromStdString(layer.source()).toHtmlEscaped();
   for (const QString& problem : problems) tip += QStringLiteral("<br>• ") + problem.toHtmlEscaped();
   item->setToolTip(0, QStringLiteral("<qt>") + tip + QStringLiteral("</qt>"));

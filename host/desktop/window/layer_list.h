@@ -9,11 +9,12 @@ namespace zu::desktop {
 
 /// A check box shows and hides a layer, dragging reorders. A layer that is missing or did not work
 /// is marked, and its tip says why.
-class layer_list final : public QTreeWidget {
+class layer_list : public QTreeWidget {
   Q_OBJECT
 
  public:
   explicit layer_list(document& shown, QWidget* parent = nullptr);
+  ~layer_list() override;
 
   /// Place in the active scene of the layer whose row is current; -1 if none is.
   int current_index() const;

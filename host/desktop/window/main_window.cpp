@@ -10,7 +10,9 @@
 #include <QTabBar>
 #include <QUrl>
 
+#include "host/core/command_line.h"
 #include "host/core/failure.h"
+#include "host/core/projections.h"
 #include "host/core/settings.h"
 #include "host/desktop/window/info_window.h"
 #include "host/desktop/window/layer_list.h"
@@ -28,6 +30,7 @@ constexpr char geometry_name[] = "window_geometry", layout_name[] = "window_layo
 /// Docks and bars of another number are not those that a layout was kept of.
 constexpr int layout_version = 1;
 constexpr QSize first_size(1280, 800);
+constexpr int message_time = 4000;  // milliseconds
 
 /// Local files as paths, other addresses as they are.
 QStringList paths_of(const QMimeData& data) {
@@ -71,8 +74,10 @@ main_window::main_window(const host::bundle& services, prompts asked)
 }
 
 main_window::~main_window() {
-  // The widgets hear of the document until they end, which is after it has.
   document_.disconnect();
+  // What shows the document ends before it does.
+  qDeleteAll(findChildren<QDockWidget*>());
+  delete takeCentralWidget();
 }
 
 QDockWidget* main_window::add_dock(const char* name, Qt::DockWidgetArea area, QWidget* content) {
@@ -118,6 +123,7 @@ void main_window::connect_map() {
   connect(actions_->redraw, &QAction::triggered, this, [map] { map().redraw(); });
   connect(actions_->copy_picture, &QAction::triggered, this,
           [map] { QApplication::clipboard()->setImage(map().picture()); });
+  connect(actions_->copy_command, &QAction::triggered, this, &main_window::copy_command);
   connect(actions_->full_screen, &QAction::toggled, this,
           [this](bool full) { setWindowState(windowState().setFlag(Qt::WindowFullScreen, full)); });
   connect(views_, &scene_views::view_changed, this, &main_window::show_view);
@@ -174,6 +180,8 @@ void main_window::connect_scenes() {
   connect(actions_->scene_rename, &QAction::triggered, this,
           [this, rename] { rename(document_.active_scene()); });
   connect(views_, &scene_views::tab_name_wanted, this, rename);
+  connect(actions_->scene_projection, &QAction::triggered, this, &main_window::ask_projection);
+  connect(status_, &status_line::projection_wanted, this, &main_window::ask_projection);
   connect(&document_, &document::scene_activated, this, &main_window::show_view);
   connect(&document_, &document::replaced, this, &main_window::show_view);
   connect(&document_, &document::picture_changed, this, &main_window::show_view);
@@ -217,6 +225,7 @@ void main_window::show_state() {
   a.layer_remove->setEnabled(index >= 0);
   a.layer_up->setEnabled(index >= 0 && index + 1 < count);
   a.layer_down->setEnabled(index > 0);
+  a.file_save->setEnabled(document_.is_changed() || document_.path().isEmpty());
   a.scene_remove->setEnabled(document_.content().scenes().size() > 1);
   for (QAction* each : {a.zoom_in, a.zoom_out, a.zoom_all, a.redraw, a.copy_picture, a.copy_command,
                         a.file_export, a.info_tool})
@@ -239,11 +248,45 @@ void main_window::show_info(double x, double y) {
   info_dock_->raise();
 }
 
+/// Puts the line on the clipboard that draws what the map shows.
+void main_window::copy_command() {
+  map_view& map = views_->current();
+  host::page_request request;
+  QSize pixels = map.size() * map.devicePixelRatioF();
+  request.picture.nx = std::uint64_t(pixels.width());
+  request.picture.ny = std::uint64_t(pixels.height());
+  request.picture.extent = map.box();
+  bool is_saved = !document_.is_changed();
+  attempt([&] {
+    host::command_line made =
+        host::command_of(document_.content(), document_.scene(), request,
+                         is_saved ? document_.path().toStdString() : std::string());
+    QApplication::clipboard()->setText(QString::fromStdString(made.text()));
+    QStringList lacks;
+    for (const std::string& each : made.lacks) lacks += QString::fromStdString(each);
+    views_->messages().tell(lacks);
+    status_->showMessage(words("The command is on the clipboard.", "Команда в буфере обмена."),
+                         message_time);
+  });
+}
+
+void main_window::ask_projection() {
+  QString now = QString::fromStdString(document_.scene().content->projection());
+  std::optional<QString> chosen = prompts_.projection(this, now);
+  if (!chosen || *chosen == now) return;
+  attempt([&] {
+    std::string why = host::why_no_projection(chosen->toStdString());
+    if (!chosen->isEmpty() && !why.empty()) throw host::failure(chosen->toStdString(), why);
+    document_.set_projection(*chosen);
+    views_->current().zoom_to_all();
+  });
+}
+
 bool main_window::wait_until_drawn(int milliseconds) {
   QElapsedTimer timer;
   timer.start();
   QCoreApplication::processEvents();
-  while (!views_->current().is_drawn()) {
+  while (!views_->current().is_up_to_date()) {
     if (timer.elapsed() > milliseconds) return false;
     QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
   }

@@ -61,8 +61,19 @@ QString ask_name(QWidget* parent, const QString& question, const QString& now) {
   return accepted ? text.trimmed() : QString();
 }
 
+std::optional<QString> ask_projection(QWidget* parent, const QString& now) {
+  bool accepted = false;
+  QString text = QInputDialog::getText(parent, words("Projection of the scene", "Проекция сцены"),
+                                       words("EPSG:n, a PROJ text or WKT; empty for none:",
+                                             "EPSG:n, текст PROJ или WKT; пусто — без проекции:"),
+                                       QLineEdit::Normal, now, &accepted);
+  return accepted ? std::optional(text.trimmed()) : std::nullopt;
+}
+
 }  // namespace
 
-prompts prompts_of_dialogs() { return {ask_files, ask_project, ask_unsaved, ask_source, ask_name}; }
+prompts prompts_of_dialogs() {
+  return {ask_files, ask_project, ask_unsaved, ask_source, ask_name, ask_projection};
+}
 
 }  // namespace zu::desktop

@@ -9,6 +9,7 @@
 #include <QToolButton>
 #include <cmath>
 
+#include "host/core/projections.h"
 #include "host/desktop/words.h"
 
 namespace zu::desktop {
@@ -17,15 +18,6 @@ namespace {
 constexpr double usual_scales[] = {500,    1000,   2000,   5000,    10000,   25000,   50000,
                                    100000, 200000, 500000, 1000000, 2500000, 10000000};
 constexpr std::size_t longest_projection = 40;
-
-/// The first quoted name of WKT, the text itself else.
-QString name_of_projection(const QString& text) {
-  qsizetype begin = text.indexOf(QLatin1Char('"'));
-  qsizetype end = text.indexOf(QLatin1Char('"'), begin + 1);
-  if (text.contains(QLatin1Char('[')) && begin >= 0 && end > begin)
-    return text.mid(begin + 1, end - begin - 1);
-  return text;
-}
 
 }  // namespace
 
@@ -117,7 +109,7 @@ void status_line::show_scale(double scale) {
 
 void status_line::show_projection(const QString& text) {
   shown_projection_ = text;
-  QString name = name_of_projection(text);
+  QString name = QString::fromStdString(host::projection_name(text.toStdString()));
   if (name.size() > static_cast<qsizetype>(longest_projection))
     name = name.left(longest_projection - 1) + QChar(0x2026);
   projection_->setText(text.isEmpty() ? words("No projection", "Без проекции") : name);

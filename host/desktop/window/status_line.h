@@ -19,7 +19,7 @@ class status_line final : public QStatusBar {
   void show_coordinates(double x, double y, bool inside);
   /// The denominator of the map's scale; what is not above 0 shows none.
   void show_scale(double scale);
-  /// "EPSG:n" as it is, other texts by the projection's name; empty: none.
+  /// By its name; empty: none.
   void show_projection(const QString& text);
   /// Between 0 and 1; anything below 0 takes the bar away.
   void show_progress(double share);

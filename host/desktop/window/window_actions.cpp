@@ -41,7 +41,7 @@ const row rows[] = {
     {&actions::redraw, "redraw", "view-refresh", "F5", "&Redraw", "Пе&рерисовать"},
     {&actions::full_screen, "full_screen", "view-fullscreen", "F11", "F&ull screen",
      "Во весь &экран"},
-    {&actions::layer_zoom, "layer_zoom", "zoom-fit-selection", "Ctrl+L", "&Zoom to the layer",
+    {&actions::layer_zoom, "layer_zoom", "crosshairs", "Ctrl+L", "&Zoom to the layer",
      "По&казать слой целиком"},
     {&actions::layer_rename, "layer_rename", "edit-rename", "F2", "Re&name", "Пере&именовать"},
     {&actions::layer_remove, "layer_remove", "edit-delete", "Del", "&Remove", "&Удалить"},

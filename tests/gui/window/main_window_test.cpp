@@ -212,4 +212,41 @@ TEST_F(main_window_test, scenes_stand_in_tabs_when_there_are_several) {
   EXPECT_EQ(content().content().scenes()[1].name, "Fish & chips");
 }
 
+TEST_F(main_window_test, the_projection_is_chosen_and_shown_and_can_be_undone) {
+  window_->open_paths({grid("a.asc")});
+  auto* shown = window_->findChild<QToolButton*>(QStringLiteral("status_projection"));
+  EXPECT_EQ(shown->text(), QStringLiteral("No projection"));
+  answers_.projection = QStringLiteral("EPSG:32637");
+  QTest::mouseClick(shown, Qt::LeftButton);
+  EXPECT_EQ(shown->text(), QStringLiteral("WGS 84 / UTM zone 37N"));
+  answers_.projection = QStringLiteral("nonsense");
+  actions().scene_projection->trigger();
+  EXPECT_EQ(messages().size(), 1);
+  EXPECT_EQ(shown->text(), QStringLiteral("WGS 84 / UTM zone 37N"));
+  actions().edit_undo->trigger();
+  EXPECT_EQ(shown->text(), QStringLiteral("No projection"));
+}
+
+TEST_F(main_window_test, a_scale_that_is_typed_is_taken) {
+  window_->open_paths({grid("a.asc")});
+  auto* scale = window_->findChild<QComboBox*>(QStringLiteral("status_scale"));
+  scale->lineEdit()->selectAll();
+  QTest::keyClicks(scale->lineEdit(), QStringLiteral("1:2500"));
+  QTest::keyClick(scale->lineEdit(), Qt::Key_Return);
+  EXPECT_NEAR(window_->views().current().map_scale(), 2500, 1);
+  EXPECT_EQ(scale->currentText(), QStringLiteral("1:2500"));
+  scale->lineEdit()->selectAll();
+  QTest::keyClicks(scale->lineEdit(), QStringLiteral("large"));
+  QTest::keyClick(scale->lineEdit(), Qt::Key_Return);
+  EXPECT_EQ(scale->currentText(), QStringLiteral("1:2500"));
+}
+
+TEST_F(main_window_test, copies_the_command_that_makes_the_picture) {
+  window_->open_paths({grid("a.asc")});
+  actions().copy_command->trigger();
+  QString line = QApplication::clipboard()->text();
+  EXPECT_TRUE(line.contains(QLatin1String("zugrid render"))) << line.toStdString();
+  EXPECT_TRUE(line.contains(QLatin1String("a.asc"))) << line.toStdString();
+}
+
 }  // namespace zu::desktop

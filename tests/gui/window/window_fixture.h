@@ -10,6 +10,7 @@
 #include <memory>
 
 #include "host/core/bundle.h"
+#include "host/desktop/appearance.h"
 #include "host/desktop/window/layer_list.h"
 #include "host/desktop/window/main_window.h"
 #include "host/desktop/window/message_bar.h"
@@ -22,6 +23,7 @@ namespace zu::desktop {
 struct answers {
   QStringList files;
   QString save_as, source, name;
+  std::optional<QString> projection;
   unsaved_answer unsaved = unsaved_answer::cancel;
   int unsaved_asked = 0;
 
@@ -35,6 +37,7 @@ struct answers {
     };
     made.source_instead = [this](QWidget*, const QString&) { return source; };
     made.name = [this](QWidget*, const QString&, const QString&) { return name; };
+    made.projection = [this](QWidget*, const QString&) { return projection; };
     return made;
   }
 };
@@ -44,6 +47,7 @@ class main_window_test : public testing::Test {
   void SetUp() override {
     ASSERT_TRUE(folder_.isValid());
     qputenv("XDG_CONFIG_HOME", folder_.path().toUtf8());
+    choose_appearance(appearance::light);
     choose_language(language::english);
     open_window();
   }

@@ -36,6 +36,14 @@ void take(service_factory factory, handle owner, std::vector<typed_service<inter
   services.push_back({narrow(type.get()), receiver.held});
 }
 
+template <class interface, class visitor_impl>
+void take_named(const std::wstring& name_space, service_factory factory, handle owner,
+                std::vector<named_service<interface>>& services) {
+  receiver<interface, visitor_impl> receiver;
+  call<&service_factory_impl::create>(factory, owner, handle(handle_of<visitor_impl>(receiver)));
+  if (receiver.held) services.push_back({name_space, receiver.held});
+}
+
 template <class interface>
 of<interface> find(const std::vector<typed_service<interface>>& services, const std::string& type) {
   for (const auto& entry : services)
@@ -63,8 +71,8 @@ struct bundle::context final : referent<bundle_context_impl> {
   registry services;
 };
 
-/// Answers the bundle's dialogs where nobody can: with the settings that they open with, where that
-/// is what a person would mostly take.
+/// Answers the bundles' dialogs: by the host's runners, and where there is none with the settings
+/// that they open with, where that is what a person would mostly take.
 struct bundle::dialogs final : modal_dialog_visitor_impl {
   struct runner final : modal_dialog_runner_impl {
     explicit runner(bool accepts) : accepts(accepts) {}
@@ -72,11 +80,20 @@ struct bundle::dialogs final : modal_dialog_visitor_impl {
     bool accepts;
   };
   void visit(const wchar_t* id, modal_dialog dialog) override {
-    runners.push_back(std::make_unique<runner>(std::wstring(id) == L"zu_segy_params_dialog"));
-    call<&modal_dialog_impl::attach_view>(
-        dialog, modal_dialog_runner(handle_of<modal_dialog_runner_impl>(*runners.back())));
+    modal_dialog_runner chosen = runners ? runners(id) : modal_dialog_runner();
+    if (!chosen) {
+      runner& own = std::wstring(id) == L"zu_segy_params_dialog" ? accepting : declining;
+      chosen = modal_dialog_runner(handle_of<modal_dialog_runner_impl>(own));
+    }
+    call<&modal_dialog_impl::attach_view>(dialog, chosen);
   }
-  std::vector<std::unique_ptr<runner>> runners;
+  void attach() {
+    for (const auto& service : services)
+      call<&modal_dialog_service_impl::get_dialog>(
+          service.get(), modal_dialog_visitor(handle_of<modal_dialog_visitor_impl>(*this)));
+  }
+  runner accepting{true}, declining{false};
+  dialog_runners runners;
   std::vector<strong_ref<modal_dialog_service_impl>> services;
 };
 
@@ -87,21 +104,21 @@ struct kept_filters final : scene_editor_filter_visitor_impl {
   std::vector<scene_editor_filter>& all;
 };
 
-bundle::bundle() : dialogs_(std::make_unique<dialogs>()) {
-  std::string path = bundle_path();
-  library_ = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
-  if (library_ == nullptr) throw failure(path, std::string("cannot be loaded: ") + dlerror());
-  using entry = Tzu_handle (*)(void*);
-  auto open = reinterpret_cast<entry>(dlsym(library_, "zu_bundle_interface_to_custom_pointer"));
-  if (open == nullptr) throw failure(path, "is no bundle");
-  call<&bundle_impl::enumerate_factories>(
-      open(this), service_factory_receiver(handle_of<service_factory_receiver_impl>(*this)));
-  offer_registry();
+bundle::bundle(const std::vector<std::string>& further) : dialogs_(std::make_unique<dialogs>()) {
+  context_.reset(handle_of<bundle_context_impl>(*new context));
+  namespace fs = std::filesystem;
+  fs::path path = bundle_path();
+  load(path.string());
+  for (const std::string& name : further)
+    if (fs::path beside = path.parent_path() / name; fs::exists(beside)) load(beside.string());
   take_services();
 }
 
 bundle::~bundle() {
   dialogs_->services.clear();
+  viewer_extensions_.clear();
+  tools_.clear();
+  layer_editors_.clear();
   infos_.clear();
   filters_.clear();
   editors_.clear();
@@ -109,19 +126,27 @@ bundle::~bundle() {
   trees_.clear();
   layers_.clear();
   context_.reset();
-  if (library_ != nullptr) dlclose(library_);
+  std::for_each(libraries_.rbegin(), libraries_.rend(), dlclose);
+}
+
+void bundle::load(const std::string& path) {
+  void* library = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
+  if (library == nullptr) throw failure(path, std::string("cannot be loaded: ") + dlerror());
+  libraries_.push_back(library);
+  using entry = Tzu_handle (*)(void*);
+  auto open = reinterpret_cast<entry>(dlsym(library, "zu_bundle_interface_to_custom_pointer"));
+  if (open == nullptr) throw failure(path, "is no bundle");
+  std::size_t client = factories_.size();
+  call<&bundle_impl::enumerate_factories>(
+      open(this), service_factory_receiver(handle_of<service_factory_receiver_impl>(*this)));
+  // The client of the registry stands at the head.
+  if (client < factories_.size())
+    call<&service_factory_impl::create>(factories_[client].second, handle(context_.get()),
+                                        handle());
 }
 
 void bundle::visit(const wchar_t* name_space, service_factory factory) {
   factories_.emplace_back(name_space, factory);
-}
-
-void bundle::offer_registry() {
-  context_.reset(handle_of<bundle_context_impl>(*new context));
-  // The client stands at the head.
-  if (!factories_.empty())
-    call<&service_factory_impl::create>(factories_.front().second, handle(context_.get()),
-                                        handle());
 }
 
 void bundle::take_services() {
@@ -137,19 +162,36 @@ void bundle::take_services() {
     take_untyped<objinfo_service_impl, objinfo_service_visitor_impl>(factory, owner, infos_);
     take_untyped<modal_dialog_service_impl, modal_dialog_service_visitor_impl>(factory, owner,
                                                                                dialogs_->services);
+    take_named<layer_2d_editor_extension_service_impl,
+               layer_2d_editor_extension_service_visitor_impl>(name_space, factory, owner,
+                                                               layer_editors_);
+    take_named<tool_service_impl, tool_service_visitor_impl>(name_space, factory, owner, tools_);
+    take_named<viewer_2d_extension_service_impl, viewer_2d_extension_service_visitor_impl>(
+        name_space, factory, owner, viewer_extensions_);
   }
-  for (const auto& service : dialogs_->services)
-    call<&modal_dialog_service_impl::get_dialog>(
-        service.get(), modal_dialog_visitor(handle_of<modal_dialog_visitor_impl>(*dialogs_)));
-  std::stable_sort(editors_.begin(), editors_.end(), [](const auto& a, const auto& b) {
-    return call<&scene_2d_editor_extension_service_impl::get_order>(a.get()) <
-           call<&scene_2d_editor_extension_service_impl::get_order>(b.get());
-  });
+  dialogs_->attach();
+  sort_services();
   kept_filters keep(filters_);
   for (const auto& service : editors_)
     call<&scene_2d_editor_extension_service_impl::get_filters>(
         service.get(),
         scene_editor_filter_visitor(handle_of<scene_editor_filter_visitor_impl>(keep)));
+}
+
+void bundle::sort_services() {
+  std::stable_sort(editors_.begin(), editors_.end(), [](const auto& a, const auto& b) {
+    return call<&scene_2d_editor_extension_service_impl::get_order>(a.get()) <
+           call<&scene_2d_editor_extension_service_impl::get_order>(b.get());
+  });
+  std::stable_sort(layer_editors_.begin(), layer_editors_.end(), [](const auto& a, const auto& b) {
+    return call<&layer_2d_editor_extension_service_impl::get_order>(a.service.get()) <
+           call<&layer_2d_editor_extension_service_impl::get_order>(b.service.get());
+  });
+}
+
+void bundle::set_dialog_runners(dialog_runners runners) {
+  dialogs_->runners = std::move(runners);
+  dialogs_->attach();
 }
 
 layer_2d_service bundle::layers(const std::string& type) const { return find(layers_, type); }

@@ -1,15 +1,19 @@
 #pragma once
-// The plug-in bundle: found, loaded, and asked for its services.
+// The plug-in bundles: found, loaded, and asked for their services.
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "zu/editors.h"
 #include "zu/layer2d.h"
 #include "zu/objinfo.h"
 #include "zu/scene_editor.h"
 #include "zu/services.h"
+#include "zu/tools.h"
+#include "zu/viewer.h"
 
 namespace zu::host {
 
@@ -19,10 +23,21 @@ template <class interface> struct typed_service {
   strong_ref<interface> service;
 };
 
+/// A service together with the namespace under which its bundle offers it.
+template <class interface> struct named_service {
+  std::wstring name_space;
+  strong_ref<interface> service;
+};
+
+/// The runner of a dialog of an id, which lives until another is set; empty: the bundle's dialog is
+/// answered as without windows.
+using dialog_runners = std::function<modal_dialog_runner(const std::wstring& id)>;
+
 class bundle final : service_factory_receiver_impl {
  public:
-  /// Loads $ZU_BUNDLE, or zuk_grid_layer2d.so beside the program. Throws `failure`.
-  bundle();
+  /// Loads $ZU_BUNDLE, or zuk_grid_layer2d.so beside the program, and then the files of those names
+  /// that stand in the same folder. Throws `failure`; a further one may be absent.
+  explicit bundle(const std::vector<std::string>& further = {});
   ~bundle();
   bundle(const bundle&) = delete;
   bundle& operator=(const bundle&) = delete;
@@ -32,25 +47,38 @@ class bundle final : service_factory_receiver_impl {
   layer_2d_externalization_service externalization(const std::string& type) const;
   layer_2d_renderer_extension_service renderer(const std::string& type) const;
 
+  // For windows. The services of editors come in the order that they ask for.
+  const std::vector<named_service<layer_2d_editor_extension_service_impl>>& layer_editors() const {
+    return layer_editors_;
+  }
+  const std::vector<named_service<tool_service_impl>>& tools() const { return tools_; }
+  const std::vector<named_service<viewer_2d_extension_service_impl>>& viewer_extensions() const {
+    return viewer_extensions_;
+  }
+  /// Who runs the bundles' dialogs from now on. Without it, and for an id without a runner, a
+  /// dialog is declined, but for one that opens with what a person would mostly take.
+  void set_dialog_runners(dialog_runners runners);
+
   /// What takes files, the filters of the service of least order first.
   const std::vector<scene_editor_filter>& filters() const { return filters_; }
   const std::vector<strong_ref<objinfo_service_impl>>& object_infos() const { return infos_; }
 
-  /// Namespace and factory of every entry, in the bundle's order.
+  /// Namespace and factory of every entry, in the bundles' order.
   const std::vector<std::pair<std::wstring, service_factory>>& factories() const {
     return factories_;
   }
 
  private:
   void visit(const wchar_t* name_space, service_factory factory) override;
+  void load(const std::string& path);
   void take_services();
-  void offer_registry();
+  void sort_services();
 
   struct registry;
   struct context;
   struct dialogs;
 
-  void* library_ = nullptr;
+  std::vector<void*> libraries_;
   std::vector<std::pair<std::wstring, service_factory>> factories_;
   strong_ref<bundle_context_impl> context_;
   std::vector<typed_service<layer_2d_service_impl>> layers_;
@@ -59,6 +87,9 @@ class bundle final : service_factory_receiver_impl {
   std::vector<strong_ref<scene_2d_editor_extension_service_impl>> editors_;
   std::vector<scene_editor_filter> filters_;
   std::vector<strong_ref<objinfo_service_impl>> infos_;
+  std::vector<named_service<layer_2d_editor_extension_service_impl>> layer_editors_;
+  std::vector<named_service<tool_service_impl>> tools_;
+  std::vector<named_service<viewer_2d_extension_service_impl>> viewer_extensions_;
   std::unique_ptr<dialogs> dialogs_;
 };
 

@@ -5,7 +5,9 @@
 #include <string_view>
 #include <utility>
 
+#include "host/core/entity_drawing.h"
 #include "host/core/failure.h"
+#include "host/core/source_paths.h"
 #include "host/core/texts.h"
 #include "zu/platform/zuk_io.h"
 #include "zu/platform/zuk_rtr_lr2d.h"
@@ -16,11 +18,6 @@ namespace {
 
 /// The platform draws these itself.
 constexpr char coordinates_type[] = "tos_2crd_lr2d";
-
-std::string file_name_of(const std::string& path) {
-  std::size_t slash = path.find_last_of("/\\");
-  return slash == std::string::npos ? path : path.substr(slash + 1);
-}
 
 // Numbers of draw types where the platform keeps the layer.
 constexpr std::pair<draw_type, int> raster_types[] = {{draw_type::image, zu_rtr_draw_image},
@@ -118,6 +115,22 @@ std::string layer::source_name() const {
   return narrow(text_of([&](Tzu_string_adp* adapter) { zu_lr2d_get_wsource(entity_, adapter); }));
 }
 
+void layer::set_source(const std::string& source) {
+  std::wstring name = wide_name(source);
+  data_.reset();
+  zu_lr2d_set_wsource(entity_, name.c_str());
+  zu_lr2d_source_changed(entity_);
+  zu_lr2d_update_validity(entity_);
+}
+
+std::string layer::subtype() const {
+  return narrow(text_of([&](Tzu_string_adp* adapter) { zu_lr_get_lr_subtype(entity_, adapter); }));
+}
+
+void layer::set_subtype(const std::string& subtype) {
+  zu_lr_set_lr_subtype(entity_, wide(subtype).c_str());
+}
+
 std::string layer::caption() const {
   return narrow(text_of([&](Tzu_string_adp* adapter) { zu_lr2d_get_wcaption(entity_, adapter); }));
 }
@@ -133,6 +146,10 @@ const source& layer::data() const {
 
 std::string layer::projection() const {
   return narrow(text_of([&](Tzu_string_adp* adapter) { zu_lr2d_get_pj4wstr(entity_, adapter); }));
+}
+
+void layer::set_projection(const std::string& text) {
+  zu_lr2d_set_pj4wstr(entity_, wide(text).c_str());
 }
 
 std::optional<Tzu_box_d2> layer::box() const {
@@ -192,10 +209,19 @@ void layer::load(Tzu_xnode* node) {
                                                      node, static_cast<void*>(nullptr));
 }
 
+std::string layer::state() const {
+  node_ptr root(zu_xnode_create_root_w(L"layer"));
+  save(root.get());
+  return narrow_text_of([&](Tzu_string_adp* a) { zu_xnode_get_text(root.get(), a); });
+}
+
+void layer::load_state(const std::string& state) {
+  node_ptr root(zu_xnode_read(state.data(), state.size(), nullptr));
+  if (root) load(root.get());
+}
+
 void layer::draw(Izu_render* render) const {
-  if (type() == coordinates_type) return zu_tos_2crd_lr2d_draw(render, entity_);
-  call<&layer_2d_renderer_extension_service_impl::render>(services_.renderer(type()), render,
-                                                          entity_);
+  draw_entity(services_, render, entity_);
 }
 
 }  // namespace zu::host

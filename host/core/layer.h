@@ -49,6 +49,11 @@ class layer final : layer_2d_visitor_impl {
   Izu_layer* entity() const { return entity_; }
   std::string type() const;
   std::string source_name() const;
+  /// Leads it to another source, that may be missing; its look stays, but for what the source
+  /// itself says of being an image.
+  void set_source(const std::string& source);
+  std::string subtype() const;
+  void set_subtype(const std::string& subtype);
   std::string caption() const;
   void set_caption(const std::string& caption);
   /// The source, opened when it is first asked for. Throws `failure` if it will not open.
@@ -58,6 +63,7 @@ class layer final : layer_2d_visitor_impl {
   bool is_visible() const { return zu_lr2d_is_visible(entity_); }
   void set_visible(bool visible) { zu_lr2d_set_visible(entity_, visible); }
   std::string projection() const;
+  void set_projection(const std::string& text);
   /// In scene coordinates; nothing if it cannot be brought there.
   std::optional<Tzu_box_d2> box() const;
 
@@ -73,6 +79,9 @@ class layer final : layer_2d_visitor_impl {
   /// The layer's own state under a node of a tree, and back.
   void save(Tzu_xnode* node) const;
   void load(Tzu_xnode* node);
+  /// The state as a text, and back. Equal texts are equal states.
+  std::string state() const;
+  void load_state(const std::string& state);
 
   /// After a change of the scene's projection.
   void update() { zu_lr2d_update_box(entity_); }

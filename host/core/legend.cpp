@@ -93,29 +93,6 @@ void add_gray_bar(const Tzu_clr_channel* channel, legend_part& part) {
   }
 }
 
-legend_part explain(const layer& shown_layer) {
-  legend_part part;
-  part.title = wide(shown_layer.caption());
-  draw_settings settings = shown_layer.settings();
-  if (settings.draw == draw_type::gray)
-    add_gray_bar(zu_rgb_channels_get_gray(settings.channels.get()), part);
-  Tzu_stl_mngr* styles = shown_layer.style_manager();
-  if (settings.draw != draw_type::scale || styles == nullptr) return part;
-  if (zu_stl_mngr_get_mode(styles) == zu_style_simple)
-    part.rows.push_back(
-        {*zu_stl_prm_get_clr_style_ptr(zu_stl_mngr_get_simple_sp_ptr(styles), 0), part.title});
-  if (zu_stl_mngr_get_mode(styles) == zu_style_value)
-    add_values(zu_stl_mngr_get_val_scale_ptr(styles), part);
-  if (zu_stl_mngr_get_mode(styles) == zu_style_range) {
-    Tzu_rng_scale* scale = zu_stl_mngr_get_rng_scale_ptr(styles);
-    if (zu_rng_scale_get_size(scale) > most_rows)
-      add_class_bar(scale, part);
-    else
-      add_classes(scale, part);
-  }
-  return part;
-}
-
 double height_of(const legend_part& part) {
   double rows = static_cast<double>(part.rows.size()) * (part.bar ? bar_row_height : row_height);
   return row_height + rows + gap;
@@ -139,10 +116,33 @@ void draw_part(const legend_part& part, Tzu_drwc* page, double x, double y) {
 
 }  // namespace
 
+legend_part legend_of(const layer& shown) {
+  legend_part part;
+  part.title = wide(shown.caption());
+  draw_settings settings = shown.settings();
+  if (settings.draw == draw_type::gray)
+    add_gray_bar(zu_rgb_channels_get_gray(settings.channels.get()), part);
+  Tzu_stl_mngr* styles = shown.style_manager();
+  if (settings.draw != draw_type::scale || styles == nullptr) return part;
+  if (zu_stl_mngr_get_mode(styles) == zu_style_simple)
+    part.rows.push_back(
+        {*zu_stl_prm_get_clr_style_ptr(zu_stl_mngr_get_simple_sp_ptr(styles), 0), part.title});
+  if (zu_stl_mngr_get_mode(styles) == zu_style_value)
+    add_values(zu_stl_mngr_get_val_scale_ptr(styles), part);
+  if (zu_stl_mngr_get_mode(styles) == zu_style_range) {
+    Tzu_rng_scale* scale = zu_stl_mngr_get_rng_scale_ptr(styles);
+    if (zu_rng_scale_get_size(scale) > most_rows)
+      add_class_bar(scale, part);
+    else
+      add_classes(scale, part);
+  }
+  return part;
+}
+
 std::vector<legend_part> legend_of(const scene& shown) {
   std::vector<legend_part> parts;
   for (auto each = shown.layers().rbegin(); each != shown.layers().rend(); ++each)
-    if (legend_part part = explain(**each); !part.rows.empty()) parts.push_back(std::move(part));
+    if (legend_part part = legend_of(**each); !part.rows.empty()) parts.push_back(std::move(part));
   return parts;
 }
 

@@ -21,6 +21,8 @@ struct legend_part {
   bool bar = false;
 };
 
+/// What there is to explain of one layer; without rows if nothing.
+legend_part legend_of(const layer& shown);
 /// Parts of all layers that have something to explain, the uppermost layer first.
 std::vector<legend_part> legend_of(const scene& shown);
 

@@ -95,6 +95,13 @@ void scene::remove(const layer& removed) {
   std::erase_if(layers_, [&](const auto& each) { return each.get() == &removed; });
 }
 
+void scene::arrange(const std::vector<layer*>& order) {
+  auto place = [&](const layer* each) { return std::find(order.begin(), order.end(), each); };
+  std::sort(layers_.begin(), layers_.end(),
+            [&](const auto& a, const auto& b) { return place(a.get()) < place(b.get()); });
+  for (const auto& each : layers_) zu_scn_2d_add_layer(scene_, each->entity());
+}
+
 void scene::set_projection(const std::string& text) {
   zu_scn_2d_set_pj4wstr(scene_, wide(text).c_str());
   for (auto& each : layers_) each->update();

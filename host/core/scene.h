@@ -22,6 +22,8 @@ class scene {
   /// Adds a layer of a type on top, whether its source is there or not.
   layer& add_layer(const std::string& type, const std::string& source);
   void remove(const layer& removed);
+  /// Puts the layers into another order, the lowest first: all of them, each once.
+  void arrange(const std::vector<layer*>& order);
   const std::vector<std::unique_ptr<layer>>& layers() const { return layers_; }
   /// EPSG:n, PROJ text or WKT; the first layer's own until it is set.
   void set_projection(const std::string& text);

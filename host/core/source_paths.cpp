@@ -38,6 +38,11 @@ fs::path settled(const fs::path& path) {
 
 }  // namespace
 
+std::string file_name_of(const std::string& path) {
+  std::size_t slash = path.find_last_of("/\\");
+  return slash == std::string::npos ? path : path.substr(slash + 1);
+}
+
 std::string folder_of(const std::string& file) { return settled(file).parent_path().string(); }
 
 std::string written_source(const std::string& source, const std::string& folder) {

@@ -6,6 +6,8 @@
 
 namespace zu::host {
 
+/// What stands behind the last slash, or backslash, of a source's name.
+std::string file_name_of(const std::string& source);
 /// The folder of a file, as an absolute path without links.
 std::string folder_of(const std::string& file);
 /// How a source is written in a file of that folder. What is no path ("/vsi…", "*…", the connection

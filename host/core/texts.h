@@ -29,6 +29,18 @@ template <class function> std::wstring text_of(function&& ask) {
   return text;
 }
 
+/// The same of a function that delivers UTF-8.
+template <class function> std::string narrow_text_of(function&& ask) {
+  std::string text;
+  std::unique_ptr<Tzu_string_adp, void (*)(Tzu_string_adp*)> adapter(
+      zu_string_adp_create(
+          [](const char* given, void* user) { *static_cast<std::string*>(user) = given; }, nullptr,
+          &text),
+      &zu_string_adp_destroy);
+  ask(adapter.get());
+  return text;
+}
+
 /// Keeps the text that an interface gives.
 class kept_text final : public string_visitor_impl {
  public:

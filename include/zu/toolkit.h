@@ -513,18 +513,18 @@ struct canvas_impl : plain_interface<canvas_impl> {
                               &canvas_impl::enabled, &canvas_impl::attach_view>;
 };
 
-struct histogram_visitor_impl : plain_interface<histogram_visitor_impl> {
+struct histogram_data_visitor_impl : plain_interface<histogram_data_visitor_impl> {
   static constexpr char name[] = "zu_histogram_visitor_interface_4";
   virtual void visit(const Tzu_histogramm_data*) {}  ///< lives during the call
-  using operations = in_order<&histogram_visitor_impl::visit>;
+  using operations = in_order<&histogram_data_visitor_impl::visit>;
 };
-using histogram_visitor = of<histogram_visitor_impl>;
+using histogram_data_visitor = of<histogram_data_visitor_impl>;
 
 /// Bars of a distribution, with the limits that a person drags over them.
 struct histogram_impl : plain_interface<histogram_impl> {
   static constexpr char name[] = "zu_histogram_interface_4";
-  virtual std::int32_t show() { return 1; }           ///< 0: the frame alone
-  virtual void visit_histogram(histogram_visitor) {}  ///< no call while there is none
+  virtual std::int32_t show() { return 1; }                ///< 0: the frame alone
+  virtual void visit_histogram(histogram_data_visitor) {}  ///< no call while there is none
   virtual double minimum() { return 0; }
   virtual double maximum() { return 1; }
   virtual void set_range(double /*minimum*/, double /*maximum*/) {}

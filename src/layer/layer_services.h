@@ -5,6 +5,7 @@
 
 #include "src/bundle/encoding.h"
 #include "src/layer/layer_object.h"
+#include "src/toolkit/reattachable.h"
 #include "zu/layer2d.h"
 
 namespace zu {
@@ -15,17 +16,6 @@ bool is_shp_z_subtype(const wchar_t* subtype);
 bool is_vector_layer(const char* type);
 
 namespace toolkit {
-
-/// Binding to null ends the object: it is how a host lets go of what it created.
-template <class T, class H> class reattachable : public T {
- public:
-  void bind_entity(H entity) override {
-    if (entity == nullptr)
-      delete this;
-    else
-      T::bind_entity(entity);
-  }
-};
 
 inline void give_type(const char* type, string_visitor visitor) {
   call<&string_visitor_impl::visit>(visitor, wide_from(type, 0).c_str());

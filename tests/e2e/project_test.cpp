@@ -137,7 +137,7 @@ TEST_F(project, several_scenes_keep_name_projection_and_colour_of_the_selected) 
   zu::host::bundle services;
   zu::host::project made(services);
   made.scenes()[0].name = "first";
-  made.scenes().push_back({"second", std::make_unique<zu::host::scene>(services), {}});
+  made.add_scene("second");
   made.scenes()[1].content->set_projection("EPSG:3857");
   zu_scn_2d_set_selected_style_clr(made.scenes()[1].content->get(), {{1, 2, 3, 4}, 1});
   made.add(made.scenes()[1], floats("a.tif", 2, 1, {1, 2}));

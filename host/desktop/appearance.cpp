@@ -1,0 +1,64 @@
+#include "host/desktop/appearance.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QPalette>
+#include <QStandardPaths>
+#include <QStyleFactory>
+
+namespace zu::desktop {
+namespace {
+
+QPalette palette_of(QColor window, QColor base, QColor text, QColor highlight, QColor disabled) {
+  QPalette colors(text, window.lighter(115), window.lighter(150), window.darker(200),
+                  window.darker(120), text, base);
+  colors.setColor(QPalette::Window, window);
+  colors.setColor(QPalette::Button, window.lighter(108));
+  colors.setColor(QPalette::AlternateBase, window);
+  colors.setColor(QPalette::ToolTipBase, base);
+  colors.setColor(QPalette::ToolTipText, text);
+  colors.setColor(QPalette::Highlight, highlight);
+  colors.setColor(QPalette::HighlightedText, Qt::white);
+  colors.setColor(QPalette::Link, highlight);
+  colors.setColor(QPalette::PlaceholderText, disabled);
+  for (auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+    colors.setColor(QPalette::Disabled, role, disabled);
+  colors.setColor(QPalette::Disabled, QPalette::Highlight, disabled);
+  return colors;
+}
+
+QPalette light() {
+  return palette_of(QColor(0xf0, 0xf0, 0xf1), Qt::white, QColor(0x1f, 0x23, 0x26),
+                    QColor(0x2a, 0x76, 0xc6), QColor(0x93, 0x98, 0x9c));
+}
+QPalette dark() {
+  return palette_of(QColor(0x2b, 0x2e, 0x32), QColor(0x1f, 0x22, 0x25), QColor(0xee, 0xef, 0xf0),
+                    QColor(0x2f, 0x81, 0xd6), QColor(0x7c, 0x81, 0x86));
+}
+
+}  // namespace
+
+bool is_dark() {
+  QPalette colors = QApplication::palette();
+  return colors.color(QPalette::WindowText).lightness() >
+         colors.color(QPalette::Window).lightness();
+}
+
+void choose_appearance(appearance chosen) {
+  QStringList places = QIcon::themeSearchPaths();
+  // Not every kind of screen knows where the system keeps its icons.
+  const QStringList folders =
+      QStandardPaths::locateAll(QStandardPaths::GenericDataLocation, QStringLiteral("icons"),
+                                QStandardPaths::LocateDirectory);
+  for (const QString& folder : folders)
+    if (!places.contains(folder)) places << folder;
+  QIcon::setThemeSearchPaths(places);
+  if (chosen != appearance::system) {
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setPalette(chosen == appearance::dark ? dark() : light());
+  }
+  QIcon::setThemeName(is_dark() ? QStringLiteral("breeze-dark") : QStringLiteral("breeze"));
+  QIcon::setFallbackThemeName(QStringLiteral("breeze"));
+}
+
+}  // namespace zu::desktop

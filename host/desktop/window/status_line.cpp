@@ -1,0 +1,138 @@
+#include "host/desktop/window/status_line.h"
+
+#include <QComboBox>
+#include <QEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QProgressBar>
+#include <QToolButton>
+#include <cmath>
+
+#include "host/core/projections.h"
+#include "host/desktop/words.h"
+
+namespace zu::desktop {
+namespace {
+
+constexpr double usual_scales[] = {500,    1000,   2000,   5000,    10000,   25000,   50000,
+                                   100000, 200000, 500000, 1000000, 2500000, 10000000};
+constexpr std::size_t longest_projection = 40;
+
+}  // namespace
+
+QString coordinate_text(double value, double units_per_pixel) {
+  int decimals = 2;
+  if (units_per_pixel > 0)
+    decimals = std::clamp(static_cast<int>(std::ceil(-std::log10(units_per_pixel))) + 1, 0, 8);
+  return QString::number(value, 'f', decimals);
+}
+
+double scale_of_text(const QString& text) {
+  QString digits = text.section(QLatin1Char(':'), -1);
+  digits.remove(QLatin1Char(' ')).remove(QChar(0xA0)).replace(QLatin1Char(','), QLatin1Char('.'));
+  bool is_number = false;
+  double scale = digits.toDouble(&is_number);
+  return is_number && std::isfinite(scale) && scale > 0 ? scale : 0;
+}
+
+QString text_of_scale(double scale) {
+  if (!(scale > 0)) return {};
+  // A map's scale is no measurement; a section's may be below 1.
+  return QStringLiteral("1:") + (scale < 1000 ? QString::number(scale, 'g', 4)
+                                              : QString::number(std::round(scale), 'f', 0));
+}
+
+status_line::status_line(QWidget* parent)
+    : QStatusBar(parent),
+      coordinates_(new QLabel(this)),
+      scale_title_(new QLabel(this)),
+      scale_(new QComboBox(this)),
+      projection_(new QToolButton(this)),
+      progress_(new QProgressBar(this)) {
+  setObjectName(QStringLiteral("status_line"));
+  coordinates_->setObjectName(QStringLiteral("status_coordinates"));
+  coordinates_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  coordinates_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  // As wide as coordinates in metres with two decimals, so that nothing beside it jumps.
+  coordinates_->setMinimumWidth(
+      coordinates_->fontMetrics().horizontalAdvance(QStringLiteral("-0000000.00; -00000000.00")));
+  scale_->setObjectName(QStringLiteral("status_scale"));
+  scale_->setEditable(true);
+  scale_->setInsertPolicy(QComboBox::NoInsert);
+  for (double scale : usual_scales) scale_->addItem(text_of_scale(scale));
+  scale_->setCurrentIndex(-1);
+  scale_title_->setBuddy(scale_);
+  projection_->setObjectName(QStringLiteral("status_projection"));
+  projection_->setAutoRaise(true);
+  projection_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  projection_->setIcon(QIcon::fromTheme(QStringLiteral("globe")));
+  projection_->setFocusPolicy(Qt::TabFocus);
+  progress_->setObjectName(QStringLiteral("status_progress"));
+  progress_->setRange(0, 1000);
+  progress_->setTextVisible(false);
+  progress_->setMaximumWidth(160);
+  progress_->hide();
+  addPermanentWidget(progress_);
+  addPermanentWidget(coordinates_);
+  addPermanentWidget(scale_title_);
+  addPermanentWidget(scale_);
+  addPermanentWidget(projection_);
+  connect(projection_, &QToolButton::clicked, this, &status_line::projection_wanted);
+  connect(scale_, &QComboBox::textActivated, this, &status_line::take_scale);
+  connect(scale_->lineEdit(), &QLineEdit::editingFinished, this, &status_line::take_scale);
+  retranslate();
+}
+
+void status_line::take_scale() {
+  QString typed = scale_->currentText();
+  if (typed == text_of_scale(shown_scale_)) return;
+  double scale = scale_of_text(typed);
+  if (scale > 0) Q_EMIT scale_chosen(scale);
+  // What is no scale gives way to the one in force.
+  scale_->setEditText(text_of_scale(shown_scale_));
+}
+
+void status_line::show_coordinates(double x, double y, bool inside) {
+  double pixel = shown_scale_ * 0.0254 / 96;
+  coordinates_->setText(inside ? coordinate_text(x, pixel) + QStringLiteral("; ") +
+                                     coordinate_text(y, pixel)
+                               : QString());
+}
+
+void status_line::show_scale(double scale) {
+  shown_scale_ = scale;
+  scale_->setEnabled(scale > 0);
+  if (!scale_->lineEdit()->hasFocus() || !scale_->lineEdit()->isModified())
+    scale_->setEditText(text_of_scale(scale));
+}
+
+void status_line::show_projection(const QString& text) {
+  shown_projection_ = text;
+  QString name = QString::fromStdString(host::projection_name(text.toStdString()));
+  if (name.size() > static_cast<qsizetype>(longest_projection))
+    name = name.left(longest_projection - 1) + QChar(0x2026);
+  projection_->setText(text.isEmpty() ? words("No projection", "Без проекции") : name);
+  projection_->setToolTip(words("Projection of the scene", "Проекция сцены") +
+                          (text.isEmpty() ? QString() : QStringLiteral("\n") + text));
+}
+
+void status_line::show_progress(double share) {
+  progress_->setVisible(share >= 0);
+  if (share >= 0) progress_->setValue(static_cast<int>(share * 1000));
+}
+
+void status_line::retranslate() {
+  scale_title_->setText(words("Scale", "Масштаб"));
+  scale_->setToolTip(
+      words("Scale of the map; type another one", "Масштаб карты; можно ввести другой"));
+  coordinates_->setToolTip(words("Coordinates under the pointer", "Координаты под указателем"));
+  show_projection(shown_projection_);
+}
+
+void status_line::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::LanguageChange) retranslate();
+  QStatusBar::changeEvent(event);
+}
+
+}  // namespace zu::desktop

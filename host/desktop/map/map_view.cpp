@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "host/desktop/words.h"
+#include "zu/platform/zuk_scn_2d.h"
 
 namespace zu::desktop {
 namespace {

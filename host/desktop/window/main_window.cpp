@@ -286,7 +286,7 @@ bool main_window::wait_until_drawn(int milliseconds) {
   QElapsedTimer timer;
   timer.start();
   QCoreApplication::processEvents();
-  while (!views_->current().is_drawn()) {
+  while (!views_->current().is_up_to_date()) {
     if (timer.elapsed() > milliseconds) return false;
     QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
   }

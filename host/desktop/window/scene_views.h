@@ -5,15 +5,14 @@
 #include <QWidget>
 #include <map>
 
+#include "host/desktop/map/map_view.h"
 #include "host/desktop/window/document.h"
-#include "host/desktop/window/plain_view.h"
 
 class QStackedWidget;
 class QTabBar;
 
 namespace zu::desktop {
 
-using map_view = plain_view;
 class message_bar;
 class start_page;
 

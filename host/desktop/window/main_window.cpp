@@ -5,9 +5,11 @@
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QElapsedTimer>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
 #include <QTabBar>
+#include <QTimer>
 #include <QUrl>
 
 #include "host/core/command_line.h"
@@ -30,7 +32,8 @@ constexpr char geometry_name[] = "window_geometry", layout_name[] = "window_layo
 /// Docks and bars of another number are not those that a layout was kept of.
 constexpr int layout_version = 1;
 constexpr QSize first_size(1280, 800);
-constexpr int message_time = 4000;  // milliseconds
+// Milliseconds: what is said in passing; a picture that takes longer is said to be drawn.
+constexpr int message_time = 4000, patience = 300;
 
 /// Local files as paths, other addresses as they are.
 QStringList paths_of(const QMimeData& data) {
@@ -131,6 +134,21 @@ void main_window::connect_map() {
   connect(views_, &scene_views::clicked, this, &main_window::show_info);
   connect(status_, &status_line::scale_chosen, this,
           [map](double scale) { map().set_map_scale(scale); });
+  auto* slow = new QTimer(this);
+  slow->setSingleShot(true);
+  slow->setInterval(patience);
+  auto started = [slow] {
+    if (!slow->isActive()) slow->start();
+  };
+  connect(views_, &scene_views::view_changed, slow, started);
+  connect(&document_, &document::picture_changed, slow, started);
+  connect(slow, &QTimer::timeout, this, [this, map] {
+    status_->show_busy(!document_.scene().layers.empty() && !map().is_up_to_date());
+  });
+  connect(views_, &scene_views::drawn, this, [this, slow] {
+    slow->stop();
+    status_->show_busy(false);
+  });
 }
 
 void main_window::connect_layers() {
@@ -315,6 +333,15 @@ void main_window::closeEvent(QCloseEvent* event) {
   if (!may_replace()) return event->ignore();
   keep_layout();
   event->accept();
+}
+
+/// What no one in front took: Escape puts away the message, then leaves the full screen.
+void main_window::keyPressEvent(QKeyEvent* event) {
+  if (event->key() != Qt::Key_Escape) return QMainWindow::keyPressEvent(event);
+  if (views_->messages().isVisible())
+    views_->messages().dismiss();
+  else
+    actions_->full_screen->setChecked(false);
 }
 
 void main_window::dragEnterEvent(QDragEnterEvent* event) {

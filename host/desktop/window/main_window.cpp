@@ -15,11 +15,12 @@
 #include "host/core/command_line.h"
 #include "host/core/failure.h"
 #include "host/core/projections.h"
-#include "host/core/settings.h"
+#include "host/desktop/dialogs/about_dialog.h"
+#include "host/desktop/dialogs/settings_file.h"
+#include "host/desktop/dialogs/shortcuts_dialog.h"
 #include "host/desktop/window/info_window.h"
 #include "host/desktop/window/layer_list.h"
 #include "host/desktop/window/message_bar.h"
-#include "host/desktop/window/recent_files.h"
 #include "host/desktop/window/start_page.h"
 #include "host/desktop/window/status_line.h"
 #include "host/desktop/window/window_actions.h"
@@ -66,6 +67,7 @@ main_window::main_window(const host::bundle& services, prompts asked)
   connect_layers();
   connect_scenes();
   connect_language();
+  connect_help();
   connect(&document_, &document::history_changed, this, &main_window::show_state);
   connect(&document_, &document::layers_changed, this, &main_window::show_state);
   connect(&document_, &document::layer_activated, this, &main_window::show_state);
@@ -208,12 +210,18 @@ void main_window::connect_scenes() {
 void main_window::connect_language() {
   auto choose = [this](language chosen, const char* name) {
     choose_language(chosen);
-    attempt([&] { host::settings().set("lang", name); });
+    attempt([&] { keep_text("lang", QString::fromLatin1(name)); });
   };
   connect(actions_->language_english, &QAction::triggered, this,
           [choose] { choose(language::english, "en"); });
   connect(actions_->language_russian, &QAction::triggered, this,
           [choose] { choose(language::russian, "ru"); });
+}
+
+void main_window::connect_help() {
+  connect(actions_->help_shortcuts, &QAction::triggered, this,
+          [this] { shortcuts_dialog::ask(this, actions_->findChildren<QAction*>()); });
+  connect(actions_->help_about, &QAction::triggered, this, [this] { about_dialog::ask(this); });
 }
 
 void main_window::retranslate() {
@@ -312,15 +320,16 @@ bool main_window::wait_until_drawn(int milliseconds) {
 }
 
 void main_window::restore_layout() {
-  restoreGeometry(kept_bytes(geometry_name));
-  restoreState(kept_bytes(layout_name), layout_version);
+  auto kept = [](const char* name) { return QByteArray::fromBase64(kept_text(name).toLatin1()); };
+  restoreGeometry(kept(geometry_name));
+  restoreState(kept(layout_name), layout_version);
   actions_->full_screen->setChecked(isFullScreen());
 }
 
 void main_window::keep_layout() {
   attempt([this] {
-    keep_bytes(geometry_name, saveGeometry());
-    keep_bytes(layout_name, saveState(layout_version));
+    keep_text(geometry_name, QString::fromLatin1(saveGeometry().toBase64()));
+    keep_text(layout_name, QString::fromLatin1(saveState(layout_version).toBase64()));
   });
 }
 

@@ -51,6 +51,7 @@ class main_window final : public QMainWindow {
   void connect_layers();
   void connect_scenes();
   void connect_language();
+  void connect_help();
   void retranslate();
   void show_state();
   void show_view();

@@ -6,7 +6,8 @@ zu_sources(host_desktop_sources host/desktop)
 list(REMOVE_ITEM host_desktop_sources ${CMAKE_SOURCE_DIR}/host/desktop/main.cpp)
 file(GLOB_RECURSE host_desktop_headers CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/host/desktop/*.h)
 add_library(zu_host_desktop STATIC ${host_desktop_sources} ${host_desktop_headers})
-set_target_properties(zu_host_desktop PROPERTIES AUTOMOC ON)
+# A new header is looked through at once only if its time is watched.
+set_target_properties(zu_host_desktop PROPERTIES AUTOMOC ON AUTOGEN_TARGET_DEPENDS "${host_desktop_headers}")
 target_link_libraries(zu_host_desktop PUBLIC zu_host_core Qt6::Widgets)
 # Texts become QString by a cast that says from which encoding, keywords stay words of the language.
 target_compile_definitions(zu_host_desktop PUBLIC QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII)

@@ -5,7 +5,6 @@
 
 #include "host/cli/commands.h"
 #include "host/cli/option_texts.h"
-#include "host/cli/picture_file.h"
 
 namespace zu::cli {
 namespace {
@@ -13,7 +12,7 @@ namespace {
 constexpr double least_dots = 10, most_dots = 1200;
 
 /// A corner, or `as_it_comes`, or "only"; also both with a comma between them.
-void read_legend(const std::string& text, page_request& request) {
+void read_legend(const std::string& text, host::page_request& request) {
   request.legend = host::corner::top_right;
   for (const std::string& part : parts_of("--legend", text)) {
     if (part == "only")
@@ -27,13 +26,6 @@ void read_legend(const std::string& text, page_request& request) {
     else if (part != "top-right" && part != as_it_comes)
       throw usage_error("--legend: \"" + part + "\" is neither a corner nor \"only\"");
   }
-}
-
-host::page_kind kind_of(const page_texts& given) {
-  std::string ending = ending_of(given.output);
-  if (ending == ".pdf") return host::page_kind::pdf;
-  if (ending == ".svg") return host::page_kind::svg;
-  return given.print ? host::page_kind::print : host::page_kind::screen;
 }
 
 }  // namespace
@@ -66,8 +58,8 @@ void add_page_options(CLI::App& options, page_texts& given) {
       ->type_name("[CORNER|only]");
 }
 
-page_request request_of(const page_texts& given) {
-  page_request request;
+host::page_request request_of(const page_texts& given) {
+  host::page_request request;
   host::picture_request& picture = request.picture;
   if (!given.size.empty()) std::tie(picture.nx, picture.ny) = size_of("--size", given.size);
   picture.sized = !given.size.empty();
@@ -79,16 +71,8 @@ page_request request_of(const page_texts& given) {
       throw usage_error("--dpi: \"" + given.dots + "\" is out of range");
   }
   if (!given.legend.empty()) read_legend(given.legend, request);
-  picture.kind = kind_of(given);
+  picture.kind = host::page_kind_of(given.output, given.print).value_or(picture.kind);
   return request;
-}
-
-host::drawn_picture draw(const host::scene& shown, const page_request& request) {
-  if (request.legend_only) return host::draw_legend_alone(shown, request.picture);
-  host::drawn_picture picture = host::draw(shown, request.picture);
-  if (request.legend)
-    host::draw_legend(host::legend_of(shown), picture.page.get(), *request.legend);
-  return picture;
 }
 
 }  // namespace zu::cli

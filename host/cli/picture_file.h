@@ -22,9 +22,6 @@ class undisturbed {
   sigset_t before_;
 };
 
-/// The ending of a file's name with its dot, in small letters.
-std::string ending_of(const std::string& path);
-
 /// Refuses a picture whose ending says no format (`usage_error`), and one that would replace a
 /// source (`failure`).
 void check_output(const std::string& output, const std::vector<std::string>& sources);

@@ -137,7 +137,7 @@ int info(const texts& given) {
 }
 
 int render(const texts& given) {
-  page_request request = request_of(given.page);
+  host::page_request request = request_of(given.page);
   host::bundle services;
   host::project project(services, given.project);
   host::project_scene& scene = scene_of(project, given);

@@ -7,14 +7,11 @@
 #include "host/cli/option_texts.h"
 #include "host/cli/page_options.h"
 #include "host/cli/picture_file.h"
-#include "host/core/failure.h"
 #include "host/core/layer_look.h"
 #include "host/core/picture.h"
 
 namespace zu::cli {
 namespace {
-
-using host::failure;
 
 constexpr char footer[] = R"(Examples:
   zugrid render dem.tif -o dem.png
@@ -95,24 +92,9 @@ host::layer_look look_of(const texts& given) {
   return look;
 }
 
-/// Every source takes the look that it can; one alone must.
-void dress(host::scene& scene, const host::layer_look& look) {
-  host::layer_look plain;
-  plain.transparency = look.transparency;
-  std::string refusal;
-  std::size_t dressed = 0;
-  for (const auto& layer : scene.layers()) {
-    std::string reason = host::why_not(look, *layer);
-    if (reason.empty()) ++dressed;
-    if (!reason.empty() && refusal.empty()) refusal = layer->data().name() + ": " + reason;
-    host::apply_look(reason.empty() ? look : plain, *layer);
-  }
-  if (dressed == 0) throw failure(refusal);
-}
-
 int run(const texts& given) {
   host::layer_look look = look_of(given);
-  page_request request = request_of(given.page);
+  host::page_request request = request_of(given.page);
   if (!given.crs.empty()) check_projection("--crs", given.crs);
   check_output(given.page.output, given.sources);
 
@@ -120,7 +102,7 @@ int run(const texts& given) {
   host::scene scene(services);
   for (const std::string& source : given.sources) scene.add(source);
   if (!given.crs.empty()) scene.set_projection(given.crs);
-  dress(scene, look);
+  host::dress(scene, look);
   host::drawn_picture picture = draw(scene, request);
   return write_picture(picture, given.page.output, scene.projection());
 }

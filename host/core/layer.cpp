@@ -5,6 +5,7 @@
 #include <string_view>
 #include <utility>
 
+#include "host/core/entity_drawing.h"
 #include "host/core/failure.h"
 #include "host/core/source_paths.h"
 #include "host/core/texts.h"
@@ -220,9 +221,7 @@ void layer::load_state(const std::string& state) {
 }
 
 void layer::draw(Izu_render* render) const {
-  if (type() == coordinates_type) return zu_tos_2crd_lr2d_draw(render, entity_);
-  call<&layer_2d_renderer_extension_service_impl::render>(services_.renderer(type()), render,
-                                                          entity_);
+  draw_entity(services_, render, entity_);
 }
 
 }  // namespace zu::host

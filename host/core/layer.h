@@ -60,8 +60,8 @@ class layer final : layer_2d_visitor_impl {
   const source& data() const;
   bool is_missing() const { return zu_lr2d_is_missing(entity_); }
   /// Whether it is drawn, as a person wants it.
-  bool is_visible() const { return visible_; }
-  void set_visible(bool visible) { visible_ = visible; }
+  bool is_visible() const { return zu_lr2d_is_visible(entity_); }
+  void set_visible(bool visible) { zu_lr2d_set_visible(entity_, visible); }
   std::string projection() const;
   void set_projection(const std::string& text);
   /// In scene coordinates; nothing if it cannot be brought there.
@@ -95,7 +95,6 @@ class layer final : layer_2d_visitor_impl {
   const bundle& services_;
   Izu_layer* entity_ = nullptr;
   layer_2d object_;
-  bool visible_ = true;
   mutable std::unique_ptr<source> data_;
 };
 

@@ -261,4 +261,18 @@ void apply_look(const layer_look& look, layer& dressed) {
   if (Tzu_isoline_style* style = dressed.isoline_style()) set_isolines(look, data, style);
 }
 
+void dress(scene& dressed, const layer_look& look) {
+  layer_look plain;
+  plain.transparency = look.transparency;
+  std::string refusal;
+  bool taken = false;
+  for (const auto& each : dressed.layers()) {
+    std::string reason = why_not(look, *each);
+    taken = taken || reason.empty();
+    if (refusal.empty() && !reason.empty()) refusal = each->data().name() + ": " + reason;
+    apply_look(reason.empty() ? look : plain, *each);
+  }
+  if (!taken) throw failure(refusal);
+}
+
 }  // namespace zu::host

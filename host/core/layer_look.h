@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "host/core/layer.h"
+#include "host/core/scene.h"
 #include "zu/platform/zuk_styles.h"
 
 namespace zu::host {
@@ -64,5 +64,9 @@ std::string why_not(const layer_look& look, const layer& dressed);
 
 /// Gives a layer the look. Throws `failure` with `why_not`.
 void apply_look(const layer_look& look, layer& dressed);
+
+/// Gives every layer of a scene the look that it can take, and the others its transparency alone.
+/// Throws `failure` if none can take it.
+void dress(scene& dressed, const layer_look& look);
 
 }  // namespace zu::host

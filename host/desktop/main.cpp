@@ -9,7 +9,9 @@
 #include "host/core/failure.h"
 #include "host/core/settings.h"
 #include "host/desktop/appearance.h"
+#include "host/desktop/window/main_window.h"
 #include "host/desktop/words.h"
+#include "zu/platform/zuk_os.h"
 
 namespace {
 
@@ -95,6 +97,35 @@ void do_without_screen(int argc, char** argv) {
     if (QByteArray(argv[i]).startsWith("--screenshot")) qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
+/// The language of this run: what was asked for, else what the settings or the system say.
+language language_of(const request& wanted) {
+  if (wanted.speech) return *wanted.speech;
+  zu::host::choose_language({});
+  return zu_res_get_lng() == 0 ? language::russian : language::english;
+}
+
+constexpr int drawing_patience = 60000;  // milliseconds
+
+int take_picture(main_window& window, const QString& path) {
+  if (!window.wait_until_drawn(drawing_patience)) {
+    std::fprintf(stderr, "zugrid-desktop: the picture took too long\n");
+    return 1;
+  }
+  if (window.grab().save(path)) return 0;
+  std::fprintf(stderr, "zugrid-desktop: %s: cannot be written\n", qPrintable(path));
+  return 1;
+}
+
+int run(const request& wanted) {
+  zu::host::bundle services({"zuk_common.so"});
+  main_window window(services);
+  window.resize(wanted.size);
+  window.show();
+  window.open_paths(wanted.files);
+  if (!wanted.screenshot.isEmpty()) return take_picture(window, wanted.screenshot);
+  return QApplication::exec();
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -105,6 +136,11 @@ int main(int argc, char** argv) {
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/zugrid.svg")));
   request wanted = read_arguments(application);
   choose_appearance(wanted.look);
-  choose_language(wanted.speech.value_or(language::english));
-  return 0;
+  choose_language(language_of(wanted));
+  try {
+    return run(wanted);
+  } catch (const zu::host::failure& problem) {
+    std::fprintf(stderr, "zugrid-desktop: %s\n", problem.what());
+    return 1;
+  }
 }

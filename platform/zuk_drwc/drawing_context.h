@@ -46,6 +46,8 @@ class drawing_context {
   virtual bool has_ink() const = 0;
   /// Straight (not premultiplied) r, g, b, opacity, the top row first. Only pictures have pixels.
   virtual void copy_pixels(std::uint8_t*) const {}
+  /// Premultiplied, where they stand.
+  virtual const std::uint32_t* words(std::uint64_t& /*row_bytes*/) const { return nullptr; }
   /// Throws `write_failure`.
   virtual void save(const std::string& path, const Tzu_box_d2* georeference,
                     const std::string& projection) = 0;

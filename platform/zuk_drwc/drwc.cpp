@@ -77,6 +77,11 @@ void zu_drwc_set_clip_none(Tzu_drwc* drwc) {
 void zu_drwc_get_pixels(Tzu_drwc* drwc, uint8_t* rgba) {
   drawn_by(drwc, [&](drawing_context& d) { d.copy_pixels(rgba); });
 }
+const uint32_t* zu_drwc_get_argb(const Tzu_drwc* drwc, uint64_t* row_bytes) {
+  const uint32_t* words = nullptr;
+  drawn_by(drwc, [&](drawing_context& d) { words = d.words(*row_bytes); });
+  return words;
+}
 void zu_drwc_draw_pln(Tzu_drwc* drwc, const Tzu_ov_d2* lines, const Tzu_pln_style* style) {
   if (lines == nullptr || style == nullptr) return;
   drawn_by(drwc, [&](drawing_context& d) { d.draw_lines(*lines, *style); });

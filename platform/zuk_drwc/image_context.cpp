@@ -87,6 +87,12 @@ void image_context::draw_clipped(const pixel_box& place, const Tzu_dib& dib, std
   cairo_set_source_rgba(cairo_.get(), 0, 0, 0, 1);
 }
 
+const std::uint32_t* image_context::words(std::uint64_t& row_bytes) const {
+  cairo_surface_flush(surface_.get());
+  row_bytes = static_cast<std::uint64_t>(stride_of(surface_.get())) * sizeof(std::uint32_t);
+  return words_of(surface_.get());
+}
+
 void image_context::copy_pixels(std::uint8_t* rgba) const {
   cairo_surface_flush(surface_.get());
   const std::uint32_t* words = words_of(surface_.get());

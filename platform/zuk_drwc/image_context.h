@@ -16,6 +16,7 @@ class image_context : public drawing_context {
   void draw(const Tzu_dib_draw_record& record, const Tzu_dib& dib) override;
   bool has_ink() const override;
   void copy_pixels(std::uint8_t* rgba) const override;
+  const std::uint32_t* words(std::uint64_t& row_bytes) const override;
   /// PNG or TIFF.
   void save(const std::string& path, const Tzu_box_d2* georeference,
             const std::string& projection) override;

@@ -26,6 +26,10 @@ std::wstring file_of_source(const std::wstring& source) {
   return file.empty() ? source : zu::platform::from_utf8(file);
 }
 
+void forget_box(Tzu_scn_2d* scene) {
+  if (scene != nullptr) scene->box_is_known = false;
+}
+
 std::wstring text_or_empty(const wchar_t* text) { return text != nullptr ? text : L""; }
 
 }  // namespace
@@ -81,8 +85,23 @@ void zu_lr2d_set_valid(Izu_layer* layer, bool missing) {
   guarded(layer, [&](Izu_layer& l) { l.missing = missing; });
 }
 bool zu_lr2d_is_missing(const Izu_layer* layer) { return layer != nullptr && layer->missing; }
+bool zu_lr2d_is_visible(const Izu_layer* layer) { return layer != nullptr && layer->visible; }
+void zu_lr2d_set_visible(Izu_layer* layer, bool visible) {
+  guarded(layer, [&](Izu_layer& l) {
+    if (l.visible == visible) return;
+    l.visible = visible;
+    forget_box(l.scene);
+    if (l.scene != nullptr) l.scene->channel.post(zu_update_layers);
+  });
+}
 void zu_lr2d_data_changed(Izu_layer* layer) {
-  guarded(layer, [](Izu_layer& l) { ++l.changes; });
+  guarded(layer, [](Izu_layer& l) {
+    ++l.changes;
+    l.channel.post(zu_update_data);
+  });
+}
+Tzu_event_channel* zu_lr_get_update_event_channel(Izu_layer* layer) {
+  return layer != nullptr ? &layer->channel : nullptr;
 }
 uint64_t zu_lr2d_get_change_count(const Izu_layer* layer) {
   return layer != nullptr ? layer->changes : 0;
@@ -91,6 +110,7 @@ void zu_lr2d_set_box(Izu_layer* layer, bool ok, const Tzu_box_d2* box) {
   guarded(layer, [&](Izu_layer& l) {
     l.box.reset();
     if (ok && box != nullptr) l.box = *box;
+    forget_box(l.scene);
   });
 }
 bool zu_lr2d_get_box(const Izu_layer* layer, Tzu_box_d2* box) {

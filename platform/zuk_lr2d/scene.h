@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/zuk_basic/event_channel.h"
 #include "platform/zuk_lr2d/own_state.h"
 #include "platform/zuk_scn_2d/prf_data.h"
 #include "zu/platform/zuk_lr2d.h"
@@ -18,14 +19,19 @@ struct Izu_layer {
   Tzu_attr_data* data = nullptr;
   std::unique_ptr<zu::platform::own_state> own;  // of a layer without a plug-in object
   std::optional<Tzu_box_d2> box;
-  bool missing = false, own_selected_style = false;
+  bool missing = false, visible = true, own_selected_style = false;
   uint64_t changes = 0;
+  Tzu_event_channel channel;
 };
 
 struct Tzu_scn_2d {
   std::vector<Izu_layer*> layers;  // the lowest first
+  Izu_layer* active = nullptr;
+  bool box_is_known = false;
+  std::optional<Tzu_box_d2> box;  // of the visible layers, once it is known
   std::wstring projection;
   Tzu_optional_color selected{};
   std::optional<Tzu_pln_style> selected_line;
   Tzu_prf_data profile;
+  Tzu_event_channel channel;
 };

@@ -1,5 +1,6 @@
 #include "platform/zuk_prg/vertices.h"
 
+#include <algorithm>
 #include <new>
 
 #include "platform/zuk_basic/guarded.h"
@@ -19,6 +20,12 @@ uint64_t zu_pv_d2_get_size(const Tzu_pv_d2* list) {
 }
 Tzu_vtx_d2* zu_pv_d2_get_arr(Tzu_pv_d2* list) {
   return list != nullptr ? list->vertices.data() : nullptr;
+}
+void zu_pv_d2_delete_double(Tzu_pv_d2* list) {
+  guarded(list, [](Tzu_pv_d2& l) {
+    auto same = [](const Tzu_vtx_d2& a, const Tzu_vtx_d2& b) { return a.x == b.x && a.y == b.y; };
+    l.vertices.erase(std::unique(l.vertices.begin(), l.vertices.end(), same), l.vertices.end());
+  });
 }
 void zu_pv_d2_apply_matrix3x3(Tzu_pv_d2* list, const Tzu_matrix3x3* matrix) {
   guarded(list, [&](Tzu_pv_d2& l) {

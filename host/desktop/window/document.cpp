@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "host/core/failure.h"
+#include "host/core/layer_look.h"
 #include "host/desktop/words.h"
 
 namespace zu::desktop {
@@ -37,12 +38,25 @@ void document::set_active_scene(int index) {
   active_scene_ = index;
   Q_EMIT scene_activated();
   Q_EMIT layers_changed();
+  activate_last_layer();
 }
 
 void document::set_active_layer(host::layer* layer) {
   if (layer == active_layer_ || (layer != nullptr && index_of(layer) < 0)) return;
   active_layer_ = layer;
+  if (layer != nullptr) last_active_[scene().id] = scene().layers[std::size_t(index_of(layer))].id;
   Q_EMIT layer_activated();
+}
+
+/// The layer that was active in the scene when it was left, or the uppermost one.
+void document::activate_last_layer() {
+  const auto& layers = scene().layers;
+  auto last = std::find_if(layers.begin(), layers.end(),
+                           [&](const auto& each) { return each.id == last_active_[scene().id]; });
+  if (last != layers.end())
+    set_active_layer(last->shown);
+  else if (!layers.empty())
+    set_active_layer(layers.back().shown);
 }
 
 int document::index_of(const host::layer* layer) {
@@ -59,6 +73,7 @@ void document::replace(std::unique_ptr<host::project> next, const QString& path)
   std::unique_ptr<host::project> old = std::exchange(project_, std::move(next));
   path_ = path;
   active_scene_ = 0;
+  last_active_.clear();
   restart_history();
   Q_EMIT replaced();
   Q_EMIT layers_changed();
@@ -68,8 +83,7 @@ void document::replace(std::unique_ptr<host::project> next, const QString& path)
 
 void document::open_project(const QString& path) {
   replace(std::make_unique<host::project>(services_, path.toStdString()), path);
-  const auto& layers = scene().layers;
-  if (!layers.empty()) set_active_layer(layers.back().shown);
+  activate_last_layer();
 }
 
 void document::save(const QString& path) {
@@ -88,6 +102,9 @@ QStringList document::add_sources(const QStringList& sources) {
     for (const QString& source : sources) {
       try {
         std::vector<host::layer*> made = project_->add(scene(), source.toStdString());
+        // What has no fields, or none to colour, stays as it came.
+        for (host::layer* each : made)
+          if (host::why_not({}, *each).empty()) host::apply_look({}, *each);
         if (!made.empty()) added = made.back();
       } catch (const host::failure& problem) {
         failures += QString::fromUtf8(problem.what());
@@ -103,9 +120,8 @@ void document::remove_layer(int index) {
   if (index < 0 || index >= static_cast<int>(layers.size())) return;
   bool was_active = layers[std::size_t(index)].shown == active_layer_;
   if (was_active) set_active_layer(nullptr);
-  perform(words("Remove the layer", "Удаление слоя"), [&] {
-    project_->remove(scene(), std::size_t(index));
-  });
+  perform(words("Remove the layer", "Удаление слоя"),
+          [&] { project_->remove(scene(), std::size_t(index)); });
   if (was_active && !layers.empty())
     set_active_layer(layers[std::min(std::size_t(index), layers.size() - 1)].shown);
 }
@@ -165,6 +181,7 @@ void document::remove_scene(int index) {
     project_->remove_scene(std::size_t(index));
     Q_EMIT replaced();
   });
+  activate_last_layer();
 }
 
 void document::rename_scene(int index, const QString& name) {
@@ -191,7 +208,8 @@ void document::perform(const QString& name, const std::function<void()>& change)
 void document::input_happened(const QString& name) {
   const QString& step = name.isEmpty() ? look_changed() : name;
   int index = index_of(active_layer_);
-  std::string key = index < 0 ? std::string() : std::to_string(scene().layers[std::size_t(index)].id);
+  std::string key =
+      index < 0 ? std::string() : std::to_string(scene().layers[std::size_t(index)].id);
   history_->record(step.toStdString(), key + ' ' + step.toStdString());
   changed();
 }

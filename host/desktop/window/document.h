@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QStringList>
 #include <functional>
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -83,6 +84,7 @@ class document : public QObject {
  private:
   void replace(std::unique_ptr<host::project> next, const QString& path);
   void restart_history();
+  void activate_last_layer();
   void step_through(bool (host::history::*step)());
   void changed();
 
@@ -91,6 +93,7 @@ class document : public QObject {
   QString path_;
   int active_scene_ = 0;
   host::layer* active_layer_ = nullptr;
+  std::map<std::uint64_t, std::uint64_t> last_active_;  // ids of layers by those of scenes
   std::unique_ptr<host::history> history_;
 };
 

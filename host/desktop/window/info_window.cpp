@@ -29,10 +29,12 @@ info_window::info_window(document& shown, QWidget* parent) : QTreeWidget(parent)
   setSelectionMode(ExtendedSelection);
   setAlternatingRowColors(true);
   header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
-  connect(&document_, &document::replaced, this, [this] {
+  auto forget = [this] {
     is_empty_ = true;
     retranslate();
-  });
+  };
+  connect(&document_, &document::replaced, this, forget);
+  connect(&document_, &document::scene_activated, this, forget);
   retranslate();
 }
 
@@ -94,9 +96,8 @@ void info_window::retranslate() {
   setHeaderLabels({words("Name", "Название"), words("Value", "Значение")});
   if (!is_empty_) return;
   clear();
-  auto* hint = new QTreeWidgetItem(
-      this, {words("Click the map with the information tool.",
-                   "Щёлкните по карте инструментом «Информация».")});
+  auto* hint = new QTreeWidgetItem(this, {words("Click the map with the information tool.",
+                                                "Щёлкните по карте инструментом «Информация».")});
   hint->setFlags(Qt::NoItemFlags);
   hint->setFirstColumnSpanned(true);
 }

@@ -3,6 +3,7 @@
 #include <QDropEvent>
 #include <QEvent>
 #include <QPainter>
+#include <QStyledItemDelegate>
 
 #include "host/core/legend.h"
 #include "host/core/texts.h"
@@ -34,11 +35,22 @@ QString key_of(const host::legend_part& part) {
   return key;
 }
 
+/// Rows a little apart, for the eye and for the hand.
+struct airy_rows : QStyledItemDelegate {
+  using QStyledItemDelegate::QStyledItemDelegate;
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    QSize size = QStyledItemDelegate::sizeHint(option, index);
+    bool is_layer = !index.parent().isValid();
+    return is_layer ? QSize(size.width(), size.height() + 6) : size;
+  }
+};
+
 }  // namespace
 
 layer_list::layer_list(document& shown, QWidget* parent) : QTreeWidget(parent), document_(shown) {
   setObjectName(QStringLiteral("layer_list"));
   setHeaderHidden(true);
+  setItemDelegate(new airy_rows(this));
   setColumnCount(1);
   // F2 and the other keys of a layer are actions of the window.
   setEditTriggers(NoEditTriggers);
@@ -68,6 +80,9 @@ layer_list::layer_list(document& shown, QWidget* parent) : QTreeWidget(parent), 
   follow();
 }
 
+// A name that is being typed is not taken when its window goes.
+layer_list::~layer_list() { disconnect(); }
+
 int layer_list::index_of_item(QTreeWidgetItem* item) const {
   while (item != nullptr && item->parent() != nullptr) item = item->parent();
   int row = item != nullptr ? indexOfTopLevelItem(item) : -1;
@@ -75,6 +90,11 @@ int layer_list::index_of_item(QTreeWidgetItem* item) const {
 }
 
 int layer_list::current_index() const { return index_of_item(currentItem()); }
+
+void layer_list::edit_current() {
+  int index = current_index();
+  if (index >= 0) editItem(topLevelItem(index_of_row(index)));
+}
 
 const host::project_layer* layer_list::layer_at(int index) const {
   const auto& layers = document_.scene().layers;
@@ -101,8 +121,7 @@ QStringList layer_list::problems_of(const host::project_layer& layer) {
 void layer_list::follow() {
   const auto& layers = document_.scene().layers;
   std::vector<std::uint64_t> rows;
-  for (auto each = layers.rbegin(); each != layers.rend(); ++each)
-    rows.push_back(each->id);
+  for (auto each = layers.rbegin(); each != layers.rend(); ++each) rows.push_back(each->id);
   filling_ = true;
   if (rows != rows_) {
     // A layer that was there stays folded as it was.
@@ -136,8 +155,8 @@ void layer_list::fill(QTreeWidgetItem* item, const host::project_layer& layer) {
   QStringList problems = problems_of(layer);
   bool dead = layer.shown == nullptr || layer.shown->is_missing();
   item->setText(0, QString::fromStdString(layer.caption()));
-  item->setCheckState(0, layer.shown != nullptr && layer.shown->is_visible() ? Qt::Checked
-                                                                            : Qt::Unchecked);
+  item->setCheckState(
+      0, layer.shown != nullptr && layer.shown->is_visible() ? Qt::Checked : Qt::Unchecked);
   Qt::ItemFlags flags = item->flags();
   flags.setFlag(Qt::ItemIsUserCheckable, layer.shown != nullptr);
   flags.setFlag(Qt::ItemIsEditable, layer.shown != nullptr);
@@ -145,13 +164,11 @@ void layer_list::fill(QTreeWidgetItem* item, const host::project_layer& layer) {
   QFont font = this->font();
   font.setItalic(dead);
   item->setFont(0, font);
-  item->setForeground(0, palette().brush(dead ? QPalette::Disabled : QPalette::Active,
-                                         QPalette::Text));
-  item->setIcon(0, problems.isEmpty() ? QIcon()
-                                      : QIcon::fromTheme(QStringLiteral("dialog-warning")));
+  item->setForeground(
+      0, palette().brush(dead ? QPalette::Disabled : QPalette::Active, QPalette::Text));
+  item->setIcon(0, problems.isEmpty() ? QIcon() : QIcon::fromTheme(QStringLiteral("data-warning")));
   QString tip = QString::fromStdString(layer.source()).toHtmlEscaped();
-  for (const QString& problem : problems)
-    tip += QStringLiteral("<br>• ") + problem.toHtmlEscaped();
+  for (const QString& problem : problems) tip += QStringLiteral("<br>• ") + problem.toHtmlEscaped();
   item->setToolTip(0, QStringLiteral("<qt>") + tip + QStringLiteral("</qt>"));
   item->setData(0, Qt::AccessibleDescriptionRole, problems.join(QLatin1Char('\n')));
   if (layer.shown != nullptr && !layer.shown->is_missing()) {
@@ -203,8 +220,8 @@ void layer_list::dropEvent(QDropEvent* event) {
   if (from < 0) return event->ignore();
   QPoint at = event->position().toPoint();
   QTreeWidgetItem* item = itemAt(at);
-  bool below = item == nullptr || item->parent() != nullptr ||
-               at.y() > visualItemRect(item).center().y();
+  bool below =
+      item == nullptr || item->parent() != nullptr || at.y() > visualItemRect(item).center().y();
   int row = item != nullptr ? topLevelItemCount() - 1 - index_of_item(item) + (below ? 1 : 0)
                             : topLevelItemCount();
   int from_row = topLevelItemCount() - 1 - from;

@@ -9,15 +9,19 @@ namespace zu::desktop {
 
 /// A check box shows and hides a layer, dragging reorders. A layer that is missing or did not work
 /// is marked, and its tip says why.
-class layer_list final : public QTreeWidget {
+class layer_list : public QTreeWidget {
   Q_OBJECT
 
  public:
   explicit layer_list(document& shown, QWidget* parent = nullptr);
+  ~layer_list() override;
 
   /// Place in the active scene of the layer whose row is current; -1 if none is.
   int current_index() const;
-  /// The reasons that are kept for a layer, and what else is to be said of it; empty if all is well.
+  /// Lets a person type another caption for that layer.
+  void edit_current();
+  /// The reasons that are kept for a layer, and what else is to be said of it; empty if all is
+  /// well.
   static QStringList problems_of(const host::project_layer& layer);
 
  Q_SIGNALS:
@@ -39,7 +43,7 @@ class layer_list final : public QTreeWidget {
   const host::project_layer* layer_at(int index) const;
 
   document& document_;
-  std::vector<std::uint64_t> rows_;  // what the rows stand for
+  std::vector<std::uint64_t> rows_;  // the layers' ids
   bool filling_ = false;
 };
 

@@ -12,9 +12,7 @@ constexpr int bar_width = 18, gap = 6, least_height = 90;
 
 }  // namespace
 
-QColor color_of(const Tzu_color& color) {
-  return QColor(color.r, color.g, color.b, 255 - color.a);
-}
+QColor color_of(const Tzu_color& color) { return QColor(color.r, color.g, color.b, 255 - color.a); }
 
 legend_bar::legend_bar(std::vector<host::legend_row> rows, QWidget* parent)
     : QWidget(parent), rows_(std::move(rows)) {

@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QFontMetrics>
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QIcon>
 #include <QKeyEvent>
 #include <QLabel>
@@ -29,12 +30,7 @@ message_bar::message_bar(QWidget* parent)
   setObjectName(QStringLiteral("message_bar"));
   setFrameShape(QFrame::StyledPanel);
   setAutoFillBackground(true);
-  setBackgroundRole(QPalette::ToolTipBase);
-  setForegroundRole(QPalette::ToolTipText);
-  int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
-  icon_->setPixmap(QIcon::fromTheme(QStringLiteral("dialog-warning")).pixmap(size));
   summary_->setObjectName(QStringLiteral("message_summary"));
-  summary_->setForegroundRole(QPalette::ToolTipText);
   summary_->setTextFormat(Qt::PlainText);
   summary_->setTextInteractionFlags(Qt::TextSelectableByMouse);
   summary_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
@@ -61,7 +57,25 @@ message_bar::message_bar(QWidget* parent)
   connect(details_, &QToolButton::toggled, all_, &QWidget::setVisible);
   connect(close_, &QToolButton::clicked, this, &message_bar::dismiss);
   hide();
+  take_colors();
   retranslate();
+}
+
+/// The window's ground with a touch of amber, whether it is light or dark.
+void message_bar::take_colors() {
+  constexpr double touch = 0.22;
+  const QColor amber(246, 176, 0);
+  QColor ground = QGuiApplication::palette().color(QPalette::Window);
+  if (ground == ground_) return;
+  ground_ = ground;
+  auto mixed = [&](int from, int to) { return static_cast<int>(from + (to - from) * touch); };
+  QPalette own;
+  own.setColor(QPalette::Window,
+               QColor(mixed(ground.red(), amber.red()), mixed(ground.green(), amber.green()),
+                      mixed(ground.blue(), amber.blue())));
+  setPalette(own);
+  int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
+  icon_->setPixmap(QIcon::fromTheme(QStringLiteral("data-warning")).pixmap(size));
 }
 
 void message_bar::tell(const QStringList& lines) {
@@ -84,8 +98,7 @@ void message_bar::dismiss() {
 void message_bar::show_summary() {
   if (lines_.isEmpty()) return;
   QString text = lines_.last();
-  if (lines_.size() > 1)
-    text += words(" (and %1 more)", " (и ещё %1)").arg(lines_.size() - 1);
+  if (lines_.size() > 1) text += words(" (and %1 more)", " (и ещё %1)").arg(lines_.size() - 1);
   summary_->setText(fontMetrics().elidedText(text, Qt::ElideMiddle, summary_->width()));
   summary_->setToolTip(text);
 }
@@ -99,6 +112,7 @@ void message_bar::retranslate() {
 
 void message_bar::changeEvent(QEvent* event) {
   if (event->type() == QEvent::LanguageChange) retranslate();
+  if (event->type() == QEvent::PaletteChange) take_colors();
   QFrame::changeEvent(event);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 // What did not work, said above the map without stopping anybody.
 
+#include <QColor>
 #include <QFrame>
 #include <QStringList>
 
@@ -30,6 +31,7 @@ class message_bar final : public QFrame {
 
  private:
   void retranslate();
+  void take_colors();
   void show_summary();
 
   QLabel* icon_;
@@ -38,6 +40,7 @@ class message_bar final : public QFrame {
   QToolButton* close_;
   QPlainTextEdit* all_;
   QStringList lines_;
+  QColor ground_;
 };
 
 }  // namespace zu::desktop

@@ -5,6 +5,7 @@
 #include <QInputDialog>
 #include <QMessageBox>
 
+#include "host/desktop/dialogs/projection_chooser.h"
 #include "host/desktop/words.h"
 
 namespace zu::desktop {
@@ -14,8 +15,9 @@ QString all_files() { return words("All files (*)", "Все файлы (*)"); }
 
 QString what_opens() {
   return words("Grids, pictures and projects (*)", "Сетки, снимки и проекты (*)") +
-         QStringLiteral(";;GeoTIFF (*.tif *.tiff);;netCDF (*.nc);;ESRI ASCII (*.asc);;"
-                        "Surfer (*.grd);;SEG-Y (*.sgy *.segy);;PGRID (*.pgrid);;Zugrid (*.zgp)");
+         QStringLiteral(
+             ";;GeoTIFF (*.tif *.tiff);;netCDF (*.nc);;ESRI ASCII (*.asc);;"
+             "Surfer (*.grd);;SEG-Y (*.sgy *.segy);;PGRID (*.pgrid);;Zugrid (*.zgp)");
 }
 
 QStringList ask_files(QWidget* parent, const QString& folder) {
@@ -35,8 +37,7 @@ unsaved_answer ask_unsaved(QWidget* parent, const QString& name) {
   QMessageBox box(QMessageBox::Warning, words("Unsaved changes", "Несохранённые изменения"),
                   words("Save the changes of \"%1\"?", "Сохранить изменения в «%1»?").arg(name),
                   QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, parent);
-  box.setInformativeText(
-      words("They are lost otherwise.", "Иначе они будут потеряны."));
+  box.setInformativeText(words("They are lost otherwise.", "Иначе они будут потеряны."));
   box.setDefaultButton(QMessageBox::Save);
   switch (box.exec()) {
     case QMessageBox::Save:
@@ -50,8 +51,7 @@ unsaved_answer ask_unsaved(QWidget* parent, const QString& name) {
 
 QString ask_source(QWidget* parent, const QString& missing) {
   return QFileDialog::getOpenFileName(
-      parent,
-      words("Where is \"%1\"?", "Где находится «%1»?").arg(QFileInfo(missing).fileName()),
+      parent, words("Where is \"%1\"?", "Где находится «%1»?").arg(QFileInfo(missing).fileName()),
       QFileInfo(missing).absolutePath(), all_files());
 }
 
@@ -64,6 +64,8 @@ QString ask_name(QWidget* parent, const QString& question, const QString& now) {
 
 }  // namespace
 
-prompts prompts_of_dialogs() { return {ask_files, ask_project, ask_unsaved, ask_source, ask_name}; }
+prompts prompts_of_dialogs() {
+  return {ask_files, ask_project, ask_unsaved, ask_source, ask_name, projection_chooser::ask};
+}
 
 }  // namespace zu::desktop

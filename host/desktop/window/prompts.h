@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStringList>
 #include <functional>
+#include <optional>
 
 class QWidget;
 
@@ -22,6 +23,8 @@ struct prompts {
   std::function<QString(QWidget* parent, const QString& missing)> source_instead;
   /// A line of text; empty: cancelled.
   std::function<QString(QWidget* parent, const QString& question, const QString& now)> name;
+  /// A projection of the scene, as text; empty: none; nothing: cancelled.
+  std::function<std::optional<QString>(QWidget* parent, const QString& now)> projection;
 };
 
 /// The questions as dialogs.

@@ -59,17 +59,21 @@ map_view* scene_views::make_view(host::project_scene& scene) {
   return view;
 }
 
+scene_views::scene_key scene_views::key_of(const host::project_scene& scene) {
+  return {scene.content.get(), scene.id};
+}
+
 map_view& scene_views::current() {
-  map_view*& view = views_[document_.scene().content.get()];
+  map_view*& view = views_[key_of(document_.scene())];
   if (view == nullptr) view = make_view(document_.scene());
   return *view;
 }
 
 void scene_views::follow_project() {
-  std::map<const host::scene*, map_view*> kept;
+  std::map<scene_key, map_view*> kept;
   auto& scenes = document_.content().scenes();
   for (const host::project_scene& each : scenes)
-    if (auto found = views_.extract(each.content.get())) kept.insert(std::move(found));
+    if (auto found = views_.extract(key_of(each))) kept.insert(std::move(found));
   std::swap(views_, kept);
   for (const auto& [scene, view] : kept) delete view;
   {
@@ -108,7 +112,7 @@ void scene_views::follow_layers() {
 
 void scene_views::remember_boxes() {
   for (host::project_scene& each : document_.content().scenes())
-    if (auto found = views_.find(each.content.get()); found != views_.end())
+    if (auto found = views_.find(key_of(each)); found != views_.end())
       if (std::optional<Tzu_box_d2> box = found->second->box()) each.view = box;
 }
 

@@ -5,15 +5,14 @@
 #include <QWidget>
 #include <map>
 
+#include "host/desktop/map/map_view.h"
 #include "host/desktop/window/document.h"
-#include "host/desktop/window/plain_view.h"
 
 class QStackedWidget;
 class QTabBar;
 
 namespace zu::desktop {
 
-using map_view = plain_view;
 class message_bar;
 class start_page;
 
@@ -53,7 +52,10 @@ class scene_views final : public QWidget {
   message_bar* messages_;
   QStackedWidget* stack_;
   start_page* start_;
-  std::map<const host::scene*, map_view*> views_;
+  // A new scene may come to stand where an old one stood.
+  using scene_key = std::pair<const host::scene*, std::uint64_t>;
+  static scene_key key_of(const host::project_scene& scene);
+  std::map<scene_key, map_view*> views_;
 };
 
 }  // namespace zu::desktop

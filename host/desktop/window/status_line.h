@@ -1,5 +1,6 @@
 #pragma once
-// The status bar: where the pointer is, the scale, the projection, and how far long work is.
+// The status bar: where the pointer is, the scale, the projection, and whether a picture is being
+// drawn.
 
 #include <QStatusBar>
 
@@ -19,10 +20,10 @@ class status_line final : public QStatusBar {
   void show_coordinates(double x, double y, bool inside);
   /// The denominator of the map's scale; what is not above 0 shows none.
   void show_scale(double scale);
-  /// "EPSG:n" as it is, other texts by the projection's name; empty: none.
+  /// By its name; empty: none.
   void show_projection(const QString& text);
-  /// Between 0 and 1; anything below 0 takes the bar away.
-  void show_progress(double share);
+  /// Whether a picture is being drawn that takes its time.
+  void show_busy(bool busy);
 
  Q_SIGNALS:
   void scale_chosen(double scale);
@@ -39,7 +40,7 @@ class status_line final : public QStatusBar {
   QLabel* scale_title_;
   QComboBox* scale_;
   QToolButton* projection_;
-  QProgressBar* progress_;
+  QProgressBar* busy_;
   double shown_scale_ = 0;
   QString shown_projection_;
 };

@@ -30,10 +30,9 @@ const row rows[] = {
     {&actions::edit_redo, "edit_redo", "edit-redo", "Ctrl+Y; Ctrl+Shift+Z", "&Redo", "&Вернуть"},
     {&actions::copy_picture, "copy_picture", "edit-copy", "Ctrl+Shift+C", "Copy &picture",
      "Копировать &картинку"},
-    {&actions::copy_command, "copy_command", "utilities-terminal", "Ctrl+Alt+C",
-     "Copy as co&mmand", "Копировать как ко&манду"},
-    {&actions::edit_settings, "edit_settings", "configure", "Ctrl+,", "&Settings…",
-     "&Настройки…"},
+    {&actions::copy_command, "copy_command", "utilities-terminal", "Ctrl+Alt+C", "Copy as co&mmand",
+     "Копировать как ко&манду"},
+    {&actions::edit_settings, "edit_settings", "configure", "Ctrl+,", "&Settings…", "&Настройки…"},
     {&actions::zoom_in, "zoom_in", "zoom-in", "Ctrl++; Ctrl+=", "Zoom &in", "&Приблизить"},
     {&actions::zoom_out, "zoom_out", "zoom-out", "Ctrl+-", "Zoom &out", "&Отдалить"},
     {&actions::zoom_all, "zoom_all", "zoom-fit-best", "Ctrl+0", "Show &all", "Показать &всё"},
@@ -42,7 +41,7 @@ const row rows[] = {
     {&actions::redraw, "redraw", "view-refresh", "F5", "&Redraw", "Пе&рерисовать"},
     {&actions::full_screen, "full_screen", "view-fullscreen", "F11", "F&ull screen",
      "Во весь &экран"},
-    {&actions::layer_zoom, "layer_zoom", "zoom-fit-selection", "Ctrl+L", "&Zoom to the layer",
+    {&actions::layer_zoom, "layer_zoom", "crosshairs", "Ctrl+L", "&Zoom to the layer",
      "По&казать слой целиком"},
     {&actions::layer_rename, "layer_rename", "edit-rename", "F2", "Re&name", "Пере&именовать"},
     {&actions::layer_remove, "layer_remove", "edit-delete", "Del", "&Remove", "&Удалить"},
@@ -53,12 +52,10 @@ const row rows[] = {
     {&actions::scene_add, "scene_add", "tab-new", "Ctrl+T", "&New scene", "&Новая сцена"},
     {&actions::scene_rename, "scene_rename", "edit-rename", "", "Re&name scene…",
      "Пере&именовать сцену…"},
-    {&actions::scene_remove, "scene_remove", "tab-close", "", "&Remove scene",
-     "&Удалить сцену"},
+    {&actions::scene_remove, "scene_remove", "tab-close", "", "&Remove scene", "&Удалить сцену"},
     {&actions::scene_projection, "scene_projection", "globe", "Ctrl+Shift+P", "&Projection…",
      "&Проекция…"},
-    {&actions::info_tool, "info_tool", "documentinfo", "Ctrl+I", "&Information",
-     "&Информация"},
+    {&actions::info_tool, "info_tool", "documentinfo", "Ctrl+I", "&Information", "&Информация"},
     {&actions::help_shortcuts, "help_shortcuts", "input-keyboard", "F1", "&Keyboard shortcuts",
      "Сочетания &клавиш"},
     {&actions::help_about, "help_about", "help-about", "", "&About Zugrid", "&О программе"},
@@ -107,8 +104,10 @@ void window_actions::retranslate() {
       tip += QStringLiteral(" (%1)").arg(action->shortcut().toString(QKeySequence::NativeText));
     action->setToolTip(tip);
   }
-  if (!undo_step_.isEmpty()) edit_undo->setText(edit_undo->text() + QStringLiteral(": ") + undo_step_);
-  if (!redo_step_.isEmpty()) edit_redo->setText(edit_redo->text() + QStringLiteral(": ") + redo_step_);
+  if (!undo_step_.isEmpty())
+    edit_undo->setText(edit_undo->text() + QStringLiteral(": ") + undo_step_);
+  if (!redo_step_.isEmpty())
+    edit_redo->setText(edit_redo->text() + QStringLiteral(": ") + redo_step_);
 }
 
 }  // namespace zu::desktop

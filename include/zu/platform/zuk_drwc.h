@@ -87,6 +87,10 @@ ZU_API void zu_drwc_end_object_w(Tzu_drwc* drwc, const wchar_t* name);
 /// Pixels of the picture, top row first, four bytes red, green, blue, opacity, not premultiplied,
 /// into nx * ny * 4 bytes. A document has no pixels: nothing is written.
 ZU_API void zu_drwc_get_pixels(Tzu_drwc* drwc, uint8_t* rgba);
+/// The same pixels where they stand: rows of words, the top one first, each `row_bytes` after the
+/// one above, with the opacity in the high byte and red, green, blue below it, premultiplied. Owned
+/// by the picture; what is drawn later changes them. Null for a document.
+ZU_API const uint32_t* zu_drwc_get_argb(const Tzu_drwc* drwc, uint64_t* row_bytes);
 /// Whether any pixel is not wholly transparent; of a document, whether anything was drawn.
 ZU_API bool zu_drwc_has_ink(Tzu_drwc* drwc);
 /// Writes a picture as PNG or TIFF by the name's ending, a document under a name with its own

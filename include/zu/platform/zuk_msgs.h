@@ -1,6 +1,7 @@
 #pragma once
-// Messages to the person at the program, and progress of long work. What is seen of them is the
-// host's; without a host's hooks everything is silent and nothing is ever stopped.
+// Messages to the person at the program, questions, and progress of long work. What is seen of them
+// is the host's; without a host's hooks everything is silent, the answer is no and nothing is ever
+// stopped.
 
 #include "zu/platform/zuk_api.h"
 
@@ -8,6 +9,18 @@ typedef void (*Tzu_message_sink)(const wchar_t* text, void* user);
 /// Who gets the messages from now on; null is nobody.
 ZU_API void zu_set_message_sink(Tzu_message_sink sink, void* user);
 ZU_API void zu_show_wmessage(const wchar_t* text);
+
+/// How a host warns and asks. A null member is skipped; `user` is handed back.
+typedef struct Tzu_message_hooks {
+  void (*warning)(const wchar_t* text, void* user);
+  bool (*question)(const wchar_t* text, void* user);  ///< true: yes
+  void* user;
+} Tzu_message_hooks;
+/// Who warns and asks from now on; null is nobody. They are copied.
+ZU_API void zu_set_message_hooks(const Tzu_message_hooks* hooks);
+ZU_API void zu_show_wwarning(const wchar_t* text);
+/// Asks a question that is answered by yes or no; comes back with the answer. False for no answer.
+ZU_API bool zu_ask_wyes_no(const wchar_t* text);
 
 /// What a host offers. A null member is skipped; `user` is handed back.
 typedef struct Tzu_progress_hooks {

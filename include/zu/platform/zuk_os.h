@@ -24,6 +24,22 @@ ZU_API bool zu_os_get_user_place_w(const wchar_t* path, bool make, Tzu_string_ad
 ZU_API int32_t zu_res_get_lng(void);
 ZU_API void zu_res_set_lng(int32_t offset);
 
+// --- The clipboard, which is the host's. Texts lie there under the names of private formats.
+
+/// What a host offers. A null member: there is no clipboard. `user` is handed back.
+typedef struct Tzu_clipboard_hooks {
+  /// Puts a text there; what else lies there goes if `empty_first`, and stays if not.
+  bool (*set)(const wchar_t* format, const wchar_t* text, bool empty_first, void* user);
+  bool (*get)(const wchar_t* format, Tzu_string_adp* adapter, void* user);
+  void* user;
+} Tzu_clipboard_hooks;
+/// Whose clipboard it is from now on; null is nobody's. They are copied.
+ZU_API void zu_os_set_clipboard_hooks(const Tzu_clipboard_hooks* hooks);
+/// False if the text could not be put there.
+ZU_API bool zu_os_set_clipboard_w(const wchar_t* format, const wchar_t* text, bool empty_first);
+/// The text that lies there under a format. False, and no call, if there is none.
+ZU_API bool zu_os_get_clipboard_w(const wchar_t* format, Tzu_string_adp* adapter);
+
 // --- Texts and pictures that all parts of the system share
 
 /// Text `id` of `zuk_basic` in the language in force; null if there is none. Lives as long as the

@@ -73,6 +73,9 @@ ZU_API void zu_box_d2_make_xy(Tzu_box_d2* out, double x0, double y0, double x1, 
 /// Intersection of ordered boxes; false when it is empty. Boxes that only touch have an
 /// intersection without area, which is empty.
 ZU_API bool zu_box_d2_cross(const Tzu_box_d2* a, const Tzu_box_d2* b, Tzu_box_d2* out);
+/// Widens it by a part of its own size on every side: 0.02 makes a margin of a fiftieth.
+ZU_API void zu_box_d2_inflate_cf(Tzu_box_d2* box, double part);
+ZU_API double zu_halfway(double a, double b);  ///< the middle of two numbers
 /// All four corners, ordered again.
 ZU_API void zu_box_d2_apply_matrix3x3(Tzu_box_d2* box, const Tzu_matrix3x3* matrix);
 
@@ -87,6 +90,8 @@ ZU_API uint64_t zu_pv_d2_get_size(const Tzu_pv_d2* list);
 /// The vertices, not owned, until the list changes.
 ZU_API Tzu_vtx_d2* zu_pv_d2_get_arr(Tzu_pv_d2* list);
 ZU_API void zu_pv_d2_clear(Tzu_pv_d2* list);
+/// Takes out every vertex that stands at the place of the one before it.
+ZU_API void zu_pv_d2_delete_double(Tzu_pv_d2* list);
 /// A new list of some of the vertices, the first and the last among them, from whose line no vertex
 /// is further off than `tolerance` (Douglas and Peucker 1973, Cartographica 10(2), p. 112). The
 /// caller destroys it; null for null or out of memory.

@@ -34,3 +34,17 @@ ZU_API void zu_pj_get_name_w(const wchar_t* text, Tzu_string_adp* name);
 ZU_API void zu_pj_get_authority_w(const wchar_t* text, Tzu_string_adp* code);
 /// The system as WKT; false if the text is not understood.
 ZU_API bool zu_pj_get_wkt_w(const wchar_t* text, Tzu_string_adp* wkt);
+
+/// A system of PROJ's database, geographic or projected, with two axes.
+typedef struct Tzu_pj_system {
+  const wchar_t* authority;         ///< "EPSG"
+  const wchar_t* code;              ///< "32637"
+  const wchar_t* name;              ///< "WGS 84 / UTM zone 37N"
+  const wchar_t* area;              ///< where it is used, in words; may be empty
+  double west, south, east, north;  ///< of that area in degrees, west over east across 180; or NaN
+  bool is_geographic, is_deprecated;
+} Tzu_pj_system;
+/// Lives, with its texts, during the call.
+typedef void (*Tzu_pj_system_visit)(const Tzu_pj_system* system, void* user);
+/// A call for each system of the database, in its order. False if it cannot be read.
+ZU_API bool zu_pj_list_systems(Tzu_pj_system_visit visit, void* user);

@@ -40,6 +40,7 @@ ZU_API Tzu_viewer2d* zu_viewer2d_safe_downcast(Tzu_viewer* viewer);  ///< null i
 
 ZU_API void zu_viewer2d_set_scn_2d(Tzu_viewer2d* viewer, Tzu_scn_2d* scene);  ///< not owned
 ZU_API Tzu_scn_2d* zu_viewer2d_get_scn_2d(const Tzu_viewer2d* viewer);
+ZU_API Tzu_scn_2d* zu_viewer_get_scn(Tzu_viewer* viewer);  ///< null if it shows none
 /// The window's size in pixels of the screen. The middle and the scale stay.
 ZU_API void zu_viewer2d_set_size(Tzu_viewer2d* viewer, int32_t nx, int32_t ny,
                                  double dots_per_inch);
@@ -51,7 +52,8 @@ ZU_API void zu_viewer2d_set_size(Tzu_viewer2d* viewer, int32_t nx, int32_t ny,
 ZU_API void zu_viewer2d_set_zoom_box(Tzu_viewer2d* viewer, const Tzu_box_d2* box);
 /// The box that the window shows; false, and (0, 0, 1, 1), before it has a size.
 ZU_API bool zu_viewer2d_get_box_cr_sml(const Tzu_viewer2d* viewer, Tzu_box_d2* box);
-/// To the box of the scene and a margin of a fiftieth; stays where it is if the scene has none.
+/// To the box of the scene (`zu_scn_2d_get_clipped_box`) and a margin of a fiftieth; stays where it
+/// is if the scene has none. A side without length gets 10 mm to either hand.
 ZU_API void zu_viewer2d_zoom_to_scn(Tzu_viewer2d* viewer);
 /// Whether each axis has a scale of its own, as sections need it. Off at first.
 ZU_API void zu_viewer2d_set_anisotropic(Tzu_viewer2d* viewer, bool anisotropic);
@@ -61,7 +63,8 @@ ZU_API bool zu_viewer2d_is_anisotropic(const Tzu_viewer2d* viewer);
 ZU_API void zu_viewer2d_get_scale(const Tzu_viewer2d* viewer, double* sx, double* sy);
 ZU_API void zu_viewer2d_set_scale(Tzu_viewer2d* viewer, double sx,
                                   double sy);  ///< about the middle
-// A step back or forth in the history of boxes; nothing at its ends.
+// A step back or forth in the history of boxes, of which the last 100 are kept; nothing at its
+// ends. A box that is set forgets the steps ahead; the box in force set again is no step.
 ZU_API void zu_viewer2d_zoomhist_do_prev(Tzu_viewer2d* viewer);
 ZU_API void zu_viewer2d_zoomhist_do_next(Tzu_viewer2d* viewer);
 ZU_API bool zu_viewer2d_zoomhist_has_prev(const Tzu_viewer2d* viewer);
@@ -71,6 +74,7 @@ ZU_API bool zu_viewer2d_zoomhist_has_next(const Tzu_viewer2d* viewer);
 enum Tzu_wheel_mode {
   zu_wheel_zoom = 0,    ///< zooms about the pointer
   zu_wheel_none = 1,    ///< nothing
+  // Both axes all the same while they have one scale.
   zu_wheel_zoom_y = 2,  ///< zooms the vertical axis about the pointer
   zu_wheel_zoom_x = 3,  ///< zooms the horizontal axis about the pointer
 };
@@ -78,7 +82,7 @@ ZU_API void zu_viewer2d_set_wheel_mode(Tzu_viewer2d* viewer, int32_t mode);
 ZU_API int32_t zu_viewer2d_get_wheel_mode(const Tzu_viewer2d* viewer);
 /// The wheel was turned by so many notches (away from the person above 0), with the pointer at a
 /// point of the scene: each notch zooms by the square root of 2. A run of the wheel is one step of
-/// the history as long as nothing else comes between.
+/// the history as long as nothing else comes between. Asks the window to draw.
 ZU_API void zu_viewer2d_wheel(Tzu_viewer2d* viewer, double notches, double x, double y);
 
 // --- Conversions

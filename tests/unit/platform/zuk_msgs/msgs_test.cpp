@@ -21,6 +21,44 @@ TEST(messages, go_to_the_sink_and_to_nobody_without_one) {
   EXPECT_EQ(seen, std::vector<std::wstring>{L"one"});
 }
 
+struct asked {
+  std::vector<std::wstring> warnings, questions;
+  bool answer = true;
+};
+
+TEST(messages, warnings_and_questions_go_to_the_host) {
+  asked seen;
+  Tzu_message_hooks hooks{};
+  hooks.warning = [](const wchar_t* text, void* user) {
+    static_cast<asked*>(user)->warnings.emplace_back(text);
+  };
+  hooks.question = [](const wchar_t* text, void* user) {
+    auto& all = *static_cast<asked*>(user);
+    all.questions.emplace_back(text);
+    return all.answer;
+  };
+  hooks.user = &seen;
+  zu_set_message_hooks(&hooks);
+  zu_show_wwarning(L"hot");
+  zu_show_wwarning(nullptr);
+  EXPECT_TRUE(zu_ask_wyes_no(L"Really?"));
+  seen.answer = false;
+  EXPECT_FALSE(zu_ask_wyes_no(L"Still?"));
+  EXPECT_FALSE(zu_ask_wyes_no(nullptr));
+  zu_set_message_hooks(nullptr);
+  EXPECT_EQ(seen.warnings, std::vector<std::wstring>{L"hot"});
+  EXPECT_EQ(seen.questions, (std::vector<std::wstring>{L"Really?", L"Still?"}));
+}
+
+TEST(messages, without_a_host_the_answer_is_no) {
+  zu_show_wwarning(L"unheard");
+  EXPECT_FALSE(zu_ask_wyes_no(L"Anybody?"));
+  Tzu_message_hooks empty{};
+  zu_set_message_hooks(&empty);
+  EXPECT_FALSE(zu_ask_wyes_no(L"Anybody?"));
+  zu_set_message_hooks(nullptr);
+}
+
 TEST(progress, is_silent_and_never_stopped_without_hooks) {
   Tzu_progress* progress = zu_progress_create(1);
   zu_progress_wcaption(progress, L"a");

@@ -1,0 +1,100 @@
+// Menus and tool bars of the main window.
+
+#include <QDockWidget>
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolBar>
+
+#include "host/desktop/window/main_window.h"
+#include "host/desktop/window/window_actions.h"
+#include "host/desktop/words.h"
+
+namespace zu::desktop {
+
+void main_window::make_menus() {
+  auto add_menu = [this](const char* name, const char* english, const char* russian,
+                         QMenu* parent = nullptr) {
+    QMenu* menu = parent != nullptr ? parent->addMenu(QString()) : menuBar()->addMenu(QString());
+    menu->setObjectName(QString::fromLatin1(name));
+    menu->setToolTipsVisible(true);
+    texts_.say([=] { menu->setTitle(words(english, russian)); });
+    return menu;
+  };
+  window_actions& a = *actions_;
+
+  QMenu* file = add_menu("menu_file", "&File", "&Файл");
+  file->addActions({a.file_new, a.file_open});
+  recent_menu_ = add_menu("menu_recent", "Open &recent", "Открыть &последние", file);
+  file->addSeparator();
+  file->addActions({a.file_save, a.file_save_as});
+  file->addSeparator();
+  file->addAction(a.file_export);
+  file->addSeparator();
+  file->addAction(a.file_quit);
+
+  QMenu* edit = add_menu("menu_edit", "&Edit", "&Правка");
+  edit->addActions({a.edit_undo, a.edit_redo});
+  edit->addSeparator();
+  edit->addActions({a.copy_picture, a.copy_command});
+  edit->addSeparator();
+  edit->addAction(a.edit_settings);
+
+  view_menu_ = add_menu("menu_view", "&View", "&Вид");
+  view_menu_->addActions({a.zoom_in, a.zoom_out, a.zoom_all, a.layer_zoom});
+  view_menu_->addSeparator();
+  view_menu_->addActions({a.zoom_back, a.zoom_forward, a.redraw});
+  view_menu_->addSeparator();
+  QMenu* panels = add_menu("menu_panels", "&Panels", "&Панели", view_menu_);
+  // Panels of layers come and go, so the list is made when it opens.
+  connect(panels, &QMenu::aboutToShow, this, [this, panels] {
+    panels->clear();
+    for (QDockWidget* dock : findChildren<QDockWidget*>())
+      panels->addAction(dock->toggleViewAction());
+    panels->addSeparator();
+    for (QToolBar* bar : findChildren<QToolBar*>(Qt::FindDirectChildrenOnly))
+      panels->addAction(bar->toggleViewAction());
+  });
+  QMenu* languages = add_menu("menu_language", "&Language", "&Язык", view_menu_);
+  languages->addActions({a.language_english, a.language_russian});
+  view_menu_->addSeparator();
+  view_menu_->addAction(a.full_screen);
+
+  layer_menu_ = add_menu("menu_layer", "&Layer", "&Слой");
+  layer_menu_->addActions({a.layer_zoom, a.layer_rename, a.layer_source});
+  layer_menu_->addSeparator();
+  layer_menu_->addActions({a.layer_up, a.layer_down});
+  layer_menu_->addSeparator();
+  layer_menu_->addAction(a.layer_remove);
+
+  QMenu* scene = add_menu("menu_scene", "&Scene", "С&цена");
+  scene->addAction(a.scene_projection);
+  scene->addSeparator();
+  scene->addActions({a.scene_add, a.scene_rename, a.scene_remove});
+
+  QMenu* tools = add_menu("menu_tools", "&Tools", "&Инструменты");
+  tools->addAction(a.info_tool);
+
+  QMenu* help = add_menu("menu_help", "&Help", "&Справка");
+  help->addActions({a.help_shortcuts, a.help_about});
+}
+
+void main_window::make_tool_bars() {
+  auto add_bar = [this](const char* name, const char* english, const char* russian) {
+    auto* bar = new QToolBar(this);
+    bar->setObjectName(QString::fromLatin1(name));
+    addToolBar(bar);
+    texts_.say([=] { bar->setWindowTitle(words(english, russian)); });
+    return bar;
+  };
+  window_actions& a = *actions_;
+  QToolBar* file = add_bar("bar_file", "File", "Файл");
+  file->addActions({a.file_new, a.file_open, a.file_save, a.file_export});
+  file->addSeparator();
+  file->addActions({a.edit_undo, a.edit_redo});
+  QToolBar* map = add_bar("bar_map", "Map", "Карта");
+  map->addActions({a.zoom_in, a.zoom_out, a.zoom_all, a.layer_zoom, a.zoom_back, a.zoom_forward});
+  map->addSeparator();
+  map->addAction(a.info_tool);
+}
+
+}  // namespace zu::desktop

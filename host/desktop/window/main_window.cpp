@@ -5,19 +5,22 @@
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QElapsedTimer>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
 #include <QTabBar>
+#include <QTimer>
 #include <QUrl>
 
 #include "host/core/command_line.h"
 #include "host/core/failure.h"
 #include "host/core/projections.h"
-#include "host/core/settings.h"
+#include "host/desktop/dialogs/about_dialog.h"
+#include "host/desktop/dialogs/settings_file.h"
+#include "host/desktop/dialogs/shortcuts_dialog.h"
 #include "host/desktop/window/info_window.h"
 #include "host/desktop/window/layer_list.h"
 #include "host/desktop/window/message_bar.h"
-#include "host/desktop/window/recent_files.h"
 #include "host/desktop/window/start_page.h"
 #include "host/desktop/window/status_line.h"
 #include "host/desktop/window/window_actions.h"
@@ -30,7 +33,8 @@ constexpr char geometry_name[] = "window_geometry", layout_name[] = "window_layo
 /// Docks and bars of another number are not those that a layout was kept of.
 constexpr int layout_version = 1;
 constexpr QSize first_size(1280, 800);
-constexpr int message_time = 4000;  // milliseconds
+// Milliseconds: what is said in passing; a picture that takes longer is said to be drawn.
+constexpr int message_time = 4000, patience = 300;
 
 /// Local files as paths, other addresses as they are.
 QStringList paths_of(const QMimeData& data) {
@@ -63,6 +67,7 @@ main_window::main_window(const host::bundle& services, prompts asked)
   connect_layers();
   connect_scenes();
   connect_language();
+  connect_help();
   connect(&document_, &document::history_changed, this, &main_window::show_state);
   connect(&document_, &document::layers_changed, this, &main_window::show_state);
   connect(&document_, &document::layer_activated, this, &main_window::show_state);
@@ -131,6 +136,21 @@ void main_window::connect_map() {
   connect(views_, &scene_views::clicked, this, &main_window::show_info);
   connect(status_, &status_line::scale_chosen, this,
           [map](double scale) { map().set_map_scale(scale); });
+  auto* slow = new QTimer(this);
+  slow->setSingleShot(true);
+  slow->setInterval(patience);
+  auto started = [slow] {
+    if (!slow->isActive()) slow->start();
+  };
+  connect(views_, &scene_views::view_changed, slow, started);
+  connect(&document_, &document::picture_changed, slow, started);
+  connect(slow, &QTimer::timeout, this, [this, map] {
+    status_->show_busy(!document_.scene().layers.empty() && !map().is_up_to_date());
+  });
+  connect(views_, &scene_views::drawn, this, [this, slow] {
+    slow->stop();
+    status_->show_busy(false);
+  });
 }
 
 void main_window::connect_layers() {
@@ -190,12 +210,18 @@ void main_window::connect_scenes() {
 void main_window::connect_language() {
   auto choose = [this](language chosen, const char* name) {
     choose_language(chosen);
-    attempt([&] { host::settings().set("lang", name); });
+    attempt([&] { keep_text("lang", QString::fromLatin1(name)); });
   };
   connect(actions_->language_english, &QAction::triggered, this,
           [choose] { choose(language::english, "en"); });
   connect(actions_->language_russian, &QAction::triggered, this,
           [choose] { choose(language::russian, "ru"); });
+}
+
+void main_window::connect_help() {
+  connect(actions_->help_shortcuts, &QAction::triggered, this,
+          [this] { shortcuts_dialog::ask(this, actions_->findChildren<QAction*>()); });
+  connect(actions_->help_about, &QAction::triggered, this, [this] { about_dialog::ask(this); });
 }
 
 void main_window::retranslate() {
@@ -294,15 +320,16 @@ bool main_window::wait_until_drawn(int milliseconds) {
 }
 
 void main_window::restore_layout() {
-  restoreGeometry(kept_bytes(geometry_name));
-  restoreState(kept_bytes(layout_name), layout_version);
+  auto kept = [](const char* name) { return QByteArray::fromBase64(kept_text(name).toLatin1()); };
+  restoreGeometry(kept(geometry_name));
+  restoreState(kept(layout_name), layout_version);
   actions_->full_screen->setChecked(isFullScreen());
 }
 
 void main_window::keep_layout() {
   attempt([this] {
-    keep_bytes(geometry_name, saveGeometry());
-    keep_bytes(layout_name, saveState(layout_version));
+    keep_text(geometry_name, QString::fromLatin1(saveGeometry().toBase64()));
+    keep_text(layout_name, QString::fromLatin1(saveState(layout_version).toBase64()));
   });
 }
 
@@ -315,6 +342,15 @@ void main_window::closeEvent(QCloseEvent* event) {
   if (!may_replace()) return event->ignore();
   keep_layout();
   event->accept();
+}
+
+/// What no one in front took: Escape puts away the message, then leaves the full screen.
+void main_window::keyPressEvent(QKeyEvent* event) {
+  if (event->key() != Qt::Key_Escape) return QMainWindow::keyPressEvent(event);
+  if (views_->messages().isVisible())
+    views_->messages().dismiss();
+  else
+    actions_->full_screen->setChecked(false);
 }
 
 void main_window::dragEnterEvent(QDragEnterEvent* event) {

@@ -39,6 +39,7 @@ class main_window final : public QMainWindow {
  protected:
   void changeEvent(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
 
@@ -50,6 +51,7 @@ class main_window final : public QMainWindow {
   void connect_layers();
   void connect_scenes();
   void connect_language();
+  void connect_help();
   void retranslate();
   void show_state();
   void show_view();

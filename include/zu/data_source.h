@@ -182,7 +182,7 @@ struct grid_source_impl : plain_interface<grid_source_impl> {
   virtual std::int32_t color_role(std::int64_t /*band*/) { return role_none; }
   virtual bool palette(std::int64_t /*band*/, grid_palette_visitor) { return false; }
   virtual bool block(std::int64_t /*band*/, grid_block_visitor) { return false; }
-  virtual bool row_ids(grid_block_visitor) { return false; }  ///< ids are y * nx + x
+  virtual bool row_ids(grid_block_visitor) { return false; }  ///< ids are (z * ny + y) * nx + x
   using operations = in_order<
       unused, unused, unused, unused, &grid_source_impl::grid_type, &grid_source_impl::sizes,
       &grid_source_impl::matrix3x3, unused, &grid_source_impl::matrix4x4, unused,

@@ -20,6 +20,7 @@ std::wstring& main_module() {
 }
 
 bool build_overviews = false;
+double mm_delta = 1.0;
 
 }  // namespace
 
@@ -32,3 +33,7 @@ void zu_options_set_main_module_path(const wchar_t* path) {
 
 bool zu_options_get_build_overviews() { return build_overviews; }
 void zu_options_set_build_overviews(bool build) { build_overviews = build; }
+double zu_options_get_mm_delta() { return mm_delta; }
+void zu_options_set_mm_delta(double millimetres) {
+  if (millimetres > 0) mm_delta = millimetres;
+}

@@ -83,6 +83,13 @@ std::int32_t row_id_block::read_linear(std::uint64_t start, std::uint64_t count,
 std::int32_t row_id_block::read_window(const std::int64_t* origin, const std::uint64_t* size,
                                        void* buffer, const std::uint64_t* sample, std::int32_t type,
                                        const std::uint64_t* strides) {
+  return read_slice(0, origin, size, buffer, sample, type, strides);
+}
+
+std::int32_t row_id_block::read_slice(std::uint64_t slice, const std::int64_t* origin,
+                                      const std::uint64_t* size, void* buffer,
+                                      const std::uint64_t* sample, std::int32_t type,
+                                      const std::uint64_t* strides) const {
   auto outside = [](std::int64_t o, std::uint64_t n, std::uint64_t all) {
     return o < 0 || n == 0 || static_cast<std::uint64_t>(o) >= all ||
            n > all - static_cast<std::uint64_t>(o);
@@ -96,7 +103,7 @@ std::int32_t row_id_block::read_window(const std::int64_t* origin, const std::ui
   std::vector<std::int64_t> rows = sampled_rows(origin[1], size[1], sample[1]);
   std::vector<std::uint64_t> ids(sample[0]);
   for (std::uint64_t row = 0; row < sample[1]; ++row) {
-    std::uint64_t first = static_cast<std::uint64_t>(rows[row]) * columns_;
+    std::uint64_t first = (slice * rows_ + static_cast<std::uint64_t>(rows[row])) * columns_;
     for (std::uint64_t i = 0; i < sample[0]; ++i)
       ids[i] = first + static_cast<std::uint64_t>(columns[i]);
     convert_elements(ids.data(), element_uint64, 1,
@@ -109,7 +116,9 @@ std::int32_t row_id_block::read_window(const std::int64_t* origin, const std::ui
 std::int32_t row_id_block::read_window_3d(const std::int64_t* origin, const std::uint64_t* size,
                                           void* buffer, const std::uint64_t* sample,
                                           std::int32_t type, const std::uint64_t* strides) {
-  return origin[2] == 0 ? read_window(origin, size, buffer, sample, type, strides) : 0;
+  if (origin[2] < 0 || static_cast<std::uint64_t>(origin[2]) >= slices_) return read_impossible;
+  return read_slice(static_cast<std::uint64_t>(origin[2]), origin, size, buffer, sample, type,
+                    strides);
 }
 
 std::int32_t row_id_block::read_tile(std::uint64_t column, std::uint64_t row, void* buffer) {

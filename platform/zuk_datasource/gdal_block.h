@@ -34,10 +34,11 @@ class gdal_block final : public polymorphic<grid_block_impl> {
   std::uint64_t tile_x_, tile_y_;
 };
 
-/// The ids of the cells, y * nx + x; reads no file.
+/// The ids of the cells, (z * ny + y) * nx + x; reads no file.
 class row_id_block final : public polymorphic<grid_block_impl> {
  public:
-  row_id_block(std::uint64_t columns, std::uint64_t rows) : columns_(columns), rows_(rows) {}
+  row_id_block(std::uint64_t columns, std::uint64_t rows, std::uint64_t slices = 1)
+      : columns_(columns), rows_(rows), slices_(slices) {}
 
   void release() override { delete this; }
   std::int32_t type() override { return element_uint64; }
@@ -53,7 +54,12 @@ class row_id_block final : public polymorphic<grid_block_impl> {
   std::int32_t read_tile(std::uint64_t column, std::uint64_t row, void* buffer) override;
 
  private:
-  std::uint64_t columns_, rows_;
+  /// A window of one slice.
+  std::int32_t read_slice(std::uint64_t slice, const std::int64_t* origin,
+                          const std::uint64_t* size, void* buffer, const std::uint64_t* sample,
+                          std::int32_t type, const std::uint64_t* strides) const;
+
+  std::uint64_t columns_, rows_, slices_;
 };
 
 class gdal_palette final : public polymorphic<grid_palette_impl> {

@@ -210,8 +210,10 @@ bool pgrid_source::block(std::int64_t field, grid_block_visitor visitor) {
 
 bool pgrid_source::row_ids(grid_block_visitor visitor) {
   if (!visitor) return false;
-  auto* made = new row_id_block(static_cast<std::uint64_t>(file_->head().size[0]),
-                                static_cast<std::uint64_t>(file_->head().size[1]));
+  const auto& size = file_->head().size;
+  auto* made =
+      new row_id_block(static_cast<std::uint64_t>(size[0]), static_cast<std::uint64_t>(size[1]),
+                       static_cast<std::uint64_t>(size[2]));
   call<&grid_block_visitor_impl::visit>(visitor, handle_of<grid_block_impl>(*made));
   return true;
 }

@@ -88,12 +88,20 @@ bool zu_lr2d_is_missing(const Izu_layer* layer) { return layer != nullptr && lay
 bool zu_lr2d_is_visible(const Izu_layer* layer) { return layer != nullptr && layer->visible; }
 void zu_lr2d_set_visible(Izu_layer* layer, bool visible) {
   guarded(layer, [&](Izu_layer& l) {
+    if (l.visible == visible) return;
     l.visible = visible;
     forget_box(l.scene);
+    if (l.scene != nullptr) l.scene->channel.post(zu_update_layers);
   });
 }
 void zu_lr2d_data_changed(Izu_layer* layer) {
-  guarded(layer, [](Izu_layer& l) { ++l.changes; });
+  guarded(layer, [](Izu_layer& l) {
+    ++l.changes;
+    l.channel.post(zu_update_data);
+  });
+}
+Tzu_event_channel* zu_lr_get_update_event_channel(Izu_layer* layer) {
+  return layer != nullptr ? &layer->channel : nullptr;
 }
 uint64_t zu_lr2d_get_change_count(const Izu_layer* layer) {
   return layer != nullptr ? layer->changes : 0;

@@ -34,6 +34,7 @@ void zu_scn_2d_add_layer(Tzu_scn_2d* scene, Izu_layer* layer) {
     s.layers.push_back(layer);
     layer->scene = &s;
     s.box_is_known = false;
+    s.channel.post(zu_update_layers);
   });
 }
 
@@ -46,6 +47,7 @@ void zu_scn_2d_remove_layer(Tzu_scn_2d* scene, Izu_layer* layer) {
     layer->scene = nullptr;
     s.box_is_known = false;
     if (s.active == layer) s.active = nullptr;
+    s.channel.post(zu_update_layers);
   });
 }
 
@@ -55,12 +57,19 @@ uint64_t zu_scn_2d_get_layer_count(const Tzu_scn_2d* scene) {
 Izu_layer* zu_scn_2d_get_layer(const Tzu_scn_2d* scene, uint64_t index) {
   return index < zu_scn_2d_get_layer_count(scene) ? scene->layers[index] : nullptr;
 }
+Tzu_event_channel* zu_scn_get_update_event_channel(Tzu_scn_2d* scene) {
+  return scene != nullptr ? &scene->channel : nullptr;
+}
 Izu_layer* zu_scn_2d_get_active_layer(const Tzu_scn_2d* scene) {
   return scene != nullptr ? scene->active : nullptr;
 }
 void zu_scn_2d_set_active_layer(Tzu_scn_2d* scene, Izu_layer* layer) {
   if (layer != nullptr && layer->scene != scene) return;
-  guarded(scene, [&](Tzu_scn_2d& s) { s.active = layer; });
+  guarded(scene, [&](Tzu_scn_2d& s) {
+    if (s.active == layer) return;
+    s.active = layer;
+    s.channel.post(zu_update_active_layer);
+  });
 }
 void zu_scn_2d_calc_box(Tzu_scn_2d* scene) {
   guarded(scene, [](Tzu_scn_2d& s) {
@@ -81,7 +90,10 @@ bool zu_scn_2d_get_clipped_box(Tzu_scn_2d* scene, Tzu_box_d2* box) {
   });
 }
 void zu_scn_2d_set_pj4wstr(Tzu_scn_2d* scene, const wchar_t* projection) {
-  guarded(scene, [&](Tzu_scn_2d& s) { s.projection = projection != nullptr ? projection : L""; });
+  guarded(scene, [&](Tzu_scn_2d& s) {
+    s.projection = projection != nullptr ? projection : L"";
+    s.channel.post(zu_update_projection);
+  });
 }
 void zu_scn_2d_get_pj4wstr(const Tzu_scn_2d* scene, Tzu_string_adp* adapter) {
   guarded(scene, [&](const Tzu_scn_2d& s) { zu_string_adp_feed(adapter, s.projection.c_str()); });

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/zuk_basic/event_channel.h"
 #include "platform/zuk_lr2d/own_state.h"
 #include "platform/zuk_scn_2d/prf_data.h"
 #include "zu/platform/zuk_lr2d.h"
@@ -20,6 +21,7 @@ struct Izu_layer {
   std::optional<Tzu_box_d2> box;
   bool missing = false, visible = true, own_selected_style = false;
   uint64_t changes = 0;
+  Tzu_event_channel channel;
 };
 
 struct Tzu_scn_2d {
@@ -31,4 +33,5 @@ struct Tzu_scn_2d {
   Tzu_optional_color selected{};
   std::optional<Tzu_pln_style> selected_line;
   Tzu_prf_data profile;
+  Tzu_event_channel channel;
 };

@@ -53,7 +53,7 @@ void map_view::set_up() {
 
 Tzu_viewer2d_hooks map_view::hooks() {
   Tzu_viewer2d_hooks told{};
-  told.redraw = [](void* user) { map_of(user).redraw(); };
+  told.redraw = [](void* user) { map_of(user).ask_for_picture(map_of(user).delay()); };
   told.move_picture = [](std::int32_t dx, std::int32_t dy, void* user) {
     map_of(user).shift_ = QPoint(dx, dy);
     map_of(user).update();
@@ -68,10 +68,10 @@ Tzu_viewer2d_hooks map_view::hooks() {
 }
 
 void map_view::box_changed() {
-  has_box_ = true;
+  has_box_ = has_box_ || !is_sizing_;
   shift_ = {};
   is_mode_picture_old_ = is_mode_picture_old_ || !mode_picture_.isNull();
-  ask_for_picture(is_wheeling_ && last_cost_ > quick_picture ? wheel_rest : 0);
+  ask_for_picture(delay());
   Q_EMIT view_changed();
 }
 
@@ -89,6 +89,8 @@ QSize map_view::pixels() const {
           static_cast<int>(std::lround(height() * devicePixelRatioF()))};
 }
 
+int map_view::delay() const { return is_wheeling_ && last_cost_ > quick_picture ? wheel_rest : 0; }
+
 void map_view::redraw() { ask_for_picture(0); }
 
 void map_view::ask_for_picture(int delay) {
@@ -102,8 +104,10 @@ void map_view::ask_for_picture(int delay) {
 void map_view::follow_window() {
   if (pixels() == followed_ || pixels().isEmpty()) return;
   followed_ = pixels();
+  is_sizing_ = true;
   zu_viewer2d_set_size(viewer(), followed_.width(), followed_.height(),
                        logicalDpiX() * devicePixelRatioF());
+  is_sizing_ = false;
   if (wanted_) zoom_to(*std::exchange(wanted_, std::nullopt));
   pointer_->set_dead_zone(3 * devicePixelRatioF());
   redraw();
@@ -210,10 +214,10 @@ std::optional<Tzu_box_d2> map_view::box() const {
 }
 
 void map_view::zoom_to_all() {
-  std::optional<Tzu_box_d2> all = layers_->box();
-  if (!all) return;
-  double margin_x = (all->x1 - all->x0) / 50, margin_y = (all->y1 - all->y0) / 50;
-  zoom_to({all->x0 - margin_x, all->y0 - margin_y, all->x1 + margin_x, all->y1 + margin_y});
+  Tzu_box_d2 all;
+  if (!zu_scn_2d_get_clipped_box(zu_viewer2d_get_scn_2d(viewer()), &all)) return;
+  double margin_x = (all.x1 - all.x0) / 50, margin_y = (all.y1 - all.y0) / 50;
+  zoom_to({all.x0 - margin_x, all.y0 - margin_y, all.x1 + margin_x, all.y1 + margin_y});
 }
 
 void map_view::zoom_to(const Tzu_box_d2& box) {

@@ -88,6 +88,7 @@ class map_view : public QWidget {
   // Drawing.
   QSize pixels() const;
   bool can_draw() const { return isVisible() && !pixels().isEmpty(); }
+  int delay() const;  ///< of the next picture, in milliseconds
   void ask_for_picture(int delay);
   void draw_some();
   void begin_drawing();
@@ -124,6 +125,7 @@ class map_view : public QWidget {
   bool is_stale_ = true;  ///< the next picture has not been begun
   bool is_cut_short_ = false;
   bool is_wheeling_ = false;
+  bool is_sizing_ = false;
   bool has_box_ = false;  ///< somebody chose what to show
   QSize followed_;
   std::optional<Tzu_box_d2> wanted_;  ///< chosen before the map had a size

@@ -31,6 +31,47 @@ ZU_API void zu_options_set_main_module_path(const wchar_t* path);
 ZU_API bool zu_options_get_build_overviews(void);
 ZU_API void zu_options_set_build_overviews(bool build);
 
+/// How near a click must come to a thing, in millimetres of the screen; 1 until the host sets it.
+ZU_API double zu_options_get_mm_delta(void);
+ZU_API void zu_options_set_mm_delta(double millimetres);  ///< ignored unless above 0
+
+// --- Update events: an object tells whoever listens to its channel that it is another. What
+// changes between its begin and end is told once, at the end, as one event.
+
+typedef struct Tzu_event_channel Tzu_event_channel;  ///< belongs to the object it speaks for
+typedef struct Tzu_event_queue Tzu_event_queue;      ///< lives during a call of a client
+typedef struct Tzu_update_event Tzu_update_event;
+typedef struct Tzu_update_event_prop_list Tzu_update_event_prop_list;
+typedef void (*Tzu_event_client)(Tzu_event_queue* queue, void* user);
+
+/// What of an object is another.
+enum Tzu_update_property {
+  zu_update_layers = 1,        ///< of a scene: its layers, their order, which of them show
+  zu_update_active_layer = 2,  ///< of a scene
+  zu_update_projection = 3,    ///< of a scene
+  zu_update_selection = 6,     ///< of a table
+  zu_update_structure = 7,     ///< of a table: its columns or its source
+  zu_update_order = 8,         ///< of a table: the order of rows, the current row
+  zu_update_data = 10,         ///< of a layer: what its source holds
+};
+
+/// The client is called with `user` until it is removed. A channel that is gone is left alone.
+ZU_API void zu_event_channel_add_client(Tzu_event_channel* channel, Tzu_event_client client,
+                                        void* user);
+ZU_API void zu_event_channel_del_client(Tzu_event_channel* channel, Tzu_event_client client,
+                                        void* user);
+ZU_API uint64_t zu_event_queue_get_size(const Tzu_event_queue* queue);
+/// Of all events those that tell of a change: all.
+ZU_API uint64_t zu_event_queue_count_update_events(const Tzu_event_queue* queue);
+/// Null if there is none.
+ZU_API const Tzu_update_event* zu_event_queue_get_update_event(const Tzu_event_queue* queue,
+                                                               uint64_t index);
+/// What changed; null for null.
+ZU_API const Tzu_update_event_prop_list* zu_update_event_get_details(const Tzu_update_event* event);
+ZU_API uint64_t zu_update_event_prop_list_get_count(const Tzu_update_event_prop_list* list);
+ZU_API bool zu_update_event_prop_list_find_integer(const Tzu_update_event_prop_list* list,
+                                                   int32_t property);
+
 // --- Colours
 
 /// A colour; `a` is a transparency, 0 opaque. As a 32-bit word red is the low byte.

@@ -42,6 +42,8 @@ ZU_API bool zu_lr2d_is_missing(const Izu_layer* layer);
 ZU_API bool zu_lr2d_is_visible(const Izu_layer* layer);
 ZU_API void zu_lr2d_set_visible(Izu_layer* layer, bool visible);
 ZU_API void zu_lr2d_data_changed(Izu_layer* layer);
+/// Tells of the above by `zu_update_data`. The entity's own.
+ZU_API Tzu_event_channel* zu_lr_get_update_event_channel(Izu_layer* layer);
 ZU_API uint64_t zu_lr2d_get_change_count(const Izu_layer* layer);  ///< calls of the above
 /// Box in scene coordinates; `ok` false means that it is not known.
 ZU_API void zu_lr2d_set_box(Izu_layer* layer, bool ok, const Tzu_box_d2* box);
@@ -91,6 +93,8 @@ ZU_API void zu_scn_2d_add_layer(Tzu_scn_2d* scene, Izu_layer* layer);     ///< o
 ZU_API void zu_scn_2d_remove_layer(Tzu_scn_2d* scene, Izu_layer* layer);  ///< the entity lives on
 ZU_API uint64_t zu_scn_2d_get_layer_count(const Tzu_scn_2d* scene);
 ZU_API Izu_layer* zu_scn_2d_get_layer(const Tzu_scn_2d* scene, uint64_t index);
+/// Tells of layers, active layer and projection by `Tzu_update_property`. The scene's own.
+ZU_API Tzu_event_channel* zu_scn_get_update_event_channel(Tzu_scn_2d* scene);
 /// The layer that a person works on; null if there is none. It is forgotten when it leaves.
 ZU_API Izu_layer* zu_scn_2d_get_active_layer(const Tzu_scn_2d* scene);
 ZU_API void zu_scn_2d_set_active_layer(Tzu_scn_2d* scene, Izu_layer* layer);  ///< one of its own

@@ -33,7 +33,7 @@ class histogram_widget final : public realised<histogram_impl, QWidget> {
 
  protected:
   void heard(notice) override {
-    struct collector final : histogram_visitor_impl {
+    struct collector final : histogram_data_visitor_impl {
       void visit(const Tzu_histogramm_data* data) override {
         for (std::uint64_t i = 0, n = zu_histogramm_get_size(data); i < n; ++i)
           bars.push_back(zu_histogramm_get(data, i));
@@ -43,7 +43,7 @@ class histogram_widget final : public realised<histogram_impl, QWidget> {
     is_shown_ = call<&histogram_impl::show>(element_) != 0;
     if (is_shown_)
       call<&histogram_impl::visit_histogram>(
-          element_, histogram_visitor(handle_of<histogram_visitor_impl>(found)));
+          element_, histogram_data_visitor(handle_of<histogram_data_visitor_impl>(found)));
     bars_ = std::move(found.bars);
     limits_[0] = call<&histogram_impl::minimum>(element_);
     limits_[1] = call<&histogram_impl::maximum>(element_);

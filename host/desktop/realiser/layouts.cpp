@@ -77,7 +77,7 @@ void grid_layout_widget::name_controls() {
     QWidget* control = reachable(next->control);
     if (control == nullptr) continue;
     label->setBuddy(control);
-    control->setAccessibleName(name_of(label, label->text()));
+    control->setAccessibleName(plain_name(label->text()));
     // Beside something high a label stands at its first line.
     if (next->control->sizePolicy().verticalPolicy() & QSizePolicy::ExpandFlag)
       grid_->setAlignment(label, Qt::AlignTop);

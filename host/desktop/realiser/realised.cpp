@@ -26,12 +26,16 @@ int characters(const QWidget* control, std::uint32_t count) {
   return int(std::min<std::uint32_t>(count, 400)) * control->fontMetrics().averageCharWidth();
 }
 
+QString plain_name(QString caption) {
+  caption.remove(QLatin1Char('&'));
+  while (caption.endsWith(QLatin1Char(':')) || caption.endsWith(QLatin1Char(' '))) caption.chop(1);
+  return caption;
+}
+
 QString name_of(const QWidget* control, const QString& caption) {
-  QString name = caption.isEmpty() ? control->accessibleName() : caption;
-  if (name.isEmpty()) name = control->toolTip();
-  name.remove(QLatin1Char('&'));
-  while (name.endsWith(QLatin1Char(':')) || name.endsWith(QLatin1Char(' '))) name.chop(1);
-  return name;
+  if (!caption.isEmpty()) return plain_name(caption);
+  return plain_name(control->accessibleName().isEmpty() ? control->toolTip()
+                                                        : control->accessibleName());
 }
 
 }  // namespace zu::desktop

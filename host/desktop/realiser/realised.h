@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include "host/core/texts.h"
+#include "host/desktop/realiser/realiser.h"
 #include "zu/toolkit.h"
 
 namespace zu::desktop {
@@ -96,7 +97,9 @@ int layout_unit(const QWidget* control);
 /// Width of so many characters in a control's font.
 int characters(const QWidget* control, std::uint32_t count);
 
-/// What a control is called: its own text, or that of the label in front of it. Without mnemonics.
+/// A caption without mnemonics and the colon behind it.
+QString plain_name(QString caption);
+/// What a control is called: its caption, that of the label in front of it, or its tip.
 QString name_of(const QWidget* control, const QString& caption = {});
 
 }  // namespace zu::desktop

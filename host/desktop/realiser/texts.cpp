@@ -33,7 +33,7 @@ class label_widget final : public realised<label_impl, QLabel> {
   void heard(notice) override {
     setText(text_by<&label_impl::text>(element_));
     setEnabled(call<&label_impl::enabled>(element_));
-    if (buddy() != nullptr) buddy()->setAccessibleName(name_of(this, text()));
+    if (buddy() != nullptr) buddy()->setAccessibleName(plain_name(text()));
     show_tip();
   }
   void resizeEvent(QResizeEvent* event) override {

@@ -53,10 +53,7 @@ template <class tool> class action_of : public tool_action, protected link<tool>
     setVisible(call<&tool::visible>(h));
     set_categories(categories_of<tool>(h));
   }
-  void was_used() { input_reached(name_of(nullptr, text())); }
-
- private:
-  static QString name_of(const QWidget*, QString text) { return text.remove(QLatin1Char('&')); }
+  void was_used() { input_reached(plain_name(text())); }
 };
 
 class simple_action final : public action_of<action_tool_impl> {
@@ -174,7 +171,7 @@ class integer_action final : public action_of<integer_tool_impl> {
     auto* box = row->findChild<number_box*>();
     if (label == nullptr || box == nullptr) return;
     label->setText(text());
-    box->setAccessibleName(zu::desktop::name_of(row, text()));
+    box->setAccessibleName(plain_name(text()));
     box->setToolTip(toolTip());
     box->set_characters(5);
     box->refresh(what == notice::value);
@@ -238,7 +235,7 @@ class list_action final : public menu_action<list_tool_impl> {
       for (QAction* entry : menu()->actions()) box->addItem(entry->text());
     }
     box->setToolTip(toolTip());
-    box->setAccessibleName(zu::desktop::name_of(box, text()));
+    box->setAccessibleName(plain_name(text()));
     box->setCurrentIndex(call<&list_tool_impl::current>(element_));
   }
   void choose(int index) {

@@ -325,10 +325,19 @@ findings folders_without_readme(const tree& t) {
 }
 
 findings dead_links(const tree& t) {
+  // Lambdas look like links.
+  auto without_code = [](std::string text) {
+    static const std::string fence = "```";
+    for (std::size_t at = 0; (at = text.find(fence, at)) != std::string::npos;) {
+      std::size_t end = text.find(fence, at + fence.size());
+      text.erase(at, end == std::string::npos ? end : end + fence.size() - at);
+    }
+    return text;
+  };
   findings all;
   for (const std::string& file : t.files) {
     if (!ends(file, ".md")) continue;
-    for (const std::string& link : between(read(t.root / file), "](", ')')) {
+    for (const std::string& link : between(without_code(read(t.root / file)), "](", ')')) {
       std::string target = link.substr(0, link.find_first_of(" #"));
       if (target.empty() || target.find(':') != std::string::npos) continue;
       if (!fs::exists((t.root / file).parent_path() / target))

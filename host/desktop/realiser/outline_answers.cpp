@@ -40,12 +40,6 @@ QImage pixels_of(bitmap picture) {
   return maker.image;
 }
 
-QString number_text(double value, std::uint32_t decimals) {
-  if (!std::isfinite(value)) return {};
-  return decimals > 0 ? QString::number(value, 'f', int(std::min(decimals, 15u)))
-                      : QString::number(value, 'g', 15);
-}
-
 bool read_number(QString text, double& value) {
   text = text.trimmed();
   text.replace(QLatin1Char(','), QLatin1Char('.'));

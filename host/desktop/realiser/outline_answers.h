@@ -5,6 +5,7 @@
 #include <QString>
 #include <QStringList>
 
+#include "host/desktop/realiser/number_text.h"
 #include "zu/toolkit.h"
 
 namespace zu::desktop {
@@ -43,8 +44,6 @@ template <auto operation, class... given> QStringList texts_by(handle h, given..
   return found;
 }
 
-/// A number in digits with a decimal point and no groups; `decimals` 0 is as many as it needs.
-QString number_text(double value, std::uint32_t decimals);
 /// The number that a whole text says, a comma taken for a point; false if it says none.
 bool read_number(QString text, double& value);
 bool read_number(const QString& text, std::int32_t& value);

@@ -3,6 +3,7 @@
 
 #include <QMainWindow>
 
+#include "host/desktop/realiser/tool_actions.h"
 #include "host/desktop/window/document.h"
 #include "host/desktop/window/prompts.h"
 #include "host/desktop/window/scene_views.h"
@@ -13,6 +14,7 @@ class QMenu;
 
 namespace zu::desktop {
 
+class editor_docks;
 class info_window;
 class layer_list;
 class status_line;
@@ -35,6 +37,7 @@ class main_window final : public QMainWindow {
   document& content() { return document_; }
   window_actions& actions() { return *actions_; }
   scene_views& views() { return *views_; }
+  editor_docks& editors() { return *editors_; }
 
  protected:
   void changeEvent(QEvent* event) override;
@@ -45,6 +48,7 @@ class main_window final : public QMainWindow {
 
  private:
   // main_window.cpp
+  void connect_bundles();
   void make_docks();
   void connect_files();
   void connect_map();
@@ -80,6 +84,10 @@ class main_window final : public QMainWindow {
   // window_menus.cpp
   void make_menus();
   void make_tool_bars();
+  /// The bundles' tools, in the menu under their categories.
+  void fill_tools();
+  /// The modes of the current map, in their tool bar.
+  void fill_modes();
 
   prompts prompts_;
   document document_;
@@ -93,6 +101,11 @@ class main_window final : public QMainWindow {
   QMenu* recent_menu_ = nullptr;
   QMenu* layer_menu_ = nullptr;
   QMenu* view_menu_ = nullptr;
+  QMenu* tools_menu_ = nullptr;
+  QToolBar* tools_bar_ = nullptr;
+  QToolBar* modes_bar_ = nullptr;
+  tool_actions tools_;
+  std::unique_ptr<editor_docks> editors_;
   texts_said texts_;
   QString last_folder_;
 };

@@ -4,12 +4,7 @@
 #include <QString>
 #include <QStringList>
 
-<<<<<<< HEAD:host/desktop/realiser/answers.h
 #include "zu/strings.h"
-=======
-#include "host/desktop/realiser/number_text.h"
-#include "zu/toolkit.h"
->>>>>>> refs/heads/window:host/desktop/realiser/outline_answers.h
 
 namespace zu::desktop {
 
@@ -37,11 +32,4 @@ template <auto operation, class... given> QStringList texts_by(handle h, given..
   return found;
 }
 
-<<<<<<< HEAD:host/desktop/realiser/answers.h
-=======
-/// The number that a whole text says, a comma taken for a point; false if it says none.
-bool read_number(QString text, double& value);
-bool read_number(const QString& text, std::int32_t& value);
-
->>>>>>> refs/heads/window:host/desktop/realiser/outline_answers.h
 }  // namespace zu::desktop

@@ -9,6 +9,7 @@
 #include "host/core/failure.h"
 #include "host/core/settings.h"
 #include "host/desktop/appearance.h"
+#include "host/desktop/map/viewer_builders.h"
 #include "host/desktop/window/main_window.h"
 #include "host/desktop/words.h"
 #include "zu/platform/zuk_os.h"
@@ -118,6 +119,7 @@ int take_picture(main_window& window, const QString& path) {
 
 int run(const request& wanted) {
   zu::host::bundle services({"zuk_common.so"});
+  serve_viewers(&services);
   main_window window(services);
   window.resize(wanted.size);
   window.show();

@@ -2,8 +2,10 @@
 
 #include <QWidget>
 
-#include "host/desktop/realiser/outline_answers.h"
+#include "host/desktop/realiser/answers.h"
+#include "host/desktop/realiser/number_text.h"
 #include "host/desktop/realiser/outline_editors.h"
+#include "host/desktop/realiser/pictures.h"
 #include "host/desktop/realiser/realised.h"
 
 namespace zu::desktop {
@@ -55,13 +57,14 @@ QString text_of(const cell& c) {
 
 bool set_number(const cell& c, const QString& text) {
   if (c.kind == cell_kind::integer) {
-    std::int32_t number = 0;
-    return read_number(text, number) && call<&grid_integer_cell_impl::set_value>(c.own, number);
+    bool is_whole = false;
+    const int number = text.trimmed().toInt(&is_whole);
+    return is_whole && call<&grid_integer_cell_impl::set_value>(c.own, number);
   }
-  double number = 0;
-  return read_number(text, number) && number >= call<&grid_floating_cell_impl::minimum>(c.own) &&
-         number <= call<&grid_floating_cell_impl::maximum>(c.own) &&
-         call<&grid_floating_cell_impl::set_value>(c.own, number);
+  const std::optional<double> number = number_of(text);
+  return number && *number >= call<&grid_floating_cell_impl::minimum>(c.own) &&
+         *number <= call<&grid_floating_cell_impl::maximum>(c.own) &&
+         call<&grid_floating_cell_impl::set_value>(c.own, *number);
 }
 
 }  // namespace
@@ -82,7 +85,7 @@ shown_cell read_cell(handle grid, grid_place at) {
                                                                     : Qt::Unchecked;
     }
     if (c.kind == cell_kind::picture)
-      shown.picture = picture_by<&grid_bitmap_cell_impl::picture>(c.own);
+      shown.picture = picture_by<&grid_bitmap_cell_impl::picture>(c.own).image;
   });
   return shown;
 }

@@ -3,7 +3,9 @@
 #include <QColor>
 #include <QFont>
 
-#include "host/desktop/realiser/outline_answers.h"
+#include "host/desktop/realiser/answers.h"
+#include "host/desktop/realiser/number_text.h"
+#include "host/desktop/realiser/pictures.h"
 #include "host/desktop/realiser/realised.h"
 
 namespace zu::desktop {
@@ -57,18 +59,20 @@ QString choice_cell(const shown_column& c, outline_item item) {
 }
 
 QVariant picture_cell(const shown_column& c, outline_item item) {
-  QImage picture;
-  if (c.kind == column_kind::string)
-    picture = picture_by<&string_outline_column_impl::picture>(c.column, item);
-  if (c.kind == column_kind::picture)
-    picture = picture_by<&bitmap_outline_column_impl::picture>(c.column, item);
-  if (c.kind == column_kind::choice) {
-    std::int32_t chosen = call<&enum_outline_column_impl::current>(c.column, item);
-    if (chosen >= 0)
-      picture = picture_by<&enum_outline_column_impl::choice_picture>(c.column, item,
-                                                                      std::uint32_t(chosen));
+  if (c.kind == column_kind::picture) {
+    const QImage image = picture_by<&bitmap_outline_column_impl::picture>(c.column, item).image;
+    return image.isNull() ? QVariant() : QVariant(image);
   }
-  return picture.isNull() ? QVariant() : QVariant(picture);
+  QIcon icon;
+  if (c.kind == column_kind::string)
+    icon = icon_by<&string_outline_column_impl::picture>(c.column, item);
+  if (c.kind == column_kind::choice) {
+    const std::int32_t chosen = call<&enum_outline_column_impl::current>(c.column, item);
+    if (chosen >= 0)
+      icon =
+          icon_by<&enum_outline_column_impl::choice_picture>(c.column, item, std::uint32_t(chosen));
+  }
+  return icon.isNull() ? QVariant() : QVariant(icon);
 }
 
 /// The value that an editor starts with.
@@ -97,15 +101,14 @@ Qt::CheckState check_state(const shown_column& c, outline_item item) {
 
 bool set_number(const shown_column& c, outline_item item, const QVariant& value) {
   if (c.kind == column_kind::integer) {
-    std::int32_t number = 0;
-    return read_number(value.toString(), number) &&
-           call<&integer_outline_column_impl::set_value>(c.column, item, number);
+    bool is_whole = false;
+    const int number = value.toString().trimmed().toInt(&is_whole);
+    return is_whole && call<&integer_outline_column_impl::set_value>(c.column, item, number);
   }
-  double number = 0;
-  return read_number(value.toString(), number) &&
-         number >= call<&floating_outline_column_impl::minimum>(c.column, item) &&
-         number <= call<&floating_outline_column_impl::maximum>(c.column, item) &&
-         call<&floating_outline_column_impl::set_value>(c.column, item, number);
+  const std::optional<double> number = number_of(value.toString());
+  return number && *number >= call<&floating_outline_column_impl::minimum>(c.column, item) &&
+         *number <= call<&floating_outline_column_impl::maximum>(c.column, item) &&
+         call<&floating_outline_column_impl::set_value>(c.column, item, *number);
 }
 
 }  // namespace

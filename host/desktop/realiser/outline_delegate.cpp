@@ -10,7 +10,6 @@
 #include <QSpinBox>
 #include <QToolTip>
 
-#include "host/desktop/realiser/outline_answers.h"
 #include "host/desktop/realiser/outline_editors.h"
 #include "host/desktop/realiser/realised.h"
 #include "zu/platform/zuk_drwc.h"

@@ -7,7 +7,9 @@
 #include <QSpinBox>
 #include <QTimer>
 
-#include "host/desktop/realiser/outline_answers.h"
+#include "host/desktop/realiser/answers.h"
+#include "host/desktop/realiser/number_text.h"
+#include "host/desktop/realiser/pictures.h"
 #include "host/desktop/realiser/realised.h"
 
 namespace zu::desktop {
@@ -28,8 +30,8 @@ class floating_editor final : public QAbstractSpinBox {
     selectAll();
   }
   void stepBy(int steps) override {
-    double value = 0;
-    if (read_number(number(), value)) show_number(number_text(value + steps * step_, 0));
+    if (const std::optional<double> value = number_of(number()))
+      show_number(number_text(*value + steps * step_));
   }
 
  protected:
@@ -44,10 +46,11 @@ QWidget* make_choice_editor(const shown_column& c, outline_item item, QWidget* p
   editor->setFrame(false);
   for (std::uint32_t i = 0, n = call<&enum_outline_column_impl::count>(c.column, item); i < n;
        ++i) {
-    QImage picture = picture_by<&enum_outline_column_impl::choice_picture>(c.column, item, i);
-    editor->addItem(QIcon(QPixmap::fromImage(picture)),
+    const picture shown = picture_by<&enum_outline_column_impl::choice_picture>(c.column, item, i);
+    editor->addItem(icon_of(shown),
                     text_by<&enum_outline_column_impl::choice_text>(c.column, item, i));
-    if (!picture.isNull()) editor->setIconSize(editor->iconSize().expandedTo(picture.size()));
+    if (!shown.image.isNull())
+      editor->setIconSize(editor->iconSize().expandedTo(shown.image.size()));
   }
   // Once it stands in its place.
   QTimer::singleShot(0, editor, [editor] { editor->showPopup(); });

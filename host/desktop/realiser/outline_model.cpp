@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <deque>
 
-#include "host/desktop/realiser/outline_answers.h"
+#include "host/desktop/realiser/answers.h"
 
 namespace zu::desktop {
 namespace {

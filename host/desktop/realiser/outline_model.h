@@ -50,7 +50,7 @@ class outline_model final : public QAbstractItemModel {
                     const QModelIndex& parent) override;
 
  Q_SIGNALS:
-  void input_happened();                ///< a person's value reached the outline
+  void input_happened();  ///< a person's value reached the outline
 
  private:
   struct node;  // an item whose items were asked for

@@ -1,12 +1,10 @@
 #pragma once
-// What lists and tables of elements answer, as Qt's values, and numbers as texts.
+// What lists and tables of elements answer to visitors, handed to functions.
 
-#include <QImage>
 #include <QString>
 #include <QStringList>
 
-#include "host/desktop/realiser/number_text.h"
-#include "zu/toolkit.h"
+#include "zu/strings.h"
 
 namespace zu::desktop {
 
@@ -24,16 +22,6 @@ template <class x, class given, class function> visit_with<x, given, function> v
   return visit_with<x, given, function>(std::move(f));
 }
 
-/// A picture's pixels, upright; null for a form that is not known.
-QImage pixels_of(bitmap picture);
-
-/// The picture that an operation of an element gives; null for none.
-template <auto operation, class... given> QImage picture_by(handle h, given... values) {
-  QImage found;
-  auto taking = visitor<bitmap_visitor_impl, bitmap>([&](bitmap b) { found = pixels_of(b); });
-  call<operation>(h, values..., taking.get());
-  return found;
-}
 /// All texts that an operation of an element gives, in their order.
 template <auto operation, class... given> QStringList texts_by(handle h, given... values) {
   QStringList found;
@@ -43,9 +31,5 @@ template <auto operation, class... given> QStringList texts_by(handle h, given..
   call<operation>(h, values..., taking.get());
   return found;
 }
-
-/// The number that a whole text says, a comma taken for a point; false if it says none.
-bool read_number(QString text, double& value);
-bool read_number(const QString& text, std::int32_t& value);
 
 }  // namespace zu::desktop

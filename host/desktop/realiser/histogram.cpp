@@ -66,6 +66,7 @@ class histogram_widget final : public realised<histogram_impl, QWidget> {
       if (!bars_.empty()) draw_limits(painter, area);
     }
     painter.setPen(palette().color(QPalette::Mid));
+    painter.setBrush(Qt::NoBrush);
     painter.drawRect(area.adjusted(0, 0, -1, -1));
     if (!hasFocus()) return;
     QStyleOptionFocusRect frame;

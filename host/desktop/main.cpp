@@ -16,6 +16,7 @@
 #include "host/desktop/dialogs/progress_window.h"
 #include "host/desktop/dialogs/settings_dialog.h"
 #include "host/desktop/gallery.h"
+#include "host/desktop/map/viewer_builders.h"
 #include "host/desktop/realiser/modal_runner.h"
 #include "host/desktop/window/main_window.h"
 #include "host/desktop/words.h"
@@ -142,6 +143,7 @@ int run(const request& wanted) {
   progress_window progress;
   dialog_windows dialogs;
   zu::host::bundle services({"zuk_common.so"});
+  serve_viewers(&services);
   services.set_dialog_runners([&](const std::wstring& id) { return dialogs.of(id); });
   if (wanted.gallery) {
     show_gallery(services, wanted.screenshot);

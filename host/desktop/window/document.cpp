@@ -106,6 +106,8 @@ QStringList document::add_sources(const QStringList& sources) {
         for (host::layer* each : made)
           if (host::why_not({}, *each).empty()) host::apply_look({}, *each);
         if (!made.empty()) added = made.back();
+      } catch (const host::declined&) {
+        continue;
       } catch (const host::failure& problem) {
         failures += QString::fromUtf8(problem.what());
       }

@@ -58,6 +58,41 @@ TEST_F(map_test, hidden_layers_are_not_drawn) {
   EXPECT_EQ(seen(map_->picture(), 150, 150), QColor(Qt::white));
 }
 
+TEST_F(map_test, is_drawn_when_its_scene_tells_of_a_change) {
+  map_->zoom_to(grid_box);
+  ASSERT_TRUE(show());
+  Tzu_table_data* table = zu_lr_get_data_ptr(layer_->entity());
+  ASSERT_NE(table, nullptr);
+  QImage before = seen();
+  zu_table_data_begin_update(table);
+  zu_table_data_set_selected_id(table, 5, true);  // the second cell of the middle row
+  EXPECT_TRUE(map_->is_up_to_date());
+  zu_table_data_end_update(table);
+  EXPECT_FALSE(map_->is_up_to_date());
+  ASSERT_TRUE(wait_until_drawn());
+  QImage after = seen();
+  EXPECT_NE(seen(after, 150, 150), seen(before, 150, 150));
+  EXPECT_EQ(seen(after, 250, 150), seen(before, 250, 150));
+
+  layer_->set_visible(false);
+  ASSERT_TRUE(wait_until_drawn());
+  EXPECT_EQ(seen(seen(), 250, 150), QColor(Qt::white));
+  zu_lr2d_data_changed(layer_->entity());
+  EXPECT_FALSE(map_->is_up_to_date());
+  ASSERT_TRUE(wait_until_drawn());
+  // A layer that came later is heard as well.
+  host::layer& second = scene_.add(grid("second.asc").toStdString());
+  EXPECT_FALSE(map_->is_up_to_date());
+  ASSERT_TRUE(wait_until_drawn());
+  zu_lr2d_data_changed(second.entity());
+  EXPECT_FALSE(map_->is_up_to_date());
+  ASSERT_TRUE(wait_until_drawn());
+  scene_.remove(second);
+  ASSERT_TRUE(wait_until_drawn());
+  map_.reset();
+  zu_lr2d_data_changed(layer_->entity());  // nobody hears it
+}
+
 TEST_F(map_test, a_drag_moves_the_picture_at_once_and_draws_once_on_release) {
   map_->zoom_to(grid_box);
   ASSERT_TRUE(show());

@@ -186,6 +186,17 @@ TEST_F(map_test, the_wheel_keeps_the_point_under_the_pointer) {
   }
 }
 
+TEST_F(map_test, the_wheel_rests_while_the_map_is_dragged) {
+  map_->zoom_to(grid_box);
+  ASSERT_TRUE(show());
+  drag(Qt::LeftButton, {200, 150}, {210, 150});
+  wheel(2, {200, 150});
+  expect_box(map_->box(), grid_box);
+  QTest::mouseRelease(map_.get(), Qt::LeftButton, {}, {210, 150});
+  wheel(2, {0, 299});
+  EXPECT_NEAR(map_->box()->x1 - map_->box()->x0, 200, 1e-6);
+}
+
 TEST_F(map_test, a_picture_stands_where_its_own_box_lies_until_the_next_one_is_there) {
   map_->zoom_to(grid_box);
   ASSERT_TRUE(show());

@@ -20,6 +20,18 @@ constexpr int sampled_rows = 100;
 /// What a column gets by its contents alone, in characters.
 constexpr int widest_fitted = 40;
 
+/// Unlike its base it makes no item current that nobody has chosen.
+class tree_view final : public QTreeView {
+ public:
+  using QTreeView::QTreeView;
+
+ protected:
+  void focusInEvent(QFocusEvent* event) override {
+    QAbstractScrollArea::focusInEvent(event);
+    viewport()->update();
+  }
+};
+
 QString width_name(const shown_column& c) { return QStringLiteral("column/") + c.id; }
 
 }  // namespace
@@ -60,7 +72,7 @@ void outline_widget::make_view() {
     view_ = flat_ = new flat_view(this);
     return;
   }
-  view_ = tree_ = new QTreeView(this);
+  view_ = tree_ = new tree_view(this);
   tree_->setUniformRowHeights(true);
   tree_->setAllColumnsShowFocus(false);
   tree_->setSelectionBehavior(QAbstractItemView::SelectRows);

@@ -13,6 +13,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
@@ -77,6 +78,18 @@ QSpinBox* side_box(const char* name, std::uint64_t pixels, QWidget* parent) {
 Tzu_color color_of(const QColor& color) {
   return {static_cast<std::uint8_t>(color.red()), static_cast<std::uint8_t>(color.green()),
           static_cast<std::uint8_t>(color.blue()), static_cast<std::uint8_t>(255 - color.alpha())};
+}
+
+/// A framed field of a colour.
+QPixmap swatch_of(const QColor& color, const QWidget& on) {
+  double ratio = on.devicePixelRatioF();
+  QPixmap swatch(QSize(32, 14) * ratio);
+  swatch.setDevicePixelRatio(ratio);
+  swatch.fill(color);
+  QPainter painter(&swatch);
+  painter.setPen(on.palette().color(QPalette::Mid));
+  painter.drawRect(QRectF(0.5, 0.5, 31, 13));
+  return swatch;
 }
 
 QHBoxLayout* row_of(std::initializer_list<QWidget*> widgets, bool stretch = true) {
@@ -164,15 +177,19 @@ void export_dialog::add_rows() {
   problem_->setWordWrap(true);
   problem_->setTextFormat(Qt::PlainText);
   auto* rows = new QFormLayout;
-  auto* file = row_of({path_, browse_}, false);
-  rows->addRow(words("&File:", "&Файл:"), file);
-  rows->addRow(words("F&ormat:", "Фор&мат:"), row_of({format_, accurate_}));
+  auto add = [&](const QString& text, QWidget* first, QHBoxLayout* row) {
+    auto* label = new QLabel(text, this);
+    label->setBuddy(first);
+    rows->addRow(label, row);
+  };
   auto* cross = new QLabel(QStringLiteral("\u00d7"), this);
-  rows->addRow(words("Si&ze:", "&Размер:"), row_of({width_, cross, height_, keep_shape_}));
-  rows->addRow(words("&Resolution:", "Раз&решение:"), row_of({dots_, paper_}));
-  rows->addRow(words("Extent:", "Охват:"), row_of({as_seen_, all_layers_}));
-  rows->addRow(words("&Legend:", "&Легенда:"), row_of({legend_}));
-  rows->addRow(words("Background:", "Фон:"), row_of({transparent_, color_button_}));
+  add(words("&File:", "&Файл:"), path_, row_of({path_, browse_}, false));
+  add(words("F&ormat:", "Фор&мат:"), format_, row_of({format_, accurate_}));
+  add(words("Si&ze:", "&Размер:"), width_, row_of({width_, cross, height_, keep_shape_}));
+  add(words("&Resolution:", "Раз&решение:"), dots_, row_of({dots_, paper_}));
+  add(words("Extent:", "Охват:"), as_seen_, row_of({as_seen_, all_layers_}));
+  add(words("&Legend:", "&Легенда:"), legend_, row_of({legend_}));
+  add(words("Background:", "Фон:"), transparent_, row_of({transparent_, color_button_}));
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
   ok_ = buttons->button(QDialogButtonBox::Ok);
   ok_->setText(words("&Export", "&Экспортировать"));
@@ -243,10 +260,9 @@ void export_dialog::show_state() {
   bool is_document = format_->currentIndex() >= 2;
   accurate_->setEnabled(!is_document);
   color_button_->setEnabled(!transparent_->isChecked());
-  QPixmap swatch(32, 14);
-  swatch.fill(transparent_->isChecked() ? Qt::transparent : color_);
+  QPixmap swatch = swatch_of(transparent_->isChecked() ? QColor(Qt::transparent) : color_, *this);
   color_button_->setIcon(swatch);
-  color_button_->setIconSize(swatch.size());
+  color_button_->setIconSize(swatch.deviceIndependentSize().toSize());
   color_button_->setText(words("&Colour…", "&Цвет…"));
   auto millimetres = [&](int pixels) {
     return QString::number(pixels / dots_->value() * 25.4, 'f', 0);

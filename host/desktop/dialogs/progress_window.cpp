@@ -46,7 +46,10 @@ progress_window::progress_window(int delay_milliseconds) : delay_(delay_millisec
   zu_progress_set_hooks(&hooks);
 }
 
-progress_window::~progress_window() { zu_progress_set_hooks(nullptr); }
+progress_window::~progress_window() {
+  zu_progress_set_hooks(nullptr);
+  delete dialog_;
+}
 
 progress_window::work* progress_window::begin(bool can_stop) {
   if (works_.empty()) {
@@ -60,7 +63,7 @@ progress_window::work* progress_window::begin(bool can_stop) {
 
 void progress_window::end(work* ended) {
   std::erase_if(works_, [&](const auto& each) { return each.get() == ended; });
-  if (works_.empty()) dialog_.reset();
+  if (works_.empty()) delete dialog_;
 }
 
 void progress_window::breathe() {
@@ -81,21 +84,21 @@ void progress_window::breathe() {
 }
 
 void progress_window::open() {
-  dialog_ = std::make_unique<QDialog>(QApplication::activeWindow());
+  dialog_ = new QDialog(QApplication::activeWindow());
   dialog_->setObjectName(QStringLiteral("progress"));
   dialog_->setWindowTitle(words("Working", "Выполняется"));
   dialog_->setWindowModality(Qt::ApplicationModal);
   dialog_->setWindowFlag(Qt::WindowContextHelpButtonHint, false);
-  caption_ = new QLabel(dialog_.get());
+  caption_ = new QLabel(dialog_);
   caption_->setObjectName(QStringLiteral("progress_caption"));
   caption_->setTextFormat(Qt::PlainText);
   caption_->setWordWrap(true);
-  bar_ = new QProgressBar(dialog_.get());
+  bar_ = new QProgressBar(dialog_);
   bar_->setMinimumWidth(360);
-  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, dialog_.get());
+  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, dialog_);
   cancel_ = buttons->button(QDialogButtonBox::Cancel);
   cancel_->setObjectName(QStringLiteral("progress_cancel"));
-  auto* layout = new QVBoxLayout(dialog_.get());
+  auto* layout = new QVBoxLayout(dialog_);
   layout->addWidget(caption_);
   layout->addWidget(bar_);
   layout->addWidget(buttons);
@@ -128,7 +131,7 @@ void progress_window::stop() {
 }
 
 bool progress_window::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == dialog_.get()) {
+  if (watched == dialog_) {
     bool escape = event->type() == QEvent::KeyPress &&
                   static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
     if (event->type() != QEvent::Close && !escape) return false;
@@ -139,7 +142,7 @@ bool progress_window::eventFilter(QObject* watched, QEvent* event) {
   // A timer whose event is withheld stays started and comes again.
   if (!breathing_ || event->type() != QEvent::Timer) return false;
   for (QObject* each = watched; each != nullptr; each = each->parent())
-    if (each == dialog_.get()) return false;
+    if (each == dialog_) return false;
   return !watched->inherits("QAnimationDriver") && !watched->inherits("QUnifiedTimer");
 }
 

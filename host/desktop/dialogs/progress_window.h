@@ -48,7 +48,7 @@ class progress_window final : public QObject {
   int delay_;
   QElapsedTimer since_begin_, since_breath_;
   std::vector<std::unique_ptr<work>> works_;
-  std::unique_ptr<QDialog> dialog_;
+  QPointer<QDialog> dialog_;  // may go with the window under it
   QLabel* caption_ = nullptr;
   QProgressBar* bar_ = nullptr;
   QPushButton* cancel_ = nullptr;

@@ -26,6 +26,13 @@ QStringList kept_list(const char* name) {
   return kept_text(name).split(separator, Qt::SkipEmptyParts);
 }
 
+void keep_list(const char* name, const QStringList& texts) {
+  QStringList kept;
+  for (const QString& text : texts)
+    if (!text.contains(separator)) kept += text;
+  keep_text(name, kept.join(separator));
+}
+
 void keep_used(const char* name, const QString& text, int most) {
   if (text.isEmpty() || text.contains(separator)) return;
   QStringList all = kept_list(name);

@@ -68,15 +68,17 @@ TEST_F(map_test, a_drag_moves_the_picture_at_once_and_draws_once_on_release) {
   QImage during = seen();
   EXPECT_EQ(drawn.count(), 0);
   expect_box(map_->box(), grid_box);
-  EXPECT_EQ(during.copy(30, 0, 370, 290), before.copy(0, 10, 370, 290));
-  EXPECT_EQ(during.pixelColor(10, 100), QColor(Qt::white));
+  int n = static_cast<int>(map_->devicePixelRatioF());
+  QRect from(0, 10 * n, 370 * n, 290 * n), to(30 * n, 0, 370 * n, 290 * n);
+  EXPECT_EQ(during.copy(to), before.copy(from));
+  EXPECT_EQ(during.pixelColor(10 * n, 100 * n), QColor(Qt::white));
 
   QTest::mouseRelease(map_.get(), Qt::LeftButton, {}, {230, 140});
   expect_box(map_->box(), {-30, -10, 370, 290});
   EXPECT_EQ(seen(), during) << "until the new picture is there the old one stands where it lies";
   ASSERT_TRUE(wait_until_drawn());
   EXPECT_EQ(drawn.count(), 1);
-  EXPECT_EQ(seen().copy(30, 0, 370, 290), before.copy(0, 10, 370, 290));
+  EXPECT_EQ(seen().copy(to), before.copy(from));
 }
 
 TEST_F(map_test, the_middle_button_and_space_move_the_map_in_any_mode) {
@@ -137,13 +139,14 @@ TEST_F(map_test, escape_ends_a_drag_without_a_move) {
 TEST_F(map_test, the_wheel_keeps_the_point_under_the_pointer) {
   map_->zoom_to(grid_box);
   ASSERT_TRUE(show());
+  double px = 90 * map_->devicePixelRatioF(), py = 40 * map_->devicePixelRatioF();
   for (int notches : {1, 2, -4}) {
-    point_2d before{zu_viewer2d_px2cr_x(map_->viewer(), 90),
-                    zu_viewer2d_px2cr_y(map_->viewer(), 40)};
+    point_2d before{zu_viewer2d_px2cr_x(map_->viewer(), px),
+                    zu_viewer2d_px2cr_y(map_->viewer(), py)};
     double width = map_->box()->x1 - map_->box()->x0;
     wheel(notches, {90, 40});
-    EXPECT_NEAR(zu_viewer2d_px2cr_x(map_->viewer(), 90), before.x, 1e-6);
-    EXPECT_NEAR(zu_viewer2d_px2cr_y(map_->viewer(), 40), before.y, 1e-6);
+    EXPECT_NEAR(zu_viewer2d_px2cr_x(map_->viewer(), px), before.x, 1e-6);
+    EXPECT_NEAR(zu_viewer2d_px2cr_y(map_->viewer(), py), before.y, 1e-6);
     EXPECT_NEAR(map_->box()->x1 - map_->box()->x0, width * std::pow(2, -0.5 * notches), 1e-6);
   }
 }

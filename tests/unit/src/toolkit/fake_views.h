@@ -8,7 +8,9 @@
 #include "src/toolkit/element.h"
 #include "zu/platform/zuk_os.h"
 
-namespace zu::tests {
+namespace tests {
+
+using namespace zu;
 
 /// Calls of a view, by slot.
 struct told {
@@ -87,4 +89,4 @@ class base_language {
   std::int32_t former_ = zu_res_get_lng();
 };
 
-}  // namespace zu::tests
+}  // namespace tests

@@ -25,6 +25,9 @@ void paint_panel(QPainter* painter, const QStyleOptionViewItem& option) {
   style_of(option)->drawPrimitive(QStyle::PE_PanelItemViewItem, &option, painter, option.widget);
 }
 
+/// Texts keep off the cells beside them.
+QRect inside_of(const QStyleOptionViewItem& option) { return option.rect.adjusted(3, 0, -3, 0); }
+
 QRect button_rect(const QStyleOptionViewItem& option) {
   QRect rect = option.rect;
   rect.setLeft(rect.right() - std::min(rect.height() + 4, rect.width()) + 1);
@@ -92,14 +95,16 @@ void outline_delegate::paint(QPainter* painter, const QStyleOptionViewItem& give
   if (kind == column_kind::boolean) return paint_mark(painter, option, index);
   if (kind == column_kind::picture) return paint_picture(painter, option, index);
   if (kind == column_kind::canvas) return paint_canvas(painter, option, index);
-  if (!has_button(index)) return QStyledItemDelegate::paint(painter, option, index);
-  const QRect button = button_rect(option);
+  const bool with_button = has_button(index);
   initStyleOption(&option, index);
   paint_panel(painter, option);
-  option.rect.setRight(button.left() - 1);
-  QStyledItemDelegate::paint(painter, option, index);
+  option.backgroundBrush = {};
+  option.rect = inside_of(given);
+  if (with_button) option.rect.setRight(button_rect(given).left() - 1);
+  style_of(option)->drawControl(QStyle::CE_ItemViewItem, &option, painter, option.widget);
+  if (!with_button) return;
   QStyleOptionButton press;
-  press.rect = button;
+  press.rect = button_rect(given);
   press.text = QString(QChar(0x2026));
   press.state = option.state & (QStyle::State_Enabled | QStyle::State_Active);
   press.state |= pressed_ == index ? QStyle::State_Sunken : QStyle::State_Raised;
@@ -167,7 +172,8 @@ void outline_delegate::paint_canvas(QPainter* painter, const QStyleOptionViewIte
 
 QSize outline_delegate::sizeHint(const QStyleOptionViewItem& option,
                                  const QModelIndex& index) const {
-  QSize size = QStyledItemDelegate::sizeHint(option, index);
+  QSize size = QStyledItemDelegate::sizeHint(option, index) + QSize(6, 0);
+  size.setHeight(std::max(size.height(), option.fontMetrics.height() + 6));
   const shown_column& c = column_of(index);
   if (c.kind == column_kind::picture) {
     QSize picture = index.data(Qt::DecorationRole).value<QImage>().size();
@@ -237,8 +243,11 @@ bool outline_delegate::editorEvent(QEvent* event, QAbstractItemModel* model,
   auto* mouse = static_cast<QMouseEvent*>(event);
   const QPoint at = mouse->position().toPoint();
   const bool on_button = has_button(index) && button_rect(option).contains(at);
-  if (mouse->button() != Qt::LeftButton || (!is_mark && !on_button))
-    return QStyledItemDelegate::editorEvent(event, model, option, index);
+  if (mouse->button() != Qt::LeftButton || (!is_mark && !on_button)) {
+    QStyleOptionViewItem inside = option;
+    inside.rect = inside_of(option);
+    return QStyledItemDelegate::editorEvent(event, model, inside, index);
+  }
   // What is said to be taken here leaves the choice of rows as it is: a mark may hold for all of
   // them.
   if (is_press) {

@@ -71,7 +71,8 @@ main_window::main_window(const host::bundle& services, prompts asked)
   setStatusBar(status_);
   make_docks();
   make_menus();
-  for (const auto& service : services.tools()) tools_.add_sets_of_service(service.service.get());
+  for (const auto& [name_space, service] : services.tools())
+    if (name_space.ends_with(L"/tool")) tools_.add_sets_of_service(service.get());
   make_tool_bars();
   connect_files();
   connect_map();

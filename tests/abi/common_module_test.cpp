@@ -12,7 +12,7 @@ namespace {
 
 std::string common_path() { return build_folder() + "/lib/zuk_common.so"; }
 
-TEST(common_module, exports_what_the_bundle_does) {
+TEST(common_module_file, exports_what_the_bundle_does) {
   std::set<std::string> names;
   auto last_word = [](const std::string& line) { return line.substr(line.rfind(' ') + 1); };
   for (const std::string& line : lines_of("nm -D --defined-only '" + common_path() + "'"))

@@ -4,14 +4,17 @@
 #include <QCommandLineParser>
 #include <QIcon>
 #include <cstdio>
+#include <optional>
 
 #include "host/core/bundle.h"
 #include "host/core/failure.h"
-#include "host/core/settings.h"
 #include "host/desktop/appearance.h"
+#include "host/desktop/dialogs/clipboard_bridge.h"
+#include "host/desktop/dialogs/message_windows.h"
+#include "host/desktop/dialogs/progress_window.h"
+#include "host/desktop/dialogs/settings_dialog.h"
 #include "host/desktop/window/main_window.h"
 #include "host/desktop/words.h"
-#include "zu/platform/zuk_os.h"
 
 namespace {
 
@@ -22,7 +25,7 @@ struct request {
   QStringList files;
   QString screenshot;
   QSize size{1280, 800};
-  appearance look = appearance::system;
+  std::optional<appearance> look;
   std::optional<language> speech;
 };
 
@@ -76,7 +79,9 @@ request read_arguments(const QApplication& application) {
       wanted.look = appearance::light;
     else if (name == QLatin1String("dark"))
       wanted.look = appearance::dark;
-    else if (name != QLatin1String("system"))
+    else if (name == QLatin1String("system"))
+      wanted.look = appearance::system;
+    else
       refuse(QStringLiteral("--appearance takes system, light or dark"));
   }
   if (parser.isSet(speech)) {
@@ -97,13 +102,6 @@ void do_without_screen(int argc, char** argv) {
     if (QByteArray(argv[i]).startsWith("--screenshot")) qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
-/// The language of this run: what was asked for, else what the settings or the system say.
-language language_of(const request& wanted) {
-  if (wanted.speech) return *wanted.speech;
-  zu::host::choose_language({});
-  return zu_res_get_lng() == 0 ? language::russian : language::english;
-}
-
 constexpr int drawing_patience = 60000;  // milliseconds
 
 int take_picture(main_window& window, const QString& path) {
@@ -116,7 +114,16 @@ int take_picture(main_window& window, const QString& path) {
   return 1;
 }
 
+/// What the platform says and asks, and the clipboard that it shares with a person.
+struct conversation {
+  message_windows messages;
+  progress_window progress;
+  clipboard_bridge clipboard;
+};
+
 int run(const request& wanted) {
+  std::optional<conversation> person;  // nobody is there to answer while a picture is made
+  if (wanted.screenshot.isEmpty()) person.emplace();
   zu::host::bundle services({"zuk_common.so"});
   main_window window(services);
   window.resize(wanted.size);
@@ -135,8 +142,7 @@ int main(int argc, char** argv) {
   QApplication::setApplicationVersion(QStringLiteral(ZU_VERSION));
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/zugrid.svg")));
   request wanted = read_arguments(application);
-  choose_appearance(wanted.look);
-  choose_language(language_of(wanted));
+  apply_chosen(wanted.speech, wanted.look);
   try {
     return run(wanted);
   } catch (const zu::host::failure& problem) {

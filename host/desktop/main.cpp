@@ -4,21 +4,28 @@
 #include <QCommandLineParser>
 #include <QIcon>
 #include <cstdio>
+#include <map>
+#include <memory>
 #include <optional>
 
 #include "host/core/bundle.h"
 #include "host/core/failure.h"
+#include "host/core/settings.h"
 #include "host/desktop/appearance.h"
 #include "host/desktop/dialogs/clipboard_bridge.h"
 #include "host/desktop/dialogs/message_windows.h"
 #include "host/desktop/dialogs/progress_window.h"
 #include "host/desktop/dialogs/settings_dialog.h"
+#include "host/desktop/gallery.h"
+#include "host/desktop/map/viewer_builders.h"
+#include "host/desktop/realiser/modal_runner.h"
 #include "host/desktop/window/main_window.h"
 #include "host/desktop/words.h"
 
 namespace {
 
 using namespace zu::desktop;
+using zu::modal_dialog_runner;
 
 /// What a person asked for on the command line.
 struct request {
@@ -27,6 +34,7 @@ struct request {
   QSize size{1280, 800};
   std::optional<appearance> look;
   std::optional<language> speech;
+  bool gallery = false;
 };
 
 [[noreturn]] void refuse(const QString& reason) {
@@ -59,7 +67,9 @@ request read_arguments(const QApplication& application) {
                           QStringLiteral("LOOK"));
   QCommandLineOption speech(QStringLiteral("lang"), QStringLiteral("ru or en."),
                             QStringLiteral("LANG"));
-  parser.addOptions({screenshot, size, look, speech});
+  QCommandLineOption gallery(QStringLiteral("gallery"),
+                             QStringLiteral("Show every kind of control in every state."));
+  parser.addOptions({screenshot, size, look, speech, gallery});
   parser.addPositionalArgument(QStringLiteral("FILE"),
                                QStringLiteral("Grids, pictures, sections, a project (.zgp)."),
                                QStringLiteral("[FILE…]"));
@@ -68,6 +78,7 @@ request read_arguments(const QApplication& application) {
   request wanted;
   wanted.files = parser.positionalArguments();
   wanted.screenshot = parser.value(screenshot);
+  wanted.gallery = parser.isSet(gallery);
   if (parser.isSet(size)) {
     auto given = size_of(parser.value(size));
     if (!given) refuse(QStringLiteral("--size takes WxH in pixels, 200x150 to 10000x10000"));
@@ -114,17 +125,38 @@ int take_picture(main_window& window, const QString& path) {
   return 1;
 }
 
-/// What the platform says and asks, and the clipboard that it shares with a person.
+/// The windows in which the bundles' dialogs run, by their ids.
+class dialog_windows {
+ public:
+  modal_dialog_runner of(const std::wstring& id) {
+    auto& runner = runners_[id];
+    if (!runner) runner = std::make_unique<modal_runner>(QString::fromStdWString(id));
+    return runner->runner();
+  }
+
+ private:
+  std::map<std::wstring, std::unique_ptr<modal_runner>> runners_;
+};
+
+/// What the platform and the bundles say and ask, and the clipboard that they share with a person.
 struct conversation {
+  clipboard_bridge clipboard;
   message_windows messages;
   progress_window progress;
-  clipboard_bridge clipboard;
+  dialog_windows dialogs;
 };
 
 int run(const request& wanted) {
   std::optional<conversation> person;  // nobody is there to answer while a picture is made
-  if (wanted.screenshot.isEmpty()) person.emplace();
+  if (wanted.screenshot.isEmpty() || wanted.gallery) person.emplace();
   zu::host::bundle services({"zuk_common.so"});
+  serve_viewers(&services);
+  if (person)
+    services.set_dialog_runners([&](const std::wstring& id) { return person->dialogs.of(id); });
+  if (wanted.gallery) {
+    show_gallery(services, wanted.screenshot);
+    return 0;
+  }
   main_window window(services);
   window.resize(wanted.size);
   window.show();

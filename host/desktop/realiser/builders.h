@@ -20,6 +20,7 @@ std::span<const builder> canvas_builders();
 std::span<const builder> histogram_builders();
 std::span<const builder> toolbar_builders();
 std::span<const builder> outline_builders();
+std::span<const builder> viewer_builders();
 
 /// The row of an interface whose control is made from the handle and the parent.
 template <class element, class control> constexpr builder builder_of() {

@@ -27,10 +27,11 @@ choice_store& store() {
 const std::vector<builder>& table() {
   static const std::vector<builder> all = [] {
     std::vector<builder> joined;
-    for (auto part : {layout_builders(), docker_builders(), button_builders(),
-                      button_box_builders(), text_builders(), line_builders(), multiline_builders(),
-                      number_builders(), dropdown_builders(), canvas_builders(),
-                      histogram_builders(), toolbar_builders(), outline_builders()})
+    for (auto part :
+         {layout_builders(), docker_builders(), button_builders(), button_box_builders(),
+          text_builders(), line_builders(), multiline_builders(), number_builders(),
+          dropdown_builders(), canvas_builders(), histogram_builders(), toolbar_builders(),
+          outline_builders(), viewer_builders()})
       joined.insert(joined.end(), part.begin(), part.end());
     return joined;
   }();

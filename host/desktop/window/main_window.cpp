@@ -1,7 +1,6 @@
 #include "host/desktop/window/main_window.h"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QElapsedTimer>
@@ -12,10 +11,10 @@
 #include <QTimer>
 #include <QUrl>
 
-#include "host/core/command_line.h"
 #include "host/core/failure.h"
 #include "host/core/projections.h"
 #include "host/desktop/dialogs/about_dialog.h"
+#include "host/desktop/dialogs/settings_dialog.h"
 #include "host/desktop/dialogs/settings_file.h"
 #include "host/desktop/dialogs/shortcuts_dialog.h"
 #include "host/desktop/realiser/realiser.h"
@@ -36,8 +35,7 @@ constexpr char geometry_name[] = "window_geometry", layout_name[] = "window_layo
 /// Docks and bars of another number are not those that a layout was kept of.
 constexpr int layout_version = 1;
 constexpr QSize first_size(1280, 800);
-// Milliseconds: what is said in passing; a picture that takes longer is said to be drawn.
-constexpr int message_time = 4000, patience = 300;
+constexpr int patience = 300;  // milliseconds: a picture that takes longer is said to be drawn
 
 /// Names of choices hold what a name in the settings may not.
 const char* setting_of(const QString& choice) {
@@ -73,14 +71,15 @@ main_window::main_window(const host::bundle& services, prompts asked)
   setStatusBar(status_);
   make_docks();
   make_menus();
-  for (const auto& service : services.tools()) tools_.add_sets_of_service(service.service.get());
+  for (const auto& [name_space, service] : services.tools())
+    if (name_space.ends_with(L"/tool")) tools_.add_sets_of_service(service.get());
   make_tool_bars();
   connect_files();
   connect_map();
   connect_layers();
   connect_scenes();
   connect_language();
-  connect_help();
+  connect_dialogs();
   connect_bundles();
   connect(&document_, &document::history_changed, this, &main_window::show_state);
   connect(&document_, &document::layers_changed, this, &main_window::show_state);
@@ -143,8 +142,8 @@ void main_window::connect_map() {
   connect(actions_->zoom_back, &QAction::triggered, this, [map] { map().go_back(); });
   connect(actions_->zoom_forward, &QAction::triggered, this, [map] { map().go_forward(); });
   connect(actions_->redraw, &QAction::triggered, this, [map] { map().redraw(); });
-  connect(actions_->copy_picture, &QAction::triggered, this,
-          [map] { QApplication::clipboard()->setImage(map().picture()); });
+  connect(actions_->file_export, &QAction::triggered, this, &main_window::export_picture);
+  connect(actions_->copy_picture, &QAction::triggered, this, &main_window::copy_picture);
   connect(actions_->copy_command, &QAction::triggered, this, &main_window::copy_command);
   connect(actions_->full_screen, &QAction::toggled, this,
           [this](bool full) { setWindowState(windowState().setFlag(Qt::WindowFullScreen, full)); });
@@ -255,7 +254,9 @@ void main_window::connect_bundles() {
   fill_modes();
 }
 
-void main_window::connect_help() {
+void main_window::connect_dialogs() {
+  connect(actions_->edit_settings, &QAction::triggered, this,
+          [this] { settings_dialog::ask(this); });
   connect(actions_->help_shortcuts, &QAction::triggered, this,
           [this] { shortcuts_dialog::ask(this, actions_->findChildren<QAction*>()); });
   connect(actions_->help_about, &QAction::triggered, this, [this] { about_dialog::ask(this); });
@@ -311,28 +312,6 @@ void main_window::show_info(double x, double y) {
   info_->show_point(x, y);
   info_dock_->show();
   info_dock_->raise();
-}
-
-/// Puts the line on the clipboard that draws what the map shows.
-void main_window::copy_command() {
-  map_view& map = views_->current();
-  host::page_request request;
-  QSize pixels = map.size() * map.devicePixelRatioF();
-  request.picture.nx = std::uint64_t(pixels.width());
-  request.picture.ny = std::uint64_t(pixels.height());
-  request.picture.extent = map.box();
-  bool is_saved = !document_.is_changed();
-  attempt([&] {
-    host::command_line made =
-        host::command_of(document_.content(), document_.scene(), request,
-                         is_saved ? document_.path().toStdString() : std::string());
-    QApplication::clipboard()->setText(QString::fromStdString(made.text()));
-    QStringList lacks;
-    for (const std::string& each : made.lacks) lacks += QString::fromStdString(each);
-    views_->messages().tell(lacks);
-    status_->showMessage(words("The command is on the clipboard.", "Команда в буфере обмена."),
-                         message_time);
-  });
 }
 
 void main_window::ask_projection() {

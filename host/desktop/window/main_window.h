@@ -55,12 +55,11 @@ class main_window final : public QMainWindow {
   void connect_layers();
   void connect_scenes();
   void connect_language();
-  void connect_help();
+  void connect_dialogs();
   void retranslate();
   void show_state();
   void show_view();
   void show_info(double x, double y);
-  void copy_command();
   void ask_projection();
   QDockWidget* add_dock(const char* name, Qt::DockWidgetArea area, QWidget* content);
   void restore_layout();
@@ -80,6 +79,14 @@ class main_window final : public QMainWindow {
   /// Runs what may throw, and says above the map why it did not work. Gives whether it did.
   bool attempt(const std::function<void()>& work);
   QString project_name() const;
+
+  // window_pictures.cpp
+  /// What the map shows, as a page.
+  host::page_request seen_page();
+  void export_picture();
+  void copy_picture();
+  void copy_command();
+  void say_in_passing(const QString& text);
 
   // window_menus.cpp
   void make_menus();

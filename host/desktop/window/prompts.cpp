@@ -65,7 +65,9 @@ QString ask_name(QWidget* parent, const QString& question, const QString& now) {
 }  // namespace
 
 prompts prompts_of_dialogs() {
-  return {ask_files, ask_project, ask_unsaved, ask_source, ask_name, projection_chooser::ask};
+  return {ask_files,         ask_project, ask_unsaved,
+          ask_source,        ask_name,    projection_chooser::ask,
+          export_dialog::ask};
 }
 
 }  // namespace zu::desktop

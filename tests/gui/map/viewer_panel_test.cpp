@@ -2,6 +2,8 @@
 
 #include <QLabel>
 
+#include "host/desktop/map/viewer_builders.h"
+#include "host/desktop/realiser/realiser.h"
 #include "tests/gui/map/map_fixture.h"
 
 namespace zu::desktop {
@@ -50,6 +52,21 @@ TEST_F(map_test, an_embedded_one_gets_its_viewer_when_shown_and_loses_it_before_
     EXPECT_EQ(panel.activations, 1);
   }
   EXPECT_EQ(panel.attached, (std::vector<bool>{true, false}));
+}
+
+TEST_F(map_test, an_embedded_one_is_built_of_its_element) {
+  noting_panel panel;
+  panel.scene = scene_.get();
+  serve_viewers(&services_);
+  QWidget parent;
+  auto* widget = qobject_cast<viewer_panel*>(realise(panel.get(), &parent));
+  ASSERT_NE(widget, nullptr);
+  parent.resize(300, 200);
+  widget->resize(200, 150);
+  parent.show();
+  QImage picture = widget->map().picture();
+  EXPECT_NE(picture.pixelColor(picture.rect().center()), QColor(Qt::white));
+  serve_viewers(nullptr);
 }
 
 TEST_F(map_test, an_embedded_one_that_was_never_shown_gets_no_viewer) {

@@ -304,4 +304,27 @@ TEST_F(main_window_test, the_information_tool_says_what_lies_under_a_click) {
       << QApplication::clipboard()->text().toStdString();
 }
 
+TEST_F(main_window_test, writes_the_picture_that_is_seen) {
+  window_->open_paths({grid("a.asc")});
+  ASSERT_TRUE(window_->wait_until_drawn(20000));
+  answers_.picture = path("a.png");
+  actions().file_export->trigger();
+  QImage written(path("a.png"));
+  QImage seen = window_->views().current().picture().convertToFormat(written.format());
+  ASSERT_EQ(written.size(), seen.size());
+  EXPECT_EQ(written, seen);
+  actions().copy_picture->trigger();
+  EXPECT_EQ(QApplication::clipboard()->image().convertToFormat(written.format()), written);
+  EXPECT_TRUE(messages().isEmpty());
+}
+
+TEST_F(main_window_test, no_picture_is_written_over_a_source) {
+  window_->open_paths({grid("a.asc")});
+  ASSERT_TRUE(QFile::copy(path("a.asc"), path("b.tif")));
+  window_->open_paths({path("b.tif")});
+  answers_.picture = path("b.tif");
+  actions().file_export->trigger();
+  EXPECT_EQ(messages().size(), 1);
+}
+
 }  // namespace zu::desktop

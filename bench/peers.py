@@ -4,7 +4,7 @@
   peers.py PEER FILE KIND X0,Y0,X1,Y1 CRS fresh|kept [B0,B1,...]
 
 PEER is qgis, mapnik or gdal; KIND is classes, values or image (pictures of 1920 x 1080), shade or isolines (the
-same, qgis alone), statistics (gdal and qgis), or shading (gdal alone: gdaldem on 1920 x 1080 made nodes, from
+same, qgis alone), pan or first (a window's map, qgis alone), statistics (gdal and qgis), or shading (gdal alone: gdaldem on 1920 x 1080 made nodes, from
 memory to memory). For pictures "gdal" is the floor: a bare nearest read of the same window into doubles (bytes
 for an image) and one copy of the pixels.
 """
@@ -17,6 +17,7 @@ import numpy as np
 
 WIDTH, HEIGHT, RUNS = 1920, 1080, 7
 UTM = "EPSG:32637"
+WINDOWS = ("pan", "first")
 RAMP = ["#%02x%02x%02x" % (k * 20, 128, 255 - k * 20) for k in range(12)]
 PROJ = {UTM: "+proj=utm +zone=37 +datum=WGS84 +units=m +no_defs",
         "EPSG:3857": "+proj=merc +a=6378137 +b=6378137 +lat_ts=0 +lon_0=0 +x_0=0 +y_0=0 +k=1 +units=m "
@@ -58,11 +59,38 @@ def qgis_project(q, folder):
     return timed(read, 5)
 
 
+def qgis_window(q, layer, kind, extent, breaks):
+    """The map of its window: its first picture since a time of the monotonic clock, or one moved by a third."""
+    from qgis.gui import QgsMapCanvas
+    from qgis.PyQt.QtCore import QEventLoop
+    canvas, loop = QgsMapCanvas(), QEventLoop()
+    canvas.mapCanvasRefreshed.connect(loop.quit)
+    canvas.resize(WIDTH, HEIGHT)
+    canvas.setLayers([layer])
+    canvas.setExtent(extent)
+    canvas.show()
+    canvas.refresh()
+    loop.exec()
+    canvas.grab()
+    if kind == "first":
+        return {"ms": (time.monotonic() - breaks[0]) * 1e3}
+    step = [extent.width() / 3]
+
+    def pan():
+        moved = canvas.extent()
+        canvas.setExtent(q.QgsRectangle(moved.xMinimum() + step[0], moved.yMinimum(), moved.xMaximum() + step[0],
+                                        moved.yMaximum()))
+        step[0] = -step[0]
+        canvas.refresh()
+        loop.exec()
+    return timed(pan)
+
+
 def qgis(path, kind, box, crs, fresh, breaks):
     from qgis import core as q
     from qgis.PyQt.QtCore import QSize
     from qgis.PyQt.QtGui import QColor
-    application = q.QgsApplication([], False)
+    application = q.QgsApplication([], kind in WINDOWS)
     application.initQgis()
     if kind == "project":
         return qgis_project(q, path)
@@ -74,11 +102,12 @@ def qgis(path, kind, box, crs, fresh, breaks):
         provider = made.dataProvider()
         if kind == "statistics":
             return made
-        if kind == "classes":
+        if kind == "classes" or kind in WINDOWS:
             ramp = q.QgsColorRampShader()
             ramp.setColorRampType(q.QgsColorRampShader.Discrete)
             ramp.setColorRampItemList([q.QgsColorRampShader.ColorRampItem(v, QColor(c))
-                                       for v, c in zip(breaks + [float("inf")], RAMP)])
+                                       for v, c in zip((breaks[1:] if kind == "first" else breaks)
+                                                       + [float("inf")], RAMP)])
             shader = q.QgsRasterShader()
             shader.setRasterShaderFunction(ramp)
             made.setRenderer(q.QgsSingleBandPseudoColorRenderer(provider, 1, shader))
@@ -109,6 +138,8 @@ def qgis(path, kind, box, crs, fresh, breaks):
         job.waitForFinished()
         return job.renderedImage()
 
+    if kind in WINDOWS:
+        return qgis_window(q, layer(), kind, q.QgsRectangle(*widened(box)), breaks)
     if kind == "statistics":
         wanted = (q.QgsRasterBandStats.Min | q.QgsRasterBandStats.Max | q.QgsRasterBandStats.Mean
                   | q.QgsRasterBandStats.StdDev)

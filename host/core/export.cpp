@@ -48,4 +48,14 @@ void save_picture(const drawn_picture& picture, const std::string& output,
   if (!saved) throw failure(output, narrow(reason));
 }
 
+std::vector<std::string> export_picture(const scene& shown, const page_request& request,
+                                        const std::string& output) {
+  std::vector<std::string> sources;
+  for (const auto& each : shown.layers()) sources.push_back(each->source_name());
+  check_not_source(output, sources);
+  drawn_picture picture = draw(shown, request);
+  save_picture(picture, output, shown.projection());
+  return picture.shortfalls;
+}
+
 }  // namespace zu::host

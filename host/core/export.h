@@ -35,4 +35,9 @@ void check_not_source(const std::string& output, const std::vector<std::string>&
 void save_picture(const drawn_picture& picture, const std::string& output,
                   const std::string& projection);
 
+/// Draws a scene and writes it; gives what the picture lacks, a line each. Throws `failure`, also
+/// if the file is one of the scene's sources.
+std::vector<std::string> export_picture(const scene& shown, const page_request& request,
+                                        const std::string& output);
+
 }  // namespace zu::host

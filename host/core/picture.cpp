@@ -79,7 +79,7 @@ drawn_picture draw(const scene& shown, const picture_request& request) {
     if (request.kind == page_kind::screen)
       draw_layer();
     else
-      print_page(render.get(), draw_layer);
+      print_page(render.get(), draw_layer, each->caption());
     take_reasons(*each, shown, picture);
     std::optional<Tzu_box_d2> own = each->box();
     Tzu_box_d2 common;

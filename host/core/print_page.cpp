@@ -5,6 +5,10 @@
 #include <cstdint>
 #include <vector>
 
+#include "host/core/failure.h"
+#include "host/core/texts.h"
+#include "zu/platform/zuk_msgs.h"
+
 namespace zu::host {
 namespace {
 
@@ -69,9 +73,31 @@ class whole_page {
   Tzu_box_d2 box_;
 };
 
+/// Tells how far the pieces are.
+class told_progress {
+ public:
+  told_progress(const std::string& caption, std::size_t total)
+      : progress_(zu_progress_create(1)), total_(total) {
+    zu_progress_wcaption(progress_, wide(caption).c_str());
+  }
+  ~told_progress() { zu_progress_destroy(progress_); }
+  told_progress(const told_progress&) = delete;
+  told_progress& operator=(const told_progress&) = delete;
+
+  void begin_piece() {
+    zu_progress_show64(progress_, static_cast<std::int64_t>(done_++),
+                       static_cast<std::int64_t>(total_));
+    if (zu_progress_get_stopped(progress_)) throw failure("the drawing was stopped");
+  }
+
+ private:
+  Tzu_progress* progress_;
+  std::size_t total_, done_ = 0;
+};
+
 }  // namespace
 
-void print_page(Izu_render* render, const std::function<void()>& draw) {
+void print_page(Izu_render* render, const std::function<void()>& draw, const std::string& caption) {
   Tzu_drwc* drwc = zu_render_get_drwc(render);
   double per_mm = zu_drwc_get_dots_per_mm(drwc);
   Tzu_box_d2 page;
@@ -84,8 +110,10 @@ void print_page(Izu_render* render, const std::function<void()>& draw) {
     draw();
     return;
   }
+  told_progress progress(caption, rows.size() * columns.size());
   for (const span& row : rows)
     for (const span& column : columns) {
+      progress.begin_piece();
       span wide = x.around(column), high = y.around(row);
       const Tzu_box_d2 mm{x.mm_of(column.from), y.mm_of(row.from), x.mm_of(column.to),
                           y.mm_of(row.to)};

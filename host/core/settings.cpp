@@ -61,6 +61,15 @@ void settings::set(const std::string& name, const std::string& value) {
   if (!saved) throw failure(path_, narrow(reason));
 }
 
+void apply_settings() {
+  std::string overviews;
+  try {
+    overviews = settings().get("overviews");
+  } catch (const failure&) {  // as for the language
+  }
+  if (!overviews.empty()) zu_options_set_build_overviews(overviews == "1");
+}
+
 void choose_language(const std::string& name) {
   std::string chosen = name;
   if (chosen.empty()) {

@@ -14,6 +14,7 @@ class settings {
  public:
   settings();
 
+  const std::string& path() const { return path_; }  ///< of the file; empty if it has no place
   /// The value; empty if there is none.
   std::string get(const std::string& name) const;
   /// Sets a value and writes the file, whole or not at all. Throws `failure`.
@@ -23,6 +24,10 @@ class settings {
   std::string path_;
   node_ptr root_;
 };
+
+/// Puts in force what the platform must know of the settings ("overviews": "1" or "0"; else as the
+/// platform has it). A settings file that is refused says nothing.
+void apply_settings();
 
 /// Puts a language in force for the texts of the bundle: "ru" or "en"; with an empty name what the
 /// setting "lang" says, else what the system says (LC_ALL, LC_MESSAGES or LANG). A settings file

@@ -4,6 +4,7 @@
 #include <QIcon>
 #include <QPalette>
 #include <QStandardPaths>
+#include <QStyle>
 #include <QStyleFactory>
 
 namespace zu::desktop {
@@ -53,10 +54,16 @@ void choose_appearance(appearance chosen) {
   for (const QString& folder : folders)
     if (!places.contains(folder)) places << folder;
   QIcon::setThemeSearchPaths(places);
+  static const QString system_style = QApplication::style()->name();
+  static bool is_own = false;
   if (chosen != appearance::system) {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setPalette(chosen == appearance::dark ? dark() : light());
+  } else if (is_own) {  // a palette that sets nothing brings back the system's
+    QApplication::setStyle(system_style);
+    QApplication::setPalette(QPalette());
   }
+  is_own = chosen != appearance::system;
   QIcon::setThemeName(is_dark() ? QStringLiteral("breeze-dark") : QStringLiteral("breeze"));
   QIcon::setFallbackThemeName(QStringLiteral("breeze"));
 }

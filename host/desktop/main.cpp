@@ -4,26 +4,36 @@
 #include <QCommandLineParser>
 #include <QIcon>
 #include <cstdio>
+#include <map>
+#include <memory>
 
 #include "host/core/bundle.h"
 #include "host/core/failure.h"
 #include "host/core/settings.h"
 #include "host/desktop/appearance.h"
+#include "host/desktop/dialogs/clipboard_bridge.h"
+#include "host/desktop/dialogs/message_windows.h"
+#include "host/desktop/dialogs/progress_window.h"
+#include "host/desktop/dialogs/settings_dialog.h"
+#include "host/desktop/gallery.h"
+#include "host/desktop/map/viewer_builders.h"
+#include "host/desktop/realiser/modal_runner.h"
 #include "host/desktop/window/main_window.h"
 #include "host/desktop/words.h"
-#include "zu/platform/zuk_os.h"
 
 namespace {
 
 using namespace zu::desktop;
+using zu::modal_dialog_runner;
 
 /// What a person asked for on the command line.
 struct request {
   QStringList files;
   QString screenshot;
   QSize size{1280, 800};
-  appearance look = appearance::system;
+  std::optional<appearance> look;
   std::optional<language> speech;
+  bool gallery = false;
 };
 
 [[noreturn]] void refuse(const QString& reason) {
@@ -56,7 +66,9 @@ request read_arguments(const QApplication& application) {
                           QStringLiteral("LOOK"));
   QCommandLineOption speech(QStringLiteral("lang"), QStringLiteral("ru or en."),
                             QStringLiteral("LANG"));
-  parser.addOptions({screenshot, size, look, speech});
+  QCommandLineOption gallery(QStringLiteral("gallery"),
+                             QStringLiteral("Show every kind of control in every state."));
+  parser.addOptions({screenshot, size, look, speech, gallery});
   parser.addPositionalArgument(QStringLiteral("FILE"),
                                QStringLiteral("Grids, pictures, sections, a project (.zgp)."),
                                QStringLiteral("[FILE…]"));
@@ -65,6 +77,7 @@ request read_arguments(const QApplication& application) {
   request wanted;
   wanted.files = parser.positionalArguments();
   wanted.screenshot = parser.value(screenshot);
+  wanted.gallery = parser.isSet(gallery);
   if (parser.isSet(size)) {
     auto given = size_of(parser.value(size));
     if (!given) refuse(QStringLiteral("--size takes WxH in pixels, 200x150 to 10000x10000"));
@@ -76,7 +89,9 @@ request read_arguments(const QApplication& application) {
       wanted.look = appearance::light;
     else if (name == QLatin1String("dark"))
       wanted.look = appearance::dark;
-    else if (name != QLatin1String("system"))
+    else if (name == QLatin1String("system"))
+      wanted.look = appearance::system;
+    else
       refuse(QStringLiteral("--appearance takes system, light or dark"));
   }
   if (parser.isSet(speech)) {
@@ -97,13 +112,6 @@ void do_without_screen(int argc, char** argv) {
     if (QByteArray(argv[i]).startsWith("--screenshot")) qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
-/// The language of this run: what was asked for, else what the settings or the system say.
-language language_of(const request& wanted) {
-  if (wanted.speech) return *wanted.speech;
-  zu::host::choose_language({});
-  return zu_res_get_lng() == 0 ? language::russian : language::english;
-}
-
 constexpr int drawing_patience = 60000;  // milliseconds
 
 int take_picture(main_window& window, const QString& path) {
@@ -116,8 +124,31 @@ int take_picture(main_window& window, const QString& path) {
   return 1;
 }
 
+/// The windows in which the bundles' dialogs run, by their ids.
+class dialog_windows {
+ public:
+  modal_dialog_runner of(const std::wstring& id) {
+    auto& runner = runners_[id];
+    if (!runner) runner = std::make_unique<modal_runner>(QString::fromStdWString(id));
+    return runner->runner();
+  }
+
+ private:
+  std::map<std::wstring, std::unique_ptr<modal_runner>> runners_;
+};
+
 int run(const request& wanted) {
+  clipboard_bridge clipboard;
+  message_windows messages;
+  progress_window progress;
+  dialog_windows dialogs;
   zu::host::bundle services({"zuk_common.so"});
+  serve_viewers(&services);
+  services.set_dialog_runners([&](const std::wstring& id) { return dialogs.of(id); });
+  if (wanted.gallery) {
+    show_gallery(services, wanted.screenshot);
+    return 0;
+  }
   main_window window(services);
   window.resize(wanted.size);
   window.show();
@@ -135,8 +166,7 @@ int main(int argc, char** argv) {
   QApplication::setApplicationVersion(QStringLiteral(ZU_VERSION));
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/zugrid.svg")));
   request wanted = read_arguments(application);
-  choose_appearance(wanted.look);
-  choose_language(language_of(wanted));
+  apply_chosen(wanted.speech, wanted.look);
   try {
     return run(wanted);
   } catch (const zu::host::failure& problem) {

@@ -1,13 +1,11 @@
 #pragma once
-// The ids of the modal dialogs. They are keys of the host, and stay as they are written.
+// The ids of the modal dialogs that have no class of their own. They are keys of the host, and stay
+// as they are written.
 
 namespace zu::dialog {
 
 struct nameless {
   static constexpr wchar_t id[] = L"";
-};
-struct segy_params {
-  static constexpr wchar_t id[] = L"zu_segy_params_dialog";
 };
 struct clr_palettes {
   static constexpr wchar_t id[] = L"zu_clr_palettes_dialog";

@@ -11,6 +11,7 @@
 #include "src/render/rastr_lr2d_render_service.h"
 #include "src/render/tos4_lr2d_render_services.h"
 #include "src/sources/scene_editor_services.h"
+#include "src/sources/segy_params.h"
 
 namespace zu {
 namespace {

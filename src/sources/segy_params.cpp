@@ -2,23 +2,17 @@
 
 #include <charconv>
 
-#include "src/bundle/dialogs.h"
-#include "src/bundle/modal_dialog.h"
 #include "src/bundle/owned.h"
 #include "src/bundle/texts.h"
 #include "src/data/generic_datasource.h"
+#include "src/toolkit/dialog.h"
 #include "zu/platform/zuk_msgs.h"
 
 namespace zu {
 namespace {
 
 constexpr std::int32_t text_no_params = 356, text_from_header = 358;
-
-/// Items of the drop-down.
-struct coord_source_item {
-  std::int32_t text, value;
-};
-constexpr coord_source_item items[] = {{352, -1}, {353, 0}, {354, 1}, {355, 2}};
+constexpr std::uint32_t path_width = 48;
 
 /// Units that have a text, by coefficient type.
 struct known_unit {
@@ -53,20 +47,21 @@ bool read_units(const std::wstring& units, std::int32_t& type, double& coefficie
 
 }  // namespace
 
-std::vector<std::wstring> segy_params_model::coord_sources() {
-  std::vector<std::wstring> texts;
-  for (const coord_source_item& item : items) texts.push_back(load_text(item.text));
-  return texts;
+namespace dialog {
+
+segy_params::segy_params(std::wstring path) {
+  file_.assign(std::move(path));
+  file_.set_width(path_width);
+  coord_source_.add(352, 0, zu_segy_coord_any).add(353, 0, 0).add(354, 0, 1).add(355, 0, 2);
+  units_.suggest(text_from_header);
+  simplify_.assign(false);
+  fields_.place(file_).place(coord_source_).place(units_).skip().place(simplify_);
+  fields_.set_column_stretch(1);
+  root_.place(fields_).skip().place(buttons_).set_row_stretch(1);
 }
 
-std::vector<std::wstring> segy_params_model::unit_suggestions() {
-  return {load_text(text_from_header)};
-}
-
-void segy_params_model::fill(const Tzu_segy_prms* record) {
-  coord_source = -1;
-  for (int i = 0; i < static_cast<int>(std::size(items)); ++i)
-    if (items[i].value == zu_segy_prms_get_coord_type(record)) coord_source = i;
+void segy_params::fill(const Tzu_segy_prms* record) {
+  coord_source_.assign_value(zu_segy_prms_get_coord_type(record));
   std::int32_t type = zu_segy_prms_get_coord_coeff_type(record);
   double coefficient = zu_segy_prms_get_coord_coeff(record);
   std::wstring text;
@@ -76,42 +71,41 @@ void segy_params_model::fill(const Tzu_segy_prms* record) {
   } else if (type == zu_segy_coeff_header) {
     text = load_text(text_from_header);
   }
-  units = text.empty() ? data::number_text(coefficient) : text;
-  simplify = zu_segy_prms_get_pln_simplify_flag(record);
+  units_.assign(text.empty() ? data::number_text(coefficient) : text);
+  simplify_.assign(zu_segy_prms_get_pln_simplify_flag(record));
 }
 
-bool segy_params_model::take(Tzu_segy_prms* record) const {
+bool segy_params::take(Tzu_segy_prms* record) {
   std::int32_t type = 0;
   double coefficient = 1.0;
-  if (!read_units(units, type, coefficient)) return false;
+  if (!read_units(units_.value(), type, coefficient)) return false;
   owned<zu_segy_estim_opts_destroy> options(zu_segy_estim_opts_create());
   zu_segy_estim_opts_set_allow_duplicate_points(options.get(), true);
   zu_segy_estim_opts_set_crd_coeff_type(options.get(), type);
   zu_segy_estim_opts_set_crd_coeff(options.get(), coefficient);
-  bool selected = coord_source >= 0 && coord_source < static_cast<int>(std::size(items));
-  std::int32_t value = selected ? items[coord_source].value : 0;
-  if (value == zu_segy_coord_any) {
+  if (coord_source_.value() == zu_segy_coord_any) {
     const std::int32_t types[] = {0, 1, 2};
     zu_segy_estim_opts_set_crd_types(options.get(), types, std::size(types));
   } else {
-    zu_segy_estim_opts_set_crd_type(options.get(), value);
+    zu_segy_estim_opts_set_crd_type(options.get(), coord_source_.value());
   }
-  bool found = zu_segy_file_estimate2d_params(path_.c_str(), options.get(), record, nullptr);
-  zu_segy_prms_set_pln_simplify_flag(record, simplify);
+  const std::wstring& path = file_.value();
+  bool found = zu_segy_file_estimate2d_params(path.c_str(), options.get(), record, nullptr);
+  zu_segy_prms_set_pln_simplify_flag(record, simplify_.is_checked());
   return found;
 }
+
+}  // namespace dialog
 
 bool choose_segy_params(const wchar_t* path, Tzu_segy_prms* record) {
   using opened = owned<zu_segy_file_close>;
   if (path == nullptr || record == nullptr) return false;
   if (zu_segy_file_has_params(path))
     zu_segy_file_get_parameters(opened(zu_segy_file_open(path, 1)).get(), record);
-  segy_params_model model(path);
-  model.fill(record);
-  segy_params_docker docker(model);
-  if (util::detail::modal_dialog_service_factory<dialog::segy_params>::run(handle_of(docker)) == 0)
-    return false;
-  if (!model.take(record)) {
+  dialog::segy_params dialog(path);
+  dialog.fill(record);
+  if (!toolkit::run_dialog(dialog)) return false;
+  if (!dialog.take(record)) {
     zu_show_wmessage(load_text(text_no_params).c_str());
     return false;
   }

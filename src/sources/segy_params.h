@@ -2,45 +2,39 @@
 // The dialog that asks where the traces of a SEG-Y file lie.
 
 #include <string>
-#include <vector>
 
-#include "zu/handle.h"
+#include "src/toolkit/buttons.h"
+#include "src/toolkit/dropdown.h"
+#include "src/toolkit/inputs.h"
 #include "zu/platform/zuk_file_segy.h"
 
 namespace zu {
+namespace dialog {
 
-/// What the dialog shows and what a person sets in it.
-class segy_params_model {
+class segy_params : public toolkit::with_element {
  public:
-  explicit segy_params_model(std::wstring path) : path_(std::move(path)) {}
+  static constexpr wchar_t id[] = L"zu_segy_params_dialog";
+  static constexpr std::int32_t caption = 350;
 
-  const std::wstring& path() const { return path_; }
-  /// Texts of the sources of coordinates, in the order of the drop-down.
-  static std::vector<std::wstring> coord_sources();
-  static std::vector<std::wstring> unit_suggestions();
+  explicit segy_params(std::wstring path);
 
   void fill(const Tzu_segy_prms* record);
   /// Estimates the record from what was set; false if the units are no number or nothing fits.
-  bool take(Tzu_segy_prms* record) const;
+  bool take(Tzu_segy_prms* record);
 
-  int coord_source = 0;  ///< index in the drop-down; -1 for no selection
-  std::wstring units;
-  bool simplify = false;
+  handle element() override { return toolkit::handle_of_element(root_); }
 
  private:
-  std::wstring path_;
+  toolkit::labeled_element<toolkit::output> file_{361};
+  toolkit::labeled_element<toolkit::dropdownex<std::int32_t>> coord_source_{351};
+  toolkit::labeled_element<toolkit::assisted_input> units_{357};
+  toolkit::checkbox simplify_{359};
+  toolkit::button_box buttons_{toolkit::button_box::ok | toolkit::button_box::cancel};
+  toolkit::grid_layout<2, 4> fields_;
+  toolkit::grid_layout<1, 3> root_;
 };
 
-/// What the host's runner of the dialog gets. It answers to no interface.
-class segy_params_docker : public plain_interface<segy_params_docker> {
- public:
-  static constexpr char name[] = "zu_segy_params_docker_interface_0";
-  explicit segy_params_docker(segy_params_model& model) : model(model) {}
-  int query_interface(const char*, const void**, void**) override { return 1; }
-  using operations = in_order<>;
-
-  segy_params_model& model;
-};
+}  // namespace dialog
 
 /// Asks a person for the parameters of a file, beginning with those stored with it, and stores what
 /// was chosen. False, and a message if nothing fits, where there are none.

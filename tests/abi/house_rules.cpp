@@ -222,7 +222,7 @@ const std::map<std::string, int> floors = {
     {"zuk_datasource", 3}, {"zuk_xml_data", 3},                         //
     {"zuk_lr2d", 4},       {"zuk_attr_data", 4}, {"zuk_scn_2d", 4},
     {"zuk_rtr_lr2d", 4},   {"zuk_tos_lr2d", 4},  //
-    {"zuk_drwc", 5},       {"zuk_render", 5},     //
+    {"zuk_drwc", 5},       {"zuk_render", 5},    //
     {"zuk_viewer2d", 6},   {"zuk_select", 6},
 };
 
@@ -325,10 +325,19 @@ findings folders_without_readme(const tree& t) {
 }
 
 findings dead_links(const tree& t) {
+  // Lambdas look like links.
+  auto without_code = [](std::string text) {
+    static const std::string fence = "```";
+    for (std::size_t at = 0; (at = text.find(fence, at)) != std::string::npos;) {
+      std::size_t end = text.find(fence, at + fence.size());
+      text.erase(at, end == std::string::npos ? end : end + fence.size() - at);
+    }
+    return text;
+  };
   findings all;
   for (const std::string& file : t.files) {
     if (!ends(file, ".md")) continue;
-    for (const std::string& link : between(read(t.root / file), "](", ')')) {
+    for (const std::string& link : between(without_code(read(t.root / file)), "](", ')')) {
       std::string target = link.substr(0, link.find_first_of(" #"));
       if (target.empty() || target.find(':') != std::string::npos) continue;
       if (!fs::exists((t.root / file).parent_path() / target))

@@ -86,6 +86,8 @@ void map_view::wheelEvent(QWheelEvent* event) {
   // Alt makes the wheel a horizontal one in many systems.
   int angle = event->angleDelta().y() != 0 ? event->angleDelta().y() : event->angleDelta().x();
   if (own == zu_wheel_none || angle == 0) return event->ignore();
+  // A drag counts from a point of the box in which it began.
+  if (pointer_->is_dragging()) return event->accept();
   std::int32_t turned = own;
   if (own == zu_wheel_zoom && zu_viewer2d_is_anisotropic(viewer())) {
     if (event->modifiers() & Qt::ControlModifier) turned = zu_wheel_zoom_x;

@@ -1,8 +1,6 @@
 #pragma once
 // The layers of a scene as a map draws them.
 
-#include <optional>
-
 #include "host/core/scene.h"
 #include "zu/platform/zuk_viewer2d.h"
 
@@ -14,8 +12,6 @@ class map_layers {
   virtual std::size_t count() const = 0;
   /// Draws a layer, the lowest first, unless it is hidden or its source is missing.
   virtual void draw(std::size_t index, Izu_render* render) const = 0;
-  /// Of all that is drawn; nothing if there is nothing or it lies nowhere.
-  virtual std::optional<Tzu_box_d2> box() const = 0;
 };
 
 /// The layers of a scene of the host's own.
@@ -24,7 +20,6 @@ class host_layers final : public map_layers {
   explicit host_layers(const host::scene& shown) : shown_(shown) {}
   std::size_t count() const override { return shown_.layers().size(); }
   void draw(std::size_t index, Izu_render* render) const override;
-  std::optional<Tzu_box_d2> box() const override;
 
  private:
   const host::scene& shown_;
@@ -38,7 +33,6 @@ class viewer_layers final : public map_layers {
       : viewer_(viewer), services_(services) {}
   std::size_t count() const override;
   void draw(std::size_t index, Izu_render* render) const override;
-  std::optional<Tzu_box_d2> box() const override;
 
  private:
   const Tzu_viewer2d* viewer_;

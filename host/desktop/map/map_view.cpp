@@ -1,6 +1,7 @@
 #include "host/desktop/map/map_view.h"
 
 #include <QEvent>
+#include <QPointer>
 #include <algorithm>
 #include <cmath>
 
@@ -20,23 +21,8 @@ map_view& map_of(void* user) { return *static_cast<map_view*>(user); }
 
 }  // namespace
 
-map_view::map_view(host::scene& shown, QWidget* parent)
-    : QWidget(parent),
-      layers_(std::make_unique<host_layers>(shown)),
-      modes_([this] { show_cursor(); }, [this] { mode_spoke(); }) {
-  set_up();
-  zu_viewer2d_set_scn_2d(viewer(), shown.get());
-}
-
-map_view::map_view(const host::bundle* services, QWidget* parent)
-    : QWidget(parent), modes_([this] { show_cursor(); }, [this] { mode_spoke(); }) {
-  set_up();
-  layers_ = std::make_unique<viewer_layers>(viewer(), services);
-}
-
-map_view::~map_view() = default;
-
-void map_view::set_up() {
+map_view::map_view(QWidget* parent)
+    : QWidget(parent), modes_([this] { mode_changed(); }, [this] { mode_spoke(); }) {
   Tzu_viewer2d_hooks told = hooks();
   viewer_.reset(zu_viewer2d_create(&told));
   pointer_ = std::make_unique<map_pointer>(viewer(), modes_,
@@ -51,9 +37,20 @@ void map_view::set_up() {
   show_cursor();
 }
 
+map_view::map_view(host::scene& shown, QWidget* parent) : map_view(parent) {
+  set_layers(std::make_unique<host_layers>(shown));
+  zu_viewer2d_set_scn_2d(viewer(), shown.get());
+}
+
+map_view::map_view(const host::bundle* services, QWidget* parent) : map_view(parent) {
+  set_layers(std::make_unique<viewer_layers>(viewer(), services));
+}
+
+map_view::~map_view() { modes_.set_extension({}); }
+
 Tzu_viewer2d_hooks map_view::hooks() {
   Tzu_viewer2d_hooks told{};
-  told.redraw = [](void* user) { map_of(user).redraw(); };
+  told.redraw = [](void* user) { map_of(user).ask_for_picture(map_of(user).delay()); };
   told.move_picture = [](std::int32_t dx, std::int32_t dy, void* user) {
     map_of(user).shift_ = QPoint(dx, dy);
     map_of(user).update();
@@ -68,11 +65,18 @@ Tzu_viewer2d_hooks map_view::hooks() {
 }
 
 void map_view::box_changed() {
-  has_box_ = true;
+  has_box_ = has_box_ || !is_sizing_;
   shift_ = {};
   is_mode_picture_old_ = is_mode_picture_old_ || !mode_picture_.isNull();
-  ask_for_picture(is_wheeling_ && last_cost_ > quick_picture ? wheel_rest : 0);
+  ask_for_picture(delay());
   Q_EMIT view_changed();
+}
+
+void map_view::mode_changed() {
+  pointer_->cancel();
+  mode_picture_ = QImage();
+  update();
+  show_cursor();
 }
 
 void map_view::mode_spoke() {
@@ -89,6 +93,8 @@ QSize map_view::pixels() const {
           static_cast<int>(std::lround(height() * devicePixelRatioF()))};
 }
 
+int map_view::delay() const { return is_wheeling_ && last_cost_ > quick_picture ? wheel_rest : 0; }
+
 void map_view::redraw() { ask_for_picture(0); }
 
 void map_view::ask_for_picture(int delay) {
@@ -102,8 +108,10 @@ void map_view::ask_for_picture(int delay) {
 void map_view::follow_window() {
   if (pixels() == followed_ || pixels().isEmpty()) return;
   followed_ = pixels();
+  is_sizing_ = true;
   zu_viewer2d_set_size(viewer(), followed_.width(), followed_.height(),
                        logicalDpiX() * devicePixelRatioF());
+  is_sizing_ = false;
   if (wanted_) zoom_to(*std::exchange(wanted_, std::nullopt));
   pointer_->set_dead_zone(3 * devicePixelRatioF());
   redraw();
@@ -132,14 +140,27 @@ void map_view::begin_drawing() {
   drawing_ = std::make_unique<frame_drawing>(*layers_, zu_viewer2d_get_scn_2d(viewer()), request);
 }
 
+/// Draws the next layer. False if it was overtaken: a progress window runs the program's events.
+bool map_view::draw_layer() {
+  std::shared_ptr<frame_drawing> going_on = drawing_;
+  QPointer<map_view> self(this);
+  is_in_layer_ = true;
+  going_on->draw_next();
+  if (!self) return false;
+  is_in_layer_ = false;
+  if (drawing_ == going_on) return true;
+  ask_for_picture(0);
+  return false;
+}
+
 void map_view::draw_some() {
-  if (!can_draw()) return;
+  if (!can_draw() || is_in_layer_) return;
   if (!drawing_) begin_drawing();
   QElapsedTimer turn;
   turn.start();
   auto milliseconds = [&] { return static_cast<double>(turn.nsecsElapsed()) * 1e-6; };
   while (drawing_->is_going_on()) {
-    drawing_->draw_next();
+    if (!draw_layer()) return;
     if (!drawing_->is_going_on() || milliseconds() < turn_of_drawing) continue;
     spent_ += milliseconds();
     if (spent_ > first_glance) {
@@ -172,16 +193,16 @@ void map_view::stop_drawing() {
 
 QImage map_view::picture() {
   if (pixels().isEmpty()) return {};
-  if (is_stale_ || is_cut_short_) drawing_.reset();
-  if (!is_up_to_date()) {
-    is_cut_short_ = false;
+  if (is_cut_short_) redraw();
+  while (!is_up_to_date() && !is_in_layer_) {
     if (!drawing_) begin_drawing();
     timer_.stop();
     QElapsedTimer turn;
     turn.start();
-    while (drawing_->is_going_on()) drawing_->draw_next();
+    bool is_whole = true;
+    while (is_whole && drawing_->is_going_on()) is_whole = draw_layer();
     spent_ += static_cast<double>(turn.nsecsElapsed()) * 1e-6;
-    end_drawing();
+    if (is_whole) end_drawing();
   }
   return frame_.picture;
 }
@@ -210,10 +231,10 @@ std::optional<Tzu_box_d2> map_view::box() const {
 }
 
 void map_view::zoom_to_all() {
-  std::optional<Tzu_box_d2> all = layers_->box();
-  if (!all) return;
-  double margin_x = (all->x1 - all->x0) / 50, margin_y = (all->y1 - all->y0) / 50;
-  zoom_to({all->x0 - margin_x, all->y0 - margin_y, all->x1 + margin_x, all->y1 + margin_y});
+  Tzu_box_d2 all;
+  if (!zu_scn_2d_get_clipped_box(zu_viewer2d_get_scn_2d(viewer()), &all)) return;
+  double margin_x = (all.x1 - all.x0) / 50, margin_y = (all.y1 - all.y0) / 50;
+  zoom_to({all.x0 - margin_x, all.y0 - margin_y, all.x1 + margin_x, all.y1 + margin_y});
 }
 
 void map_view::zoom_to(const Tzu_box_d2& box) {

@@ -59,6 +59,10 @@ class map_view : public QWidget {
   void mode_acted();  ///< a mode was given the end of a drag, a click or a double click
 
  protected:
+  /// A map of layers that are given afterwards.
+  explicit map_view(QWidget* parent);
+  void set_layers(std::unique_ptr<map_layers> layers) { layers_ = std::move(layers); }
+
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
@@ -80,16 +84,18 @@ class map_view : public QWidget {
     void operator()(Tzu_viewer2d* viewer) const { zu_viewer2d_destroy(viewer); }
   };
 
-  void set_up();
   Tzu_viewer2d_hooks hooks();
   void box_changed();
+  void mode_changed();
   void mode_spoke();
 
   // Drawing.
   QSize pixels() const;
   bool can_draw() const { return isVisible() && !pixels().isEmpty(); }
+  int delay() const;  ///< of the next picture, in milliseconds
   void ask_for_picture(int delay);
   void draw_some();
+  bool draw_layer();
   void begin_drawing();
   void end_drawing();
   void stop_drawing();
@@ -118,12 +124,14 @@ class map_view : public QWidget {
   bool is_hovering_ = false;
 
   QTimer timer_;
-  std::unique_ptr<frame_drawing> drawing_;
+  std::shared_ptr<frame_drawing> drawing_;
   double spent_ = 0;      ///< milliseconds on the drawing that goes on
   double last_cost_ = 0;  ///< of the last whole picture
   bool is_stale_ = true;  ///< the next picture has not been begun
   bool is_cut_short_ = false;
   bool is_wheeling_ = false;
+  bool is_sizing_ = false;
+  bool is_in_layer_ = false;
   bool has_box_ = false;  ///< somebody chose what to show
   QSize followed_;
   std::optional<Tzu_box_d2> wanted_;  ///< chosen before the map had a size

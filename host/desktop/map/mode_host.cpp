@@ -32,12 +32,12 @@ mode_host::mode_host(std::function<void()> mode_changed, std::function<void()> m
 }
 
 void mode_host::set_extension(viewer_extension extension) {
-  if (extension_) {
+  if (extension_) call<&viewer_extension_impl::attach_view>(extension_.get(), element_view());
+  if (mode_) {
     leave_mode();
-    call<&viewer_extension_impl::attach_view>(extension_.get(), element_view());
+    mode_changed_();
   }
   extension_.reset(extension);
-  if (!extension) return;
   call<&viewer_extension_impl::attach_view>(extension, extension_view_.get());
   take_mode();
 }

@@ -1,23 +1,27 @@
 #include "host/desktop/window/main_window.h"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QElapsedTimer>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
 #include <QTabBar>
+#include <QTimer>
 #include <QUrl>
 
-#include "host/core/command_line.h"
 #include "host/core/failure.h"
 #include "host/core/projections.h"
-#include "host/core/settings.h"
+#include "host/desktop/dialogs/about_dialog.h"
+#include "host/desktop/dialogs/settings_dialog.h"
+#include "host/desktop/dialogs/settings_file.h"
+#include "host/desktop/dialogs/shortcuts_dialog.h"
+#include "host/desktop/realiser/realiser.h"
+#include "host/desktop/window/editor_docks.h"
 #include "host/desktop/window/info_window.h"
 #include "host/desktop/window/layer_list.h"
 #include "host/desktop/window/message_bar.h"
-#include "host/desktop/window/recent_files.h"
 #include "host/desktop/window/start_page.h"
 #include "host/desktop/window/status_line.h"
 #include "host/desktop/window/window_actions.h"
@@ -26,11 +30,21 @@
 namespace zu::desktop {
 namespace {
 
-constexpr char geometry_name[] = "window_geometry", layout_name[] = "window_layout";
+constexpr char geometry_name[] = "window_geometry", layout_name[] = "window_layout",
+               closed_name[] = "closed_panels";
 /// Docks and bars of another number are not those that a layout was kept of.
 constexpr int layout_version = 1;
 constexpr QSize first_size(1280, 800);
-constexpr int message_time = 4000;  // milliseconds
+constexpr int patience = 300;  // milliseconds: a picture that takes longer is said to be drawn
+
+/// Names of choices hold what a name in the settings may not.
+const char* setting_of(const QString& choice) {
+  static QByteArray name;
+  name = "choice_";
+  for (QChar c : choice)
+    name += c.unicode() < 128 && c.isLetterOrNumber() ? char(c.unicode()) : '_';
+  return name.constData();
+}
 
 /// Local files as paths, other addresses as they are.
 QStringList paths_of(const QMimeData& data) {
@@ -57,12 +71,16 @@ main_window::main_window(const host::bundle& services, prompts asked)
   setStatusBar(status_);
   make_docks();
   make_menus();
+  for (const auto& [name_space, service] : services.tools())
+    if (name_space.ends_with(L"/tool")) tools_.add_sets_of_service(service.get());
   make_tool_bars();
   connect_files();
   connect_map();
   connect_layers();
   connect_scenes();
   connect_language();
+  connect_dialogs();
+  connect_bundles();
   connect(&document_, &document::history_changed, this, &main_window::show_state);
   connect(&document_, &document::layers_changed, this, &main_window::show_state);
   connect(&document_, &document::layer_activated, this, &main_window::show_state);
@@ -74,7 +92,10 @@ main_window::main_window(const host::bundle& services, prompts asked)
 }
 
 main_window::~main_window() {
+  set_input_listener({});
+  set_choice_store({});
   document_.disconnect();
+  editors_.reset();
   // What shows the document ends before it does.
   qDeleteAll(findChildren<QDockWidget*>());
   delete takeCentralWidget();
@@ -121,8 +142,8 @@ void main_window::connect_map() {
   connect(actions_->zoom_back, &QAction::triggered, this, [map] { map().go_back(); });
   connect(actions_->zoom_forward, &QAction::triggered, this, [map] { map().go_forward(); });
   connect(actions_->redraw, &QAction::triggered, this, [map] { map().redraw(); });
-  connect(actions_->copy_picture, &QAction::triggered, this,
-          [map] { QApplication::clipboard()->setImage(map().picture()); });
+  connect(actions_->file_export, &QAction::triggered, this, &main_window::export_picture);
+  connect(actions_->copy_picture, &QAction::triggered, this, &main_window::copy_picture);
   connect(actions_->copy_command, &QAction::triggered, this, &main_window::copy_command);
   connect(actions_->full_screen, &QAction::toggled, this,
           [this](bool full) { setWindowState(windowState().setFlag(Qt::WindowFullScreen, full)); });
@@ -131,6 +152,21 @@ void main_window::connect_map() {
   connect(views_, &scene_views::clicked, this, &main_window::show_info);
   connect(status_, &status_line::scale_chosen, this,
           [map](double scale) { map().set_map_scale(scale); });
+  auto* slow = new QTimer(this);
+  slow->setSingleShot(true);
+  slow->setInterval(patience);
+  auto started = [slow] {
+    if (!slow->isActive()) slow->start();
+  };
+  connect(views_, &scene_views::view_changed, slow, started);
+  connect(&document_, &document::picture_changed, slow, started);
+  connect(slow, &QTimer::timeout, this, [this, map] {
+    status_->show_busy(!document_.scene().layers.empty() && !map().is_up_to_date());
+  });
+  connect(views_, &scene_views::drawn, this, [this, slow] {
+    slow->stop();
+    status_->show_busy(false);
+  });
 }
 
 void main_window::connect_layers() {
@@ -190,7 +226,7 @@ void main_window::connect_scenes() {
 void main_window::connect_language() {
   auto choose = [this](language chosen, const char* name) {
     choose_language(chosen);
-    attempt([&] { host::settings().set("lang", name); });
+    attempt([&] { keep_text("lang", QString::fromLatin1(name)); });
   };
   connect(actions_->language_english, &QAction::triggered, this,
           [choose] { choose(language::english, "en"); });
@@ -198,9 +234,39 @@ void main_window::connect_language() {
           [choose] { choose(language::russian, "ru"); });
 }
 
+/// The panels of the active layer, and what a person does in them.
+void main_window::connect_bundles() {
+  std::vector<layer_2d_editor_extension_service> editors;
+  for (const auto& [name_space, service] : document_.services().layer_editors())
+    if (name_space.ends_with(L"/layer/2d")) editors.push_back(service.get());
+  editors_ = std::make_unique<editor_docks>(*this, document_, editors);
+  set_input_listener([this](const QString& what) { document_.input_happened(what); });
+  set_choice_store({[](const QString& name) { return kept_text(setting_of(name)); },
+                    [this](const QString& name, const QString& value) {
+                      attempt([&] { keep_text(setting_of(name), value); });
+                    }});
+  connect(views_, &scene_views::map_changed, this, &main_window::fill_modes);
+  connect(actions_->info_tool, &QAction::toggled, this, [this](bool on) {
+    if (on)
+      call<&viewer_extension_impl::set_current_mode>(views_->current().modes().extension(),
+                                                     viewer_extension_mode());
+  });
+  fill_modes();
+}
+
+void main_window::connect_dialogs() {
+  connect(actions_->edit_settings, &QAction::triggered, this,
+          [this] { settings_dialog::ask(this); });
+  connect(actions_->help_shortcuts, &QAction::triggered, this,
+          [this] { shortcuts_dialog::ask(this, actions_->findChildren<QAction*>()); });
+  connect(actions_->help_about, &QAction::triggered, this, [this] { about_dialog::ask(this); });
+}
+
 void main_window::retranslate() {
   actions_->retranslate();
   texts_.say_all();
+  tools_.retranslate();
+  fill_tools();
   actions_->language_english->setChecked(language_in_force() == language::english);
   actions_->language_russian->setChecked(language_in_force() == language::russian);
   show_recent();
@@ -248,28 +314,6 @@ void main_window::show_info(double x, double y) {
   info_dock_->raise();
 }
 
-/// Puts the line on the clipboard that draws what the map shows.
-void main_window::copy_command() {
-  map_view& map = views_->current();
-  host::page_request request;
-  QSize pixels = map.size() * map.devicePixelRatioF();
-  request.picture.nx = std::uint64_t(pixels.width());
-  request.picture.ny = std::uint64_t(pixels.height());
-  request.picture.extent = map.box();
-  bool is_saved = !document_.is_changed();
-  attempt([&] {
-    host::command_line made =
-        host::command_of(document_.content(), document_.scene(), request,
-                         is_saved ? document_.path().toStdString() : std::string());
-    QApplication::clipboard()->setText(QString::fromStdString(made.text()));
-    QStringList lacks;
-    for (const std::string& each : made.lacks) lacks += QString::fromStdString(each);
-    views_->messages().tell(lacks);
-    status_->showMessage(words("The command is on the clipboard.", "Команда в буфере обмена."),
-                         message_time);
-  });
-}
-
 void main_window::ask_projection() {
   QString now = QString::fromStdString(document_.scene().content->projection());
   std::optional<QString> chosen = prompts_.projection(this, now);
@@ -294,15 +338,19 @@ bool main_window::wait_until_drawn(int milliseconds) {
 }
 
 void main_window::restore_layout() {
-  restoreGeometry(kept_bytes(geometry_name));
-  restoreState(kept_bytes(layout_name), layout_version);
+  auto kept = [](const char* name) { return QByteArray::fromBase64(kept_text(name).toLatin1()); };
+  restoreGeometry(kept(geometry_name));
+  restoreState(kept(layout_name), layout_version);
+  editors_->set_closed(kept_list(closed_name));
+  fill_modes();
   actions_->full_screen->setChecked(isFullScreen());
 }
 
 void main_window::keep_layout() {
   attempt([this] {
-    keep_bytes(geometry_name, saveGeometry());
-    keep_bytes(layout_name, saveState(layout_version));
+    keep_text(geometry_name, QString::fromLatin1(saveGeometry().toBase64()));
+    keep_list(closed_name, editors_->closed());
+    keep_text(layout_name, QString::fromLatin1(saveState(layout_version).toBase64()));
   });
 }
 
@@ -315,6 +363,15 @@ void main_window::closeEvent(QCloseEvent* event) {
   if (!may_replace()) return event->ignore();
   keep_layout();
   event->accept();
+}
+
+/// What no one in front took: Escape puts away the message, then leaves the full screen.
+void main_window::keyPressEvent(QKeyEvent* event) {
+  if (event->key() != Qt::Key_Escape) return QMainWindow::keyPressEvent(event);
+  if (views_->messages().isVisible())
+    views_->messages().dismiss();
+  else
+    actions_->full_screen->setChecked(false);
 }
 
 void main_window::dragEnterEvent(QDragEnterEvent* event) {

@@ -3,6 +3,7 @@
 
 #include <QMainWindow>
 
+#include "host/desktop/realiser/tool_actions.h"
 #include "host/desktop/window/document.h"
 #include "host/desktop/window/prompts.h"
 #include "host/desktop/window/scene_views.h"
@@ -13,6 +14,7 @@ class QMenu;
 
 namespace zu::desktop {
 
+class editor_docks;
 class info_window;
 class layer_list;
 class status_line;
@@ -35,26 +37,29 @@ class main_window final : public QMainWindow {
   document& content() { return document_; }
   window_actions& actions() { return *actions_; }
   scene_views& views() { return *views_; }
+  editor_docks& editors() { return *editors_; }
 
  protected:
   void changeEvent(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
 
  private:
   // main_window.cpp
+  void connect_bundles();
   void make_docks();
   void connect_files();
   void connect_map();
   void connect_layers();
   void connect_scenes();
   void connect_language();
+  void connect_dialogs();
   void retranslate();
   void show_state();
   void show_view();
   void show_info(double x, double y);
-  void copy_command();
   void ask_projection();
   QDockWidget* add_dock(const char* name, Qt::DockWidgetArea area, QWidget* content);
   void restore_layout();
@@ -75,9 +80,21 @@ class main_window final : public QMainWindow {
   bool attempt(const std::function<void()>& work);
   QString project_name() const;
 
+  // window_pictures.cpp
+  /// What the map shows, as a page.
+  host::page_request seen_page();
+  void export_picture();
+  void copy_picture();
+  void copy_command();
+  void say_in_passing(const QString& text);
+
   // window_menus.cpp
   void make_menus();
   void make_tool_bars();
+  /// The bundles' tools, in the menu under their categories.
+  void fill_tools();
+  /// The modes of the current map, in their tool bar.
+  void fill_modes();
 
   prompts prompts_;
   document document_;
@@ -91,6 +108,11 @@ class main_window final : public QMainWindow {
   QMenu* recent_menu_ = nullptr;
   QMenu* layer_menu_ = nullptr;
   QMenu* view_menu_ = nullptr;
+  QMenu* tools_menu_ = nullptr;
+  QToolBar* tools_bar_ = nullptr;
+  QToolBar* modes_bar_ = nullptr;
+  tool_actions tools_;
+  std::unique_ptr<editor_docks> editors_;
   texts_said texts_;
   QString last_folder_;
 };

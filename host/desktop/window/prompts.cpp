@@ -5,6 +5,7 @@
 #include <QInputDialog>
 #include <QMessageBox>
 
+#include "host/desktop/dialogs/projection_chooser.h"
 #include "host/desktop/words.h"
 
 namespace zu::desktop {
@@ -61,19 +62,12 @@ QString ask_name(QWidget* parent, const QString& question, const QString& now) {
   return accepted ? text.trimmed() : QString();
 }
 
-std::optional<QString> ask_projection(QWidget* parent, const QString& now) {
-  bool accepted = false;
-  QString text = QInputDialog::getText(parent, words("Projection of the scene", "Проекция сцены"),
-                                       words("EPSG:n, a PROJ text or WKT; empty for none:",
-                                             "EPSG:n, текст PROJ или WKT; пусто — без проекции:"),
-                                       QLineEdit::Normal, now, &accepted);
-  return accepted ? std::optional(text.trimmed()) : std::nullopt;
-}
-
 }  // namespace
 
 prompts prompts_of_dialogs() {
-  return {ask_files, ask_project, ask_unsaved, ask_source, ask_name, ask_projection};
+  return {ask_files,         ask_project, ask_unsaved,
+          ask_source,        ask_name,    projection_chooser::ask,
+          export_dialog::ask};
 }
 
 }  // namespace zu::desktop

@@ -6,6 +6,8 @@
 #include <functional>
 #include <optional>
 
+#include "host/desktop/dialogs/export_dialog.h"
+
 class QWidget;
 
 namespace zu::desktop {
@@ -25,6 +27,10 @@ struct prompts {
   std::function<QString(QWidget* parent, const QString& question, const QString& now)> name;
   /// A projection of the scene, as text; empty: none; nothing: cancelled.
   std::function<std::optional<QString>(QWidget* parent, const QString& now)> projection;
+  /// Which picture of what is seen is written, and where; nothing: cancelled.
+  std::function<std::optional<export_request>(QWidget* parent, const host::page_request& seen,
+                                              const QString& name)>
+      picture;
 };
 
 /// The questions as dialogs.

@@ -46,8 +46,11 @@ scene_views::scene_views(document& shown, QWidget* parent)
   follow_project();
 }
 
-map_view* scene_views::make_view(host::project_scene& scene) {
-  auto* view = new map_view(*scene.content, this);
+scene_views::~scene_views() = default;
+
+scene_views::shown_map scene_views::make_map(host::project_scene& scene) {
+  shown_map made{std::make_unique<map_view>(*scene.content, this), {}};
+  map_view* view = made.view.get();
   if (scene.view) view->zoom_to(*scene.view);
   connect(view, &map_view::view_changed, this, [this, view] {
     if (view == &current()) Q_EMIT view_changed();
@@ -55,27 +58,33 @@ map_view* scene_views::make_view(host::project_scene& scene) {
   connect(view, &map_view::cursor_moved, this, &scene_views::cursor_moved);
   connect(view, &map_view::clicked, this, &scene_views::clicked);
   connect(view, &map_view::drawn, this, &scene_views::drawn);
+  const auto& extensions = document_.services().viewer_extensions();
+  if (!extensions.empty())
+    made.modes.add_sets_of_toolbar(view->use_extension(extensions.front().service.get()));
   stack_->addWidget(view);
-  return view;
+  return made;
 }
 
 scene_views::scene_key scene_views::key_of(const host::project_scene& scene) {
   return {scene.content.get(), scene.id};
 }
 
-map_view& scene_views::current() {
-  map_view*& view = views_[key_of(document_.scene())];
-  if (view == nullptr) view = make_view(document_.scene());
-  return *view;
+scene_views::shown_map& scene_views::current_map() {
+  auto found = maps_.find(key_of(document_.scene()));
+  if (found == maps_.end())
+    found = maps_.emplace(key_of(document_.scene()), make_map(document_.scene())).first;
+  return found->second;
 }
 
+map_view& scene_views::current() { return *current_map().view; }
+const tool_actions& scene_views::current_modes() { return current_map().modes; }
+
 void scene_views::follow_project() {
-  std::map<scene_key, map_view*> kept;
+  std::map<scene_key, shown_map> kept;
   auto& scenes = document_.content().scenes();
   for (const host::project_scene& each : scenes)
-    if (auto found = views_.extract(key_of(each))) kept.insert(std::move(found));
-  std::swap(views_, kept);
-  for (const auto& [scene, view] : kept) delete view;
+    if (auto found = maps_.extract(key_of(each))) kept.insert(std::move(found));
+  std::swap(maps_, kept);
   {
     QSignalBlocker quiet(tabs_);
     while (tabs_->count() > 0) tabs_->removeTab(0);
@@ -101,6 +110,7 @@ void scene_views::follow_scene() {
     tabs_->setCurrentIndex(document_.active_scene());
   }
   follow_layers();
+  Q_EMIT map_changed();
   Q_EMIT view_changed();
 }
 
@@ -112,12 +122,15 @@ void scene_views::follow_layers() {
 
 void scene_views::remember_boxes() {
   for (host::project_scene& each : document_.content().scenes())
-    if (auto found = views_.find(key_of(each)); found != views_.end())
-      if (std::optional<Tzu_box_d2> box = found->second->box()) each.view = box;
+    if (auto found = maps_.find(key_of(each)); found != maps_.end())
+      if (std::optional<Tzu_box_d2> box = found->second.view->box()) each.view = box;
 }
 
 void scene_views::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::LanguageChange) name_tabs();
+  if (event->type() == QEvent::LanguageChange) {
+    name_tabs();
+    for (auto& [key, each] : maps_) each.modes.retranslate();
+  }
   QWidget::changeEvent(event);
 }
 

@@ -4,8 +4,10 @@
 
 #include <QWidget>
 #include <map>
+#include <memory>
 
 #include "host/desktop/map/map_view.h"
+#include "host/desktop/realiser/tool_actions.h"
 #include "host/desktop/window/document.h"
 
 class QStackedWidget;
@@ -21,9 +23,12 @@ class scene_views final : public QWidget {
 
  public:
   explicit scene_views(document& shown, QWidget* parent = nullptr);
+  ~scene_views() override;
 
   /// The map of the active scene.
   map_view& current();
+  /// The modes that its bundle gives it; none without one.
+  const tool_actions& current_modes();
   message_bar& messages() { return *messages_; }
   start_page& start() { return *start_; }
   QTabBar& tabs() { return *tabs_; }
@@ -31,6 +36,7 @@ class scene_views final : public QWidget {
   void remember_boxes();
 
  Q_SIGNALS:
+  void map_changed();   ///< another map became current
   void view_changed();  ///< of the current map; also when another one became current
   void cursor_moved(double x, double y, bool inside);
   void clicked(double x, double y);
@@ -45,7 +51,13 @@ class scene_views final : public QWidget {
   void follow_scene();
   void follow_layers();
   void name_tabs();
-  map_view* make_view(host::project_scene& scene);
+  /// A map, and the tools that choose its modes, which end before it.
+  struct shown_map {
+    std::unique_ptr<map_view> view;
+    tool_actions modes;
+  };
+  shown_map& current_map();
+  shown_map make_map(host::project_scene& scene);
 
   document& document_;
   QTabBar* tabs_;
@@ -55,7 +67,7 @@ class scene_views final : public QWidget {
   // A new scene may come to stand where an old one stood.
   using scene_key = std::pair<const host::scene*, std::uint64_t>;
   static scene_key key_of(const host::project_scene& scene);
-  std::map<scene_key, map_view*> views_;
+  std::map<scene_key, shown_map> maps_;
 };
 
 }  // namespace zu::desktop

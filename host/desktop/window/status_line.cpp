@@ -49,7 +49,7 @@ status_line::status_line(QWidget* parent)
       scale_title_(new QLabel(this)),
       scale_(new QComboBox(this)),
       projection_(new QToolButton(this)),
-      progress_(new QProgressBar(this)) {
+      busy_(new QProgressBar(this)) {
   setObjectName(QStringLiteral("status_line"));
   coordinates_->setObjectName(QStringLiteral("status_coordinates"));
   coordinates_->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -68,12 +68,12 @@ status_line::status_line(QWidget* parent)
   projection_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   projection_->setIcon(QIcon::fromTheme(QStringLiteral("globe")));
   projection_->setFocusPolicy(Qt::TabFocus);
-  progress_->setObjectName(QStringLiteral("status_progress"));
-  progress_->setRange(0, 1000);
-  progress_->setTextVisible(false);
-  progress_->setMaximumWidth(160);
-  progress_->hide();
-  addPermanentWidget(progress_);
+  busy_->setObjectName(QStringLiteral("status_busy"));
+  busy_->setRange(0, 0);
+  busy_->setTextVisible(false);
+  busy_->setMaximumWidth(100);
+  busy_->hide();
+  addPermanentWidget(busy_);
   addPermanentWidget(coordinates_);
   addPermanentWidget(scale_title_);
   addPermanentWidget(scale_);
@@ -117,15 +117,13 @@ void status_line::show_projection(const QString& text) {
                           (text.isEmpty() ? QString() : QStringLiteral("\n") + text));
 }
 
-void status_line::show_progress(double share) {
-  progress_->setVisible(share >= 0);
-  if (share >= 0) progress_->setValue(static_cast<int>(share * 1000));
-}
+void status_line::show_busy(bool busy) { busy_->setVisible(busy); }
 
 void status_line::retranslate() {
   scale_title_->setText(words("Scale", "Масштаб"));
   scale_->setToolTip(
       words("Scale of the map; type another one", "Масштаб карты; можно ввести другой"));
+  busy_->setToolTip(words("The map is being drawn", "Карта рисуется"));
   coordinates_->setToolTip(words("Coordinates under the pointer", "Координаты под указателем"));
   show_projection(shown_projection_);
 }

@@ -1,5 +1,6 @@
 #pragma once
-// The status bar: where the pointer is, the scale, the projection, and how far long work is.
+// The status bar: where the pointer is, the scale, the projection, and whether a picture is being
+// drawn.
 
 #include <QStatusBar>
 
@@ -21,8 +22,8 @@ class status_line final : public QStatusBar {
   void show_scale(double scale);
   /// By its name; empty: none.
   void show_projection(const QString& text);
-  /// Between 0 and 1; anything below 0 takes the bar away.
-  void show_progress(double share);
+  /// Whether a picture is being drawn that takes its time.
+  void show_busy(bool busy);
 
  Q_SIGNALS:
   void scale_chosen(double scale);
@@ -39,7 +40,7 @@ class status_line final : public QStatusBar {
   QLabel* scale_title_;
   QComboBox* scale_;
   QToolButton* projection_;
-  QProgressBar* progress_;
+  QProgressBar* busy_;
   double shown_scale_ = 0;
   QString shown_projection_;
 };

@@ -5,14 +5,17 @@
 #include <QMenu>
 
 #include "host/core/failure.h"
+#include "host/desktop/dialogs/settings_file.h"
 #include "host/desktop/window/main_window.h"
 #include "host/desktop/window/message_bar.h"
-#include "host/desktop/window/recent_files.h"
 #include "host/desktop/window/start_page.h"
 #include "host/desktop/words.h"
 
 namespace zu::desktop {
 namespace {
+
+constexpr char recent_name[] = "recent_files";
+constexpr int most_recent = 10;
 
 bool is_project(const QString& path) {
   return path.endsWith(QLatin1String(".zgp"), Qt::CaseInsensitive);
@@ -126,12 +129,12 @@ void main_window::choose_source(int index) {
 
 void main_window::remember_file(const QString& path) {
   if (QFileInfo::exists(path)) last_folder_ = QFileInfo(path).absolutePath();
-  attempt([&] { add_recent_file(path); });
+  keep_used(recent_name, path, most_recent);
   show_recent();
 }
 
 void main_window::show_recent() {
-  QStringList files = recent_files();
+  QStringList files = kept_list(recent_name);
   views_->start().set_recent(files);
   recent_menu_->clear();
   recent_menu_->setEnabled(!files.isEmpty());
@@ -143,7 +146,7 @@ void main_window::show_recent() {
   recent_menu_->addSeparator();
   QAction* forget = recent_menu_->addAction(words("&Clear the list", "&Очистить список"));
   connect(forget, &QAction::triggered, this, [this] {
-    attempt([] { forget_recent_files(); });
+    attempt([] { keep_text(recent_name, {}); });
     show_recent();
   });
 }

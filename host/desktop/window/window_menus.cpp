@@ -10,6 +10,16 @@
 #include "host/desktop/words.h"
 
 namespace zu::desktop {
+namespace {
+
+/// The menu of a title in a menu, made if there is none.
+QMenu* submenu(QMenu* menu, const QString& title) {
+  for (QMenu* each : menu->findChildren<QMenu*>(Qt::FindDirectChildrenOnly))
+    if (each->title() == title) return each;
+  return menu->addMenu(title);
+}
+
+}  // namespace
 
 void main_window::make_menus() {
   auto add_menu = [this](const char* name, const char* english, const char* russian,
@@ -71,8 +81,7 @@ void main_window::make_menus() {
   scene->addSeparator();
   scene->addActions({a.scene_add, a.scene_rename, a.scene_remove});
 
-  QMenu* tools = add_menu("menu_tools", "&Tools", "&Инструменты");
-  tools->addAction(a.info_tool);
+  tools_menu_ = add_menu("menu_tools", "&Tools", "&Инструменты");
 
   QMenu* help = add_menu("menu_help", "&Help", "&Справка");
   help->addActions({a.help_shortcuts, a.help_about});
@@ -95,6 +104,40 @@ void main_window::make_tool_bars() {
   map->addActions({a.zoom_in, a.zoom_out, a.zoom_all, a.layer_zoom, a.zoom_back, a.zoom_forward});
   map->addSeparator();
   map->addAction(a.info_tool);
+  modes_bar_ = add_bar("bar_modes", "Map modes", "Режимы карты");
+  tools_bar_ = add_bar("bar_tools", "Tools", "Инструменты");
+  tools_.fill(tools_bar_);
+  tools_bar_->setVisible(!tools_.sets().empty());
+  tools_bar_->toggleViewAction()->setVisible(!tools_.sets().empty());
+}
+
+void main_window::fill_tools() {
+  tools_menu_->clear();
+  qDeleteAll(tools_menu_->findChildren<QMenu*>(Qt::FindDirectChildrenOnly));
+  tools_menu_->addAction(actions_->info_tool);
+  for (const auto& set : tools_.sets()) {
+    tools_menu_->addSeparator();
+    for (const auto& action : set) {
+      QMenu* menu = tools_menu_;
+      for (const QString& category : action->categories()) menu = submenu(menu, category);
+      menu->addAction(action.get());
+    }
+  }
+}
+
+void main_window::fill_modes() {
+  modes_bar_->clear();
+  const tool_actions& modes = views_->current_modes();
+  modes.fill(modes_bar_);
+  bool are_there = !modes.sets().empty();
+  modes_bar_->setVisible(are_there);
+  modes_bar_->toggleViewAction()->setVisible(are_there);
+  // The information tool works where no mode takes the mouse.
+  for (const auto& set : modes.sets())
+    for (const auto& action : set)
+      connect(action.get(), &QAction::toggled, actions_->info_tool, [this](bool on) {
+        if (on) actions_->info_tool->setChecked(false);
+      });
 }
 
 }  // namespace zu::desktop

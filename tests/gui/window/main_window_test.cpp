@@ -7,8 +7,10 @@
 #include <QUrl>
 
 #include "host/core/settings.h"
+#include "host/desktop/window/info_window.h"
 #include "host/desktop/window/start_page.h"
 #include "tests/gui/window/window_fixture.h"
+#include "zu/platform/zuk_dib.h"
 
 namespace zu::desktop {
 
@@ -247,6 +249,82 @@ TEST_F(main_window_test, copies_the_command_that_makes_the_picture) {
   QString line = QApplication::clipboard()->text();
   EXPECT_TRUE(line.contains(QLatin1String("zugrid render"))) << line.toStdString();
   EXPECT_TRUE(line.contains(QLatin1String("a.asc"))) << line.toStdString();
+}
+
+TEST_F(main_window_test, escape_puts_the_message_away_and_then_leaves_the_full_screen) {
+  window_->open_paths({grid("a.asc"), path("nothing.asc")});
+  actions().full_screen->setChecked(true);
+  EXPECT_TRUE(window_->isFullScreen());
+  window_->views().current().setFocus();
+  QTest::keyClick(&window_->views().current(), Qt::Key_Escape);
+  EXPECT_FALSE(window_->views().messages().isVisible());
+  EXPECT_TRUE(window_->isFullScreen());
+  QTest::keyClick(&window_->views().current(), Qt::Key_Escape);
+  EXPECT_FALSE(window_->isFullScreen());
+}
+
+TEST_F(main_window_test, rounds_of_projects_leave_nothing_behind) {
+  window_->open_paths({grid("a.asc")});
+  answers_.save_as = path("mine.zgp");
+  actions().file_save->trigger();
+  actions().file_new->trigger();
+  QCoreApplication::processEvents();
+  std::uint64_t bitmaps = zu_dib_get_live_count();
+  qsizetype widgets = QApplication::allWidgets().size();
+  for (int round = 0; round < 1000; ++round) {
+    window_->open_paths({path("mine.zgp")});
+    actions().file_new->trigger();
+    if (round % 100 == 0) QCoreApplication::processEvents();
+  }
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_EQ(zu_dib_get_live_count(), bitmaps);
+  EXPECT_LE(QApplication::allWidgets().size(), widgets + 2);
+  EXPECT_TRUE(captions().isEmpty());
+}
+
+TEST_F(main_window_test, the_information_tool_says_what_lies_under_a_click) {
+  window_->open_paths({grid("a.asc")});
+  ASSERT_TRUE(window_->wait_until_drawn(20000));
+  map_view& map = window_->views().current();
+  Tzu_box_d2 box = *map.box();
+  // The cell of 10, second of the lowest row: its middle is at (150, 50).
+  QPoint at(static_cast<int>((150 - box.x0) / (box.x1 - box.x0) * map.width()),
+            static_cast<int>((box.y1 - 50) / (box.y1 - box.y0) * map.height()));
+  auto* info = window_->findChild<info_window*>();
+  QTest::mouseClick(&map, Qt::LeftButton, {}, at);
+  EXPECT_FALSE(info->isVisible());
+  actions().info_tool->trigger();
+  QTest::mouseClick(&map, Qt::LeftButton, {}, at);
+  EXPECT_TRUE(info->isVisible());
+  ASSERT_EQ(info->topLevelItemCount(), 1);
+  EXPECT_EQ(info->topLevelItem(0)->child(0)->text(1), QStringLiteral("10"));
+  info->setFocus();
+  QTest::keyClick(info, Qt::Key_C, Qt::ControlModifier);
+  EXPECT_TRUE(QApplication::clipboard()->text().endsWith(QStringLiteral("\t10")))
+      << QApplication::clipboard()->text().toStdString();
+}
+
+TEST_F(main_window_test, writes_the_picture_that_is_seen) {
+  window_->open_paths({grid("a.asc")});
+  ASSERT_TRUE(window_->wait_until_drawn(20000));
+  answers_.picture = path("a.png");
+  actions().file_export->trigger();
+  QImage written(path("a.png"));
+  QImage seen = window_->views().current().picture().convertToFormat(written.format());
+  ASSERT_EQ(written.size(), seen.size());
+  EXPECT_EQ(written, seen);
+  actions().copy_picture->trigger();
+  EXPECT_EQ(QApplication::clipboard()->image().convertToFormat(written.format()), written);
+  EXPECT_TRUE(messages().isEmpty());
+}
+
+TEST_F(main_window_test, no_picture_is_written_over_a_source) {
+  window_->open_paths({grid("a.asc")});
+  ASSERT_TRUE(QFile::copy(path("a.asc"), path("b.tif")));
+  window_->open_paths({path("b.tif")});
+  answers_.picture = path("b.tif");
+  actions().file_export->trigger();
+  EXPECT_EQ(messages().size(), 1);
 }
 
 }  // namespace zu::desktop

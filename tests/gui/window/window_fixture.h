@@ -22,7 +22,7 @@ namespace zu::desktop {
 /// What a person would answer, and how often each thing was asked.
 struct answers {
   QStringList files;
-  QString save_as, source, name;
+  QString save_as, source, name, picture;
   std::optional<QString> projection;
   unsaved_answer unsaved = unsaved_answer::cancel;
   int unsaved_asked = 0;
@@ -38,6 +38,10 @@ struct answers {
     made.source_instead = [this](QWidget*, const QString&) { return source; };
     made.name = [this](QWidget*, const QString&, const QString&) { return name; };
     made.projection = [this](QWidget*, const QString&) { return projection; };
+    made.picture = [this](QWidget*, host::page_request seen, const QString&) {
+      seen.picture.kind = host::page_kind_of(picture.toStdString(), false).value();
+      return picture.isEmpty() ? std::nullopt : std::optional(export_request{picture, seen});
+    };
     return made;
   }
 };

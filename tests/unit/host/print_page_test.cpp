@@ -5,7 +5,12 @@
 #include <cmath>
 #include <cstdint>
 #include <memory>
+#include <string>
+#include <utility>
 #include <vector>
+
+#include "host/core/failure.h"
+#include "zu/platform/zuk_msgs.h"
 
 namespace zu::host {
 namespace {
@@ -108,6 +113,44 @@ TEST_F(print_page_test, afterwards_the_page_is_whole_again) {
   zu_drwc_get_pixels(page_.get(), rgba.data());
   EXPECT_EQ(rgba[3], 255);
   EXPECT_EQ(rgba.back(), 255);
+}
+
+/// What a host sees of progress; stops the work before piece `last`.
+struct seen_progress {
+  seen_progress() {
+    Tzu_progress_hooks hooks{};
+    hooks.user = this;
+    hooks.caption = [](void*, const wchar_t* text, void* user) {
+      static_cast<seen_progress*>(user)->caption = text;
+    };
+    hooks.show = [](void*, std::int64_t done, std::int64_t total, void* user) {
+      static_cast<seen_progress*>(user)->shown.emplace_back(done, total);
+    };
+    hooks.stopped = [](void*, void* user) {
+      auto& self = *static_cast<seen_progress*>(user);
+      return self.shown.back().first == self.last;
+    };
+    zu_progress_set_hooks(&hooks);
+  }
+  ~seen_progress() { zu_progress_set_hooks(nullptr); }
+  std::wstring caption;
+  std::vector<std::pair<std::int64_t, std::int64_t>> shown;
+  std::int64_t last = -1;
+};
+
+TEST_F(print_page_test, pieces_tell_their_progress_and_can_be_stopped) {
+  make(nx, ny);
+  seen_progress seen;
+  print_page(
+      render_.get(), [&] { draw_piece(); }, "hills");
+  EXPECT_EQ(seen.caption, L"hills");
+  auto pieces = static_cast<std::int64_t>(boxes_.size());
+  ASSERT_GT(pieces, 1);
+  EXPECT_EQ(seen.shown.back(), std::make_pair(pieces - 1, pieces));
+  boxes_.clear();
+  seen.last = 1;
+  EXPECT_THROW(print(), failure);
+  EXPECT_EQ(boxes_.size(), 1u);
 }
 
 TEST_F(print_page_test, a_document_whose_side_is_no_whole_number_of_dots_is_drawn_to_its_end) {

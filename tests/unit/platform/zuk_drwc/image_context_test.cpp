@@ -167,6 +167,24 @@ TEST(image_context, half_over_nothing_is_half) {
   EXPECT_NEAR(pixel(drwc, 1, 1, 0, 0).opacity, 192, 1);
 }
 
+TEST(image_context, gives_its_pixels_premultiplied_where_they_stand) {
+  drwc_ptr drwc = made_picture(5, 2);
+  dib_ptr dib = made_dib(1, 1, [](auto, auto) { return Tzu_color{255, 0, 0, 127}; });
+  draw(drwc, {4, 1, 5, 2}, dib);
+  std::uint64_t row_bytes = 0;
+  const std::uint32_t* words = zu_drwc_get_argb(drwc.get(), &row_bytes);
+  ASSERT_NE(words, nullptr);
+  ASSERT_GE(row_bytes, 5 * sizeof(std::uint32_t));
+  EXPECT_EQ(words[4], 0x80800000u) << "the top row is the first";
+  EXPECT_EQ(words[row_bytes / 4 + 4], 0u);
+  zu_drwc_fill(drwc.get(), {1, 2, 3, 0});
+  EXPECT_EQ(zu_drwc_get_argb(drwc.get(), &row_bytes), words);
+  EXPECT_EQ(words[row_bytes / 4 + 4], 0xff010203u);
+  drwc_ptr document(zu_drwc_create_pdf(10, 10, 96));
+  EXPECT_EQ(zu_drwc_get_argb(document.get(), &row_bytes), nullptr);
+  EXPECT_EQ(zu_drwc_get_argb(nullptr, &row_bytes), nullptr);
+}
+
 TEST(image_context, has_ink_where_any_pixel_shows) {
   drwc_ptr drwc = made_picture(9, 9);
   EXPECT_FALSE(zu_drwc_has_ink(drwc.get()));

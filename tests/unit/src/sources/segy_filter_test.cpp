@@ -7,10 +7,10 @@
 #include <fstream>
 #include <list>
 
-#include "src/bundle/dialogs.h"
 #include "src/bundle/factory.h"
 #include "src/bundle/strings.h"
 #include "src/layer/grid_layer2d.h"
+#include "src/sources/segy_params.h"
 #include "src/sources/source_filters.h"
 #include "tests/unit/src/sources/builder_host.h"
 #include "zu/platform/zuk_os.h"

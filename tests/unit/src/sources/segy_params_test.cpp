@@ -4,10 +4,11 @@
 
 #include <functional>
 
-#include "src/bundle/dialogs.h"
 #include "src/bundle/modal_dialog.h"
 #include "src/bundle/owned.h"
+#include "src/toolkit/dockers.h"
 #include "tests/unit/platform/zuk_file_segy/made_section.h"
+#include "tests/unit/src/toolkit/element_tree.h"
 #include "zu/platform/zuk_msgs.h"
 #include "zu/platform/zuk_os.h"
 
@@ -16,16 +17,66 @@ namespace {
 using namespace zu;
 using segy_dialog_factory = util::detail::modal_dialog_service_factory<dialog::segy_params>;
 
+/// The dialog as a person meets it: through the docker alone.
+class shown_dialog {
+ public:
+  explicit shown_dialog(handle docker)
+      : docker_(cast<docker_impl>(docker)), elements_(tests::elements_of(docker)) {}
+
+  std::wstring title() const {
+    return tests::text([&](auto v) { call<&docker_impl::visit_caption>(docker_, v); });
+  }
+  std::vector<std::wstring> labels() const {
+    std::vector<std::wstring> all;
+    for (int i = 0; auto label = tests::find<label_impl>(elements_, i); ++i)
+      all.push_back(tests::text([&](auto v) { call<&label_impl::text>(label, v); }));
+    return all;
+  }
+  std::wstring path() const {
+    auto file = tests::find<output_impl>(elements_);
+    return tests::text([&](auto v) { call<&output_impl::text>(file, v); });
+  }
+  std::vector<std::wstring> coord_sources() const {
+    std::vector<std::wstring> all;
+    for (std::uint32_t i = 0; i < call<&dropdown_impl::count>(sources()); ++i)
+      all.push_back(tests::text([&](auto v) { call<&dropdown_impl::item_text>(sources(), i, v); }));
+    return all;
+  }
+  std::int32_t coord_source() const { return call<&dropdown_impl::current>(sources()); }
+  void choose_source(std::int32_t index) { call<&dropdown_impl::set_current>(sources(), index); }
+  std::wstring units() const {
+    return tests::text([&](auto v) { call<&assisted_input_impl::text>(input(), v); });
+  }
+  std::vector<std::wstring> unit_suggestions() const {
+    return tests::texts([&](auto v) { call<&assisted_input_impl::visit_suggestions>(input(), v); });
+  }
+  void type_units(const wchar_t* text) {
+    EXPECT_TRUE(call<&assisted_input_impl::set_text>(input(), text));
+    call<&assisted_input_impl::commit>(input());
+  }
+  bool simplify() const { return call<&checkbox_impl::is_checked>(mark()); }
+  void tick_simplify(bool on) { call<&checkbox_impl::set_checked>(mark(), on); }
+  of<button_box_impl> buttons() const { return tests::find<button_box_impl>(elements_); }
+
+ private:
+  of<dropdown_impl> sources() const { return tests::find<dropdown_impl>(elements_); }
+  of<assisted_input_impl> input() const { return tests::find<assisted_input_impl>(elements_); }
+  of<checkbox_impl> mark() const { return tests::find<checkbox_impl>(elements_); }
+
+  of<docker_impl> docker_;
+  std::vector<handle> elements_;
+};
+
 /// A host whose person sets what a test says and then accepts or refuses.
 class person : public modal_dialog_runner_impl {
  public:
   int run(handle docker) override {
     ++runs;
-    // Both sides are of this program here.
-    act(static_cast<segy_params_docker*>(docker.instance)->model);
+    shown_dialog shown(docker);
+    act(shown);
     return answer;
   }
-  std::function<void(segy_params_model&)> act = [](segy_params_model&) {};
+  std::function<void(shown_dialog&)> act = [](shown_dialog&) {};
   int answer = 1, runs = 0;
 };
 
@@ -89,14 +140,18 @@ class choosing_segy_params : public testing::Test {
 };
 
 TEST_F(choosing_segy_params, begins_automatically_with_units_from_the_headers) {
-  person_.act = [&](segy_params_model& model) {
-    EXPECT_EQ(model.path(), path_);
-    EXPECT_EQ(model.coord_source, 0);
-    EXPECT_EQ(model.units, L"Брать из заголовка трассы");
-    EXPECT_FALSE(model.simplify);
-    EXPECT_EQ(model.coord_sources(),
+  person_.act = [&](shown_dialog& shown) {
+    EXPECT_EQ(shown.title(), L"Параметры загрузки Segy");
+    EXPECT_EQ(shown.labels(),
+              (std::vector<std::wstring>{L"Файл:", L"Координаты трасс", L"Единицы измерения"}));
+    EXPECT_EQ(shown.path(), path_);
+    EXPECT_EQ(shown.coord_source(), 0);
+    EXPECT_EQ(shown.units(), L"Брать из заголовка трассы");
+    EXPECT_FALSE(shown.simplify());
+    EXPECT_EQ(call<&button_box_impl::count>(shown.buttons()), 2U);
+    EXPECT_EQ(shown.coord_sources(),
               (std::vector<std::wstring>{L"Автоматический", L"ПП", L"ПВ", L"ОГТ"}));
-    EXPECT_EQ(model.unit_suggestions(), std::vector<std::wstring>{L"Брать из заголовка трассы"});
+    EXPECT_EQ(shown.unit_suggestions(), std::vector<std::wstring>{L"Брать из заголовка трассы"});
   };
   EXPECT_TRUE(choose());
   expect(1, 3, 1.0, false);
@@ -104,10 +159,10 @@ TEST_F(choosing_segy_params, begins_automatically_with_units_from_the_headers) {
 }
 
 TEST_F(choosing_segy_params, what_was_chosen_is_where_the_next_time_begins) {
-  person_.act = [](segy_params_model& model) {
-    model.coord_source = 2;
-    model.units = L"0.3048";
-    model.simplify = true;
+  person_.act = [](shown_dialog& shown) {
+    shown.choose_source(2);
+    shown.type_units(L"0.3048");
+    shown.tick_simplify(true);
   };
   EXPECT_TRUE(choose());
   expect(1, 4, 0.3048, true);
@@ -115,10 +170,10 @@ TEST_F(choosing_segy_params, what_was_chosen_is_where_the_next_time_begins) {
 
   record_.reset(zu_segy_prms_create());
   person_.answer = 0;
-  person_.act = [](segy_params_model& model) {
-    EXPECT_EQ(model.coord_source, 2);
-    EXPECT_EQ(model.units, L"0.3048");
-    EXPECT_TRUE(model.simplify);
+  person_.act = [](shown_dialog& shown) {
+    EXPECT_EQ(shown.coord_source(), 2);
+    EXPECT_EQ(shown.units(), L"0.3048");
+    EXPECT_TRUE(shown.simplify());
   };
   EXPECT_FALSE(choose());
   EXPECT_EQ(person_.runs, 2);
@@ -136,7 +191,7 @@ TEST_F(choosing_segy_params, refused_or_without_a_host_changes_nothing) {
 TEST_F(choosing_segy_params, letters_for_units_show_a_message) {
   for (const wchar_t* units : {L"abc", L"", L"1x", L"1,5", L"метры"}) {
     messages_.clear();
-    person_.act = [&](segy_params_model& model) { model.units = units; };
+    person_.act = [&](shown_dialog& shown) { shown.type_units(units); };
     EXPECT_FALSE(choose());
     EXPECT_EQ(messages_, std::vector<std::wstring>{L"Не удалось подобрать параметры загрузки"});
   }
@@ -144,11 +199,12 @@ TEST_F(choosing_segy_params, letters_for_units_show_a_message) {
 }
 
 TEST_F(choosing_segy_params, a_source_without_coordinates_shows_the_message_too) {
-  person_.act = [](segy_params_model& model) { model.coord_source = 3; };
+  person_.act = [](shown_dialog& shown) { shown.choose_source(3); };
   EXPECT_FALSE(choose());
   EXPECT_EQ(messages_.size(), 1U);
   messages_.clear();
-  person_.act = [](segy_params_model& model) { model.coord_source = -1; };
+  zu_segy_prms_set_coord_type(record_.get(), 9);
+  person_.act = [](shown_dialog& shown) { EXPECT_EQ(shown.coord_source(), -1); };
   EXPECT_FALSE(choose()) << "without a selection it is the receivers";
   EXPECT_EQ(messages_.size(), 1U);
 }
@@ -164,7 +220,7 @@ const unit_case units[] = {{L"Метры", 0, 1.0},       {L"Дециметры"
 
 TEST_F(choosing_segy_params, texts_of_units_have_their_types) {
   for (const unit_case& unit : units) {
-    person_.act = [&](segy_params_model& model) { model.units = unit.text; };
+    person_.act = [&](shown_dialog& shown) { shown.type_units(unit.text); };
     EXPECT_TRUE(choose());
     expect(1, unit.type, unit.coefficient, false);
   }
@@ -181,21 +237,11 @@ TEST_F(choosing_segy_params, filling_shows_the_text_of_a_type_or_the_number) {
         filled{3, 7, L"Брать из заголовка трассы"}, filled{4, 7, L"7"}, filled{5, 0.25, L"0.25"}}) {
     zu_segy_prms_set_coord_coeff_type(record_.get(), f.type);
     zu_segy_prms_set_coord_coeff(record_.get(), f.coefficient);
-    segy_params_model model(L"a");
-    model.fill(record_.get());
-    EXPECT_EQ(model.units, f.text);
+    dialog::segy_params dialog(L"a");
+    dialog.fill(record_.get());
+    toolkit::detail::dialog_docker<dialog::segy_params> docker(dialog);
+    EXPECT_EQ(shown_dialog(handle_of<docker_impl>(docker)).units(), f.text);
   }
-  zu_segy_prms_set_coord_type(record_.get(), 9);
-  segy_params_model model(L"a");
-  model.fill(record_.get());
-  EXPECT_EQ(model.coord_source, -1);
-}
-
-TEST_F(choosing_segy_params, the_docker_answers_to_no_interface) {
-  segy_params_model model(L"a");
-  segy_params_docker docker(model);
-  EXPECT_EQ(cast<modal_dialog_runner_impl>(handle_of(docker)).instance, nullptr);
-  EXPECT_EQ(cast<segy_params_docker>(handle_of(docker)).instance, nullptr);
 }
 
 }  // namespace

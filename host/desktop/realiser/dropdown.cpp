@@ -1,0 +1,77 @@
+// Choices from a list that drops down.
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QPointer>
+#include <QSignalBlocker>
+#include <QWheelEvent>
+
+#include "host/desktop/realiser/builders.h"
+#include "host/desktop/realiser/pictures.h"
+#include "host/desktop/realiser/realised.h"
+
+namespace zu::desktop {
+namespace {
+
+class dropdown_widget final : public realised<dropdown_impl, QComboBox> {
+ public:
+  dropdown_widget(handle element, QWidget* parent) : realised(element, parent) {
+    setObjectName(QStringLiteral("dropdown"));
+    setFocusPolicy(Qt::StrongFocus);
+    setSizeAdjustPolicy(AdjustToContents);
+    setMaxVisibleItems(20);
+    connect(this, &QComboBox::activated, this, [this](int index) {
+      QPointer<QObject> alive(this);
+      call<&dropdown_impl::set_current>(element_, std::int32_t(index));
+      if (alive) heard(notice::value);
+      if (alive) input_reached(name_of(this));
+    });
+    begin();
+  }
+  QSize minimumSizeHint() const override {
+    QSize whole = QComboBox::minimumSizeHint();
+    return QSize(std::min(whole.width(), characters(this, 14)), whole.height());
+  }
+
+ protected:
+  void heard(notice what) override {
+    QSignalBlocker quiet(this);
+    if (what == notice::list || what == notice::language) fill();
+    setCurrentIndex(call<&dropdown_impl::current>(element_));
+    setToolTip(text_by<&dropdown_impl::hint>(element_));
+    setEnabled(call<&dropdown_impl::enabled>(element_));
+  }
+  void wheelEvent(QWheelEvent* event) override {
+    if (hasFocus())
+      QComboBox::wheelEvent(event);
+    else
+      event->ignore();
+  }
+
+ private:
+  void fill() {
+    clear();
+    QSize pictures(0, 0);
+    auto count = call<&dropdown_impl::count>(element_);
+    for (std::uint32_t i = 0; i < count; ++i) {
+      picture shown = picture_by<&dropdown_impl::item_picture>(element_, i);
+      pictures = pictures.expandedTo(shown.image.size());
+      addItem(icon_of(shown), text_by<&dropdown_impl::item_text>(element_, i));
+      // Where the list is cut, the tip says the whole.
+      setItemData(int(i), itemText(int(i)), Qt::ToolTipRole);
+    }
+    if (!pictures.isEmpty()) setIconSize(pictures);
+    // The list may be wider than the box.
+    view()->setMinimumWidth(std::min(view()->sizeHintForColumn(0) + 2 * fontMetrics().height(),
+                                     60 * fontMetrics().averageCharWidth()));
+  }
+};
+
+}  // namespace
+
+std::span<const builder> dropdown_builders() {
+  static const builder rows[] = {builder_of<dropdown_impl, dropdown_widget>()};
+  return rows;
+}
+
+}  // namespace zu::desktop

@@ -1,0 +1,60 @@
+#pragma once
+// A list or tree with columns: the control of an outline, and of a list.
+
+#include <memory>
+
+#include "host/desktop/realiser/outline_choice.h"
+#include "host/desktop/realiser/outline_delegate.h"
+#include "host/desktop/realiser/outline_flat_view.h"
+#include "host/desktop/realiser/realised.h"
+
+class QHeaderView;
+class QLabel;
+
+namespace zu::desktop {
+
+class outline_widget final : public realised<outline_impl, QWidget> {
+  Q_OBJECT
+ public:
+  outline_widget(handle shown, QWidget* parent);
+
+  QAbstractItemView* view() const { return view_; }
+  outline_model* model() const { return model_; }
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
+ protected:
+  void heard(notice what) override;
+  void showEvent(QShowEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void make_view();
+  void connect_inputs();
+  QHeaderView* header() const;
+  void show_look();
+  void show_columns();
+  void show_empty_text();
+  void fit_columns();
+  int fitting_width(int column) const;
+  int fitting_row_height() const;
+  void open_items(const QModelIndex& parent);
+  void clicked(const QModelIndex& index);
+  void activate(const QModelIndex& index);
+  bool key_pressed(QKeyEvent* event);
+  void toggle_checks();
+  void input_happened();
+  int rows_height(int rows) const;
+
+  outline_model* model_;
+  outline_delegate* delegate_;
+  QAbstractItemView* view_ = nullptr;
+  flat_view* flat_ = nullptr;  // one of the two is the view
+  class QTreeView* tree_ = nullptr;
+  QLabel* empty_text_;
+  outline_choice* choice_ = nullptr;
+  bool is_fitted_ = false;
+};
+
+}  // namespace zu::desktop

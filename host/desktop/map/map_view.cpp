@@ -11,7 +11,7 @@
 namespace zu::desktop {
 namespace {
 
-constexpr int wheel_rest = 150;         // milliseconds without a notch
+constexpr int rest = 150;               // milliseconds without a notch or another size
 constexpr double quick_picture = 40;    // milliseconds: drawn while the wheel turns
 constexpr double visible_wait = 100;    // beyond it the old picture is shown in its new place first
 constexpr double turn_of_drawing = 30;  // then whoever waits has a turn
@@ -96,7 +96,9 @@ QSize map_view::pixels() const {
           static_cast<int>(std::lround(height() * devicePixelRatioF()))};
 }
 
-int map_view::delay() const { return is_wheeling_ && last_cost_ > quick_picture ? wheel_rest : 0; }
+int map_view::delay() const {
+  return (is_wheeling_ || is_sizing_) && last_cost_ > quick_picture ? rest : 0;
+}
 
 void map_view::redraw() { ask_for_picture(0); }
 
@@ -114,10 +116,10 @@ void map_view::follow_window() {
   is_sizing_ = true;
   zu_viewer2d_set_size(viewer(), followed_.width(), followed_.height(),
                        logicalDpiX() * devicePixelRatioF());
+  ask_for_picture(delay());
   is_sizing_ = false;
-  if (wanted_) zoom_to(*std::exchange(wanted_, std::nullopt));
   pointer_->set_dead_zone(3 * devicePixelRatioF());
-  redraw();
+  if (wanted_) zoom_to(*std::exchange(wanted_, std::nullopt));
 }
 
 void map_view::follow_profile() {

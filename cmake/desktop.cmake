@@ -19,7 +19,7 @@ target_link_libraries(zugrid-desktop PRIVATE zu_host_desktop)
 qt_add_resources(zugrid-desktop pictures PREFIX / BASE ${CMAKE_SOURCE_DIR}/resources/desktop
                  FILES ${CMAKE_SOURCE_DIR}/resources/desktop/zugrid.svg)
 target_compile_definitions(zugrid-desktop PRIVATE ZU_VERSION="${PROJECT_VERSION}")
-add_dependencies(zugrid-desktop zuk_grid_layer2d)
+add_dependencies(zugrid-desktop zuk_grid_layer2d zuk_common)
 install(TARGETS zugrid-desktop RUNTIME DESTINATION bin)
 install(FILES resources/desktop/zugrid-desktop.desktop DESTINATION share/applications)
 install(FILES resources/desktop/zugrid.svg DESTINATION share/icons/hicolor/scalable/apps)

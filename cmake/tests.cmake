@@ -14,7 +14,7 @@ set(ZU_TEST_ENVIRONMENT
 # The bundle's own code, on the real platform.
 file(GLOB_RECURSE bundle_tests CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/unit/src/*.cpp)
 add_executable(unit_bundle ${bundle_tests})
-target_link_libraries(unit_bundle PRIVATE zuk_bundle_objects zuk_platform PkgConfig::GDAL GTest::gtest_main)
+target_link_libraries(unit_bundle PRIVATE zuk_bundle_objects zuk_floor_objects zuk_platform PkgConfig::GDAL GTest::gtest_main)
 
 # The platform's own code, with its insides in reach.
 file(GLOB_RECURSE platform_tests CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/unit/platform/*.cpp
@@ -26,14 +26,14 @@ target_link_libraries(unit_platform PRIVATE zuk_platform_objects GTest::gtest_ma
 file(GLOB_RECURSE abi_tests CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/abi/*.cpp)
 add_executable(abi ${abi_tests})
 target_link_libraries(abi PRIVATE zu_house zuk_platform GTest::gtest_main ${CMAKE_DL_LIBS})
-add_dependencies(abi zuk_grid_layer2d)
+add_dependencies(abi zuk_grid_layer2d zuk_common)
 
 # The command line on real files, and the host's core.
 file(GLOB_RECURSE e2e_tests CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/e2e/*.cpp
                                                ${CMAKE_SOURCE_DIR}/tests/unit/host/*.cpp)
 add_executable(e2e ${e2e_tests})
 target_link_libraries(e2e PRIVATE zu_host_cli PkgConfig::GDAL GTest::gtest_main)
-add_dependencies(e2e zugrid)
+add_dependencies(e2e zugrid zuk_common)
 
 # The window, offscreen, driven as a person drives it.
 find_package(Qt6 REQUIRED COMPONENTS Test)
@@ -41,7 +41,7 @@ file(GLOB_RECURSE gui_tests CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/gui/*.cp
 add_executable(gui ${gui_tests})
 target_link_libraries(gui PRIVATE zu_host_desktop Qt6::Test GTest::gtest)
 target_precompile_headers(gui PRIVATE <QtTest> <QtWidgets> <gtest/gtest.h>)
-add_dependencies(gui zuk_grid_layer2d)
+add_dependencies(gui zuk_grid_layer2d zuk_common)
 
 foreach(program unit_bundle unit_platform abi e2e gui)
   zu_test(${program})

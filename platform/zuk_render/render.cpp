@@ -17,6 +17,20 @@ struct Izu_render {
   std::int32_t plane;
 };
 
+namespace {
+
+using page_set = std::unique_ptr<Tzu_ov_d2, void (*)(Tzu_ov_d2*)>;
+
+/// A set in render coordinates brought to the page.
+page_set on_page(const Izu_render& render, const Tzu_ov_d2* set) {
+  page_set copy(zu_ov_d2_create(), &zu_ov_d2_destroy);
+  zu_ov_d2_assign(copy.get(), set);
+  zu_ov_d2_apply_matrix3x3(copy.get(), &render.cr2mm);
+  return copy;
+}
+
+}  // namespace
+
 Izu_render* zu_render_create(Tzu_drwc* drwc, const Tzu_box_d2* map_box) {
   return guarded(map_box, static_cast<Izu_render*>(nullptr), [&](const Tzu_box_d2& box) {
     Tzu_box_d2 page{};
@@ -66,9 +80,19 @@ int32_t zu_render_get_plane(const Izu_render* render) {
 void zu_render_cr_pln(Izu_render* render, const Tzu_ov_d2* lines, const Tzu_pln_style* style) {
   if (lines == nullptr || style == nullptr) return;
   guarded(render, [&](Izu_render& r) {
-    std::unique_ptr<Tzu_ov_d2, void (*)(Tzu_ov_d2*)> copy(zu_ov_d2_create(), &zu_ov_d2_destroy);
-    zu_ov_d2_assign(copy.get(), lines);
-    zu_ov_d2_apply_matrix3x3(copy.get(), &r.cr2mm);
-    zu_drwc_draw_pln(r.drwc, copy.get(), style);
+    page_set page = on_page(r, lines);
+    zu_drwc_draw_pln(r.drwc, page.get(), style);
+  });
+}
+void zu_render_cr_pgn(Izu_render* render, const Tzu_ov_d2* rings, const Tzu_pgn_style* style) {
+  if (rings == nullptr || style == nullptr) return;
+  guarded(render, [&](Izu_render& r) {
+    page_set page = on_page(r, rings);
+    Tzu_box_d2 whole{};
+    zu_drwc_get_page(r.drwc, &whole);
+    zu_drwc_set_clip_pgn(r.drwc, 0, page.get());
+    zu_drwc_fill_box(r.drwc, &whole, style->fill);
+    zu_drwc_set_clip_none(r.drwc);
+    zu_drwc_draw_pln(r.drwc, page.get(), &style->contour);
   });
 }

@@ -35,6 +35,23 @@ ZU_API void zu_pln_style_destroy(Tzu_pln_style* style);
 ZU_API void zu_pln_style_assign(Tzu_pln_style* style, const Tzu_pln_style* from);
 /// The style that `zu_pln_style_create` gives.
 ZU_API void zu_pln_style_init(Tzu_pln_style* style);
+// Parts of the line itself. A colour is a word as of `zu_clr_init_rgba`.
+ZU_API void zu_bpln_style_set_color(Tzu_pln_style* style, uint32_t color);
+ZU_API void zu_bpln_style_set_width(Tzu_pln_style* style, double millimetres);
+
+/// How a polygon is drawn. A plain record.
+typedef struct Tzu_pgn_style {
+  Tzu_color fill;
+  Tzu_pln_style contour;
+} Tzu_pgn_style;
+
+/// A black half transparent fill with the line of `zu_pln_style_create` around it; null if out of
+/// memory.
+ZU_API Tzu_pgn_style* zu_pgn_style_create(void);
+ZU_API void zu_pgn_style_destroy(Tzu_pgn_style* style);
+/// Of the fill, as a word.
+ZU_API void zu_bpgn_style_set_color(Tzu_pgn_style* style, uint32_t color);
+ZU_API Tzu_pln_style* zu_pgn_style_get_bpln_ptr(Tzu_pgn_style* style);  ///< the contour, not owned
 
 // --- Parameters
 

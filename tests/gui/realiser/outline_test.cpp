@@ -388,6 +388,28 @@ TEST_F(outline_on_screen, shows_rows_that_came_and_went) {
   EXPECT_EQ(widget->model()->rowCount(), 1);
 }
 
+TEST_F(outline_on_screen, chooses_no_other_item_when_the_current_one_is_removed) {
+  for (std::uint32_t mode : {outline_chooses_one, outline_chooses_many}) {
+    list = fake_outline();
+    list.mode = mode;
+    list.add(names);
+    open();
+    click(2, 0);
+    const int sets = list.current_sets, mark_sets = list.mark_sets;
+    list.rows = 2;
+    list.current_row = -1;
+    list.marks.clear();
+    list.redraw();
+    EXPECT_EQ(list.current_sets, sets);
+    EXPECT_EQ(list.mark_sets, mark_sets);
+    EXPECT_FALSE(view()->currentIndex().isValid());
+    EXPECT_TRUE(view()->selectionModel()->selectedRows().isEmpty());
+    click(1, 0);
+    EXPECT_EQ(list.current_row, 1);
+    widget.reset();
+  }
+}
+
 TEST_F(outline_on_screen, shows_other_columns) {
   list.add(names);
   open();

@@ -115,11 +115,11 @@ void outline_widget::connect_inputs() {
 
 void outline_widget::heard(notice what) {
   if (what == notice::list || what == notice::language) {
-    model_->refresh(true);
+    choice_->while_items_change([this] { model_->refresh(true); });
     show_columns();
     if (what == notice::list && tree_ != nullptr) open_items({});
   } else if (what == notice::all) {
-    model_->refresh(false);
+    choice_->while_items_change([this] { model_->refresh(false); });
   }
   if (what != notice::value) show_look();
   choice_->show();

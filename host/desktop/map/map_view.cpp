@@ -22,7 +22,12 @@ map_view& map_of(void* user) { return *static_cast<map_view*>(user); }
 }  // namespace
 
 map_view::map_view(QWidget* parent)
-    : QWidget(parent), modes_([this] { mode_changed(); }, [this] { mode_spoke(); }) {
+    : QWidget(parent),
+      modes_([this] { mode_changed(); }, [this] { mode_spoke(); }),
+      // Layers that are being drawn may tell of what they read.
+      watch_([this] {
+        if (!is_in_layer_) redraw();
+      }) {
   Tzu_viewer2d_hooks told = hooks();
   viewer_.reset(zu_viewer2d_create(&told));
   pointer_ = std::make_unique<map_pointer>(viewer(), modes_,
@@ -82,8 +87,6 @@ void map_view::mode_changed() {
 void map_view::mode_spoke() {
   is_mode_picture_old_ = true;
   update();
-  // A mode that only follows the pointer has changed nothing that layers show.
-  if (!is_hovering_) redraw();
 }
 
 // --- Drawing
@@ -127,6 +130,7 @@ void map_view::follow_profile() {
 void map_view::begin_drawing() {
   follow_window();
   follow_profile();
+  watch_.watch(zu_viewer2d_get_scn_2d(viewer()));
   if (!has_box_) zoom_to_all();
   if (last_cost_ > visible_wait) repaint();
   timer_.stop();

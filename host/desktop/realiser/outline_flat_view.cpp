@@ -265,6 +265,12 @@ void flat_view::reset() {
   viewport()->update();
 }
 
+void flat_view::focusInEvent(QFocusEvent* event) {
+  // The base class would make the first row current, which nobody has chosen.
+  QAbstractScrollArea::focusInEvent(event);
+  viewport()->update();
+}
+
 bool flat_view::viewportEvent(QEvent* event) {
   int hovered = hovered_row_;
   if (event->type() == QEvent::HoverMove || event->type() == QEvent::HoverEnter)

@@ -47,6 +47,7 @@ class flat_view final : public QAbstractItemView {
   void rowsInserted(const QModelIndex& parent, int first, int last) override;
   void rowsAboutToBeRemoved(const QModelIndex& parent, int first, int last) override;
   bool viewportEvent(QEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
   QSize viewportSizeHint() const override;
 
  private:

@@ -103,10 +103,12 @@ QStringList document::add_sources(const QStringList& sources) {
     for (const QString& source : sources) {
       try {
         std::vector<host::layer*> made = project_->add(scene(), source.toStdString());
+        if (!made.empty()) added = made.back();
         // What has no fields, or none to colour, stays as it came.
         for (host::layer* each : made)
           if (host::why_not({}, *each).empty()) host::apply_look({}, *each);
-        if (!made.empty()) added = made.back();
+      } catch (const host::declined&) {
+        continue;
       } catch (const host::failure& problem) {
         failures += QString::fromUtf8(problem.what());
       }

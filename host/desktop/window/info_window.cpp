@@ -96,8 +96,7 @@ void info_window::retranslate() {
   setHeaderLabels({words("Name", "Название"), words("Value", "Значение")});
   if (!is_empty_) return;
   clear();
-  auto* hint = new QTreeWidgetItem(this, {words("Click the map with the information tool.",
-                                                "Щёлкните по карте инструментом «Информация».")});
+  auto* hint = new QTreeWidgetItem(this, {words("Click the map", "Щёлкните по карте")});
   hint->setFlags(Qt::NoItemFlags);
   hint->setFirstColumnSpanned(true);
 }

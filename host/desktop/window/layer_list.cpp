@@ -7,6 +7,7 @@
 
 #include "host/core/legend.h"
 #include "host/core/texts.h"
+#include "host/desktop/appearance.h"
 #include "host/desktop/window/legend_bar.h"
 #include "host/desktop/words.h"
 
@@ -36,12 +37,20 @@ QString key_of(const host::legend_part& part) {
 }
 
 /// Rows a little apart, for the eye and for the hand.
-struct airy_rows : QStyledItemDelegate {
+class airy_rows final : public QStyledItemDelegate {
+ public:
   using QStyledItemDelegate::QStyledItemDelegate;
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
     QSize size = QStyledItemDelegate::sizeHint(option, index);
     bool is_layer = !index.parent().isValid();
     return is_layer ? QSize(size.width(), size.height() + 6) : size;
+  }
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    // The frame of a check box is drawn in a shade of this, which is no colour of a dark list.
+    if (is_dark()) option->palette.setColor(QPalette::Window, QColor(160, 160, 160));
   }
 };
 
@@ -113,6 +122,11 @@ QStringList layer_list::problems_of(const host::project_layer& layer) {
   if (layer.shown->is_missing())
     problems += words("The source is missing. Double click to choose another one.",
                       "Источник не найден. Двойной щелчок — выбрать другой.");
+  std::wstring scene =
+      host::text_of([&](Tzu_string_adp* a) { zu_lr2d_get_dst_pj4wstr(layer.shown->entity(), a); });
+  if (!layer.shown->is_missing() && !scene.empty() && layer.shown->projection().empty())
+    problems += words("It has no projection, and stands where its own coordinates say.",
+                      "У слоя нет проекции; он стоит по своим координатам.");
   for (const std::string& reason : host::reasons(host::wide(layer.source())))
     problems += QString::fromStdString(reason);
   return problems;
@@ -152,7 +166,6 @@ void layer_list::follow_active() {
 }
 
 void layer_list::fill(QTreeWidgetItem* item, const host::project_layer& layer) {
-  QStringList problems = problems_of(layer);
   bool dead = layer.shown == nullptr || layer.shown->is_missing();
   item->setText(0, QString::fromStdString(layer.caption()));
   item->setCheckState(
@@ -166,17 +179,30 @@ void layer_list::fill(QTreeWidgetItem* item, const host::project_layer& layer) {
   item->setFont(0, font);
   item->setForeground(
       0, palette().brush(dead ? QPalette::Disabled : QPalette::Active, QPalette::Text));
-  item->setIcon(0, problems.isEmpty() ? QIcon() : QIcon::fromTheme(QStringLiteral("data-warning")));
-  QString tip = QString::fromStdString(layer.source()).toHtmlEscaped();
-  for (const QString& problem : problems) tip += QStringLiteral("<br>• ") + problem.toHtmlEscaped();
-  item->setToolTip(0, QStringLiteral("<qt>") + tip + QStringLiteral("</qt>"));
-  item->setData(0, Qt::AccessibleDescriptionRole, problems.join(QLatin1Char('\n')));
+  fill_problems(item, layer);
   if (layer.shown != nullptr && !layer.shown->is_missing()) {
     fill_legend(item, *layer.shown);
   } else {
     qDeleteAll(item->takeChildren());
     item->setData(0, legend_role, {});
   }
+}
+
+void layer_list::fill_problems(QTreeWidgetItem* item, const host::project_layer& layer) {
+  QStringList problems = problems_of(layer);
+  item->setIcon(0, problems.isEmpty() ? QIcon() : QIcon::fromTheme(QStringLiteral("data-warning")));
+  QString tip = QString::fromStdString(layer.source()).toHtmlEscaped();
+  for (const QString& problem : problems) tip += QStringLiteral("<br>• ") + problem.toHtmlEscaped();
+  item->setToolTip(0, QStringLiteral("<qt>") + tip + QStringLiteral("</qt>"));
+  item->setData(0, Qt::AccessibleDescriptionRole, problems.join(QLatin1Char('\n')));
+}
+
+void layer_list::follow_problems() {
+  filling_ = true;
+  const auto& layers = document_.scene().layers;
+  for (int row = 0; row < topLevelItemCount(); ++row)
+    fill_problems(topLevelItem(row), layers.at(std::size_t(index_of_row(row))));
+  filling_ = false;
 }
 
 void layer_list::fill_legend(QTreeWidgetItem* item, const host::layer& layer) {

@@ -20,6 +20,8 @@ class layer_list : public QTreeWidget {
   int current_index() const;
   /// Lets a person type another caption for that layer.
   void edit_current();
+  /// Shows the reasons that are kept now: a picture that was drawn may have left some.
+  void follow_problems();
   /// The reasons that are kept for a layer, and what else is to be said of it; empty if all is
   /// well.
   static QStringList problems_of(const host::project_layer& layer);
@@ -36,6 +38,7 @@ class layer_list : public QTreeWidget {
   void follow();
   void follow_active();
   void fill(QTreeWidgetItem* item, const host::project_layer& layer);
+  void fill_problems(QTreeWidgetItem* item, const host::project_layer& layer);
   void fill_legend(QTreeWidgetItem* item, const host::layer& layer);
   void take_edit(QTreeWidgetItem* item);
   int index_of_row(int row) const { return topLevelItemCount() - 1 - row; }

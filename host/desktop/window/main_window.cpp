@@ -166,6 +166,7 @@ void main_window::connect_map() {
   connect(views_, &scene_views::drawn, this, [this, slow] {
     slow->stop();
     status_->show_busy(false);
+    layers_->follow_problems();
   });
 }
 

@@ -186,6 +186,25 @@ TEST_F(layer_list_test, a_missing_source_is_marked_and_another_one_chosen) {
   EXPECT_EQ(row(1)->text(0), QStringLiteral("moved.asc"));
 }
 
+TEST_F(layer_list_test, a_file_that_cannot_be_read_to_its_end_is_marked) {
+  QFile file(path("cut.asc"));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write("ncols 4\nnrows 3\nxllcorner 0\nyllcorner 0\ncellsize 100\n1 2 3 4\n5");
+  file.close();
+  window_->open_paths({path("cut.asc")});
+  EXPECT_EQ(captions()[0], QStringLiteral("cut.asc"));
+  window_->wait_until_drawn(20000);
+  EXPECT_FALSE(row(0)->icon(0).isNull());
+  EXPECT_TRUE(row(1)->icon(0).isNull());
+}
+
+TEST_F(layer_list_test, a_layer_without_a_projection_in_a_scene_with_one_is_marked) {
+  EXPECT_TRUE(row(0)->icon(0).isNull());
+  content().set_projection(QStringLiteral("EPSG:32637"));
+  EXPECT_FALSE(row(0)->icon(0).isNull());
+  EXPECT_TRUE(row(0)->toolTip(0).contains(QLatin1String("no projection")));
+}
+
 TEST_F(layer_list_test, a_layer_of_an_unknown_type_is_kept_and_said) {
   answers_.save_as = path("mine.zgp");
   actions().file_save->trigger();

@@ -194,6 +194,8 @@ void bundle::set_dialog_runners(dialog_runners runners) {
   dialogs_->attach();
 }
 
+bool bundle::asks_a_person() const { return static_cast<bool>(dialogs_->runners); }
+
 layer_2d_service bundle::layers(const std::string& type) const { return find(layers_, type); }
 layer_2d_externalization_service bundle::externalization(const std::string& type) const {
   return find(trees_, type);

@@ -58,6 +58,7 @@ class bundle final : service_factory_receiver_impl {
   /// Who runs the bundles' dialogs from now on. Without it, and for an id without a runner, a
   /// dialog is declined, but for one that opens with what a person would mostly take.
   void set_dialog_runners(dialog_runners runners);
+  bool asks_a_person() const;  ///< by such runners
 
   /// What takes files, the filters of the service of least order first.
   const std::vector<scene_editor_filter>& filters() const { return filters_; }

@@ -12,4 +12,10 @@ struct failure : std::runtime_error {
       : std::runtime_error(file + ": " + reason) {}
 };
 
+/// Nothing went wrong: a person declined what they were asked about the file, and was told all
+/// there is to tell.
+struct declined : failure {
+  explicit declined(const std::string& file) : failure(file, "was not opened") {}
+};
+
 }  // namespace zu::host

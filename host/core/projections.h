@@ -23,7 +23,6 @@ class projections {
   /// Reads the database, which takes a tenth of a second or so. Throws `failure`.
   projections();
 
-  const std::vector<projection_entry>& all() const { return all_; }
   /// The entry of a text such as "EPSG:32637"; null if there is none.
   const projection_entry* find(const std::string& text) const;
   /// What answers to every word of a text, in any order: words that begin so in its code, name or

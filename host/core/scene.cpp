@@ -69,10 +69,12 @@ layer& scene::add(const std::string& source) {
   auto found = std::find_if(filters.begin(), filters.end(), takes);
   if (found != filters.end())
     call<&scene_editor_filter_impl::add>(*found, builder.get(), path.c_str());
-  // A filter that neither made a layer nor said why had a dialog declined, for want of trace
-  // coordinates mostly; the samples can be seen without.
-  if (layers_.size() == before && work.error_text.empty())
+  // A filter that neither made a layer nor said why had a dialog declined. Where nobody was asked
+  // that is for want of trace coordinates mostly, and the samples can be seen without.
+  if (layers_.size() == before && work.error_text.empty()) {
+    if (found != filters.end() && services_.asks_a_person()) throw declined(source);
     zu_lr_builder_add_layer(builder.get(), path.c_str(), grid_type);
+  }
   if (layers_.size() == before) {
     std::vector<std::string> why = reasons(path, zu_problem_open);
     if (!why.empty()) throw failure(source, why.back());

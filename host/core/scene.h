@@ -17,7 +17,7 @@ class scene {
   scene& operator=(const scene&) = delete;
 
   /// Opens a source as a layer on top, by the bundle's filter that takes it or, where none does, as
-  /// a grid. Throws `failure` if no layer came of it.
+  /// a grid. Throws `failure` if no layer came of it, `declined` if a person did not want it.
   layer& add(const std::string& source);
   /// Adds a layer of a type on top, whether its source is there or not.
   layer& add_layer(const std::string& type, const std::string& source);

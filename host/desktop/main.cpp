@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <map>
 #include <memory>
+#include <optional>
 
 #include "host/core/bundle.h"
 #include "host/core/failure.h"
@@ -137,14 +138,21 @@ class dialog_windows {
   std::map<std::wstring, std::unique_ptr<modal_runner>> runners_;
 };
 
-int run(const request& wanted) {
+/// What the platform and the bundles say and ask, and the clipboard that they share with a person.
+struct conversation {
   clipboard_bridge clipboard;
   message_windows messages;
   progress_window progress;
   dialog_windows dialogs;
+};
+
+int run(const request& wanted) {
+  std::optional<conversation> person;  // nobody is there to answer while a picture is made
+  if (wanted.screenshot.isEmpty() || wanted.gallery) person.emplace();
   zu::host::bundle services({"zuk_common.so"});
   serve_viewers(&services);
-  services.set_dialog_runners([&](const std::wstring& id) { return dialogs.of(id); });
+  if (person)
+    services.set_dialog_runners([&](const std::wstring& id) { return person->dialogs.of(id); });
   if (wanted.gallery) {
     show_gallery(services, wanted.screenshot);
     return 0;

@@ -54,6 +54,7 @@ segy_params::segy_params(std::wstring path) {
   file_.set_width(path_width);
   coord_source_.add(352, 0, zu_segy_coord_any).add(353, 0, 0).add(354, 0, 1).add(355, 0, 2);
   units_.suggest(text_from_header);
+  for (const known_unit& unit : known_units) units_.suggest(unit.text);
   simplify_.assign(false);
   fields_.place(file_).place(coord_source_).place(units_).skip().place(simplify_);
   fields_.set_column_stretch(1);

@@ -3,13 +3,14 @@
 // the fixed ones.
 
 #include "src/toolkit/context_menu.h"
+#include "src/toolkit/element.h"
 #include "zu/grid_table.h"
 
 namespace zu::toolkit {
 
 /// One fixed row of captions over the data, and at the left as many fixed columns as a derived
 /// class says, of which the first is for running numbers.
-class grid : public with_context_menu<grid_impl> {
+class grid : public with_context_menu<element_base<grid_impl>> {
  public:
   virtual std::uint32_t data_column_count() { return 0; }
   virtual std::uint64_t data_row_count() { return 0; }
@@ -50,14 +51,9 @@ class grid : public with_context_menu<grid_impl> {
   void toggle(std::uint32_t column, std::uint64_t row) override;
   void move_to(std::uint32_t column, std::uint64_t row) override;
   bool position(std::uint32_t* column, std::uint64_t* row) override;
-  void attach_view(element_view view) override { view_ = view; }
 
-  void tell_columns() { call<&element_view_impl::value_changed>(view_); }
-  void redraw() { call<&element_view_impl::redraw>(view_); }
-  void tell_data() { call<&element_view_impl::list_changed>(view_); }
-
- private:
-  element_view view_;
+  void tell_columns() { tell_value(); }  ///< columns are others
+  void tell_data() { tell_list(); }      ///< rows are others, or fewer or more
 };
 
 /// The running number of a row, in the first fixed column.

@@ -5,37 +5,25 @@ namespace zu::toolkit {
 void list::clear() {
   items_.clear();
   current_ = -1;
-  call<&element_view_impl::list_changed>(view_);
+  tell_list();
 }
 
 list& list::add(std::wstring text) {
   items_.push_back({std::move(text)});
-  call<&element_view_impl::list_changed>(view_);
+  tell_list();
   return *this;
 }
 
 void list::choose(std::int32_t index) {
-  if (index == current_) return;
-  current_ = index;
-  call<&element_view_impl::value_changed>(view_);
+  if (replace(current_, index)) tell_value();
 }
 
 void list::mark(std::uint32_t index, bool marked) {
-  if (index >= items_.size() || items_[index].marked == marked) return;
-  items_[index].marked = marked;
-  call<&element_view_impl::value_changed>(view_);
-}
-
-void list::set_enabled(bool enabled) {
-  if (enabled == enabled_) return;
-  enabled_ = enabled;
-  call<&element_view_impl::redraw>(view_);
+  if (index < items_.size() && replace(items_[index].marked, marked)) tell_value();
 }
 
 void list::set_selection_mode(std::uint32_t mode) {
-  if (mode == selection_mode_) return;
-  selection_mode_ = mode;
-  call<&element_view_impl::redraw>(view_);
+  if (replace(selection_mode_, mode)) redraw();
 }
 
 void list::item_text(std::uint32_t index, string_visitor visitor) {

@@ -6,12 +6,13 @@
 #include <vector>
 
 #include "src/toolkit/context_menu.h"
+#include "src/toolkit/element.h"
 #include "zu/outline.h"
 
 namespace zu::toolkit {
 
 /// Texts of which a person chooses one, or several where `set_selection_mode` allows it.
-class list : public with_context_menu<list_impl> {
+class list : public with_context_menu<with_enabled<element_base<list_impl>>> {
  public:
   std::function<void(std::int32_t)> on_current;                ///< a person chose an item
   std::function<void(std::uint32_t)> on_activate;              ///< a double click, or Enter
@@ -24,13 +25,11 @@ class list : public with_context_menu<list_impl> {
   /// Stores an index, -1 for none; the view is told of a change.
   void choose(std::int32_t index);
   void mark(std::uint32_t index, bool marked);
-  void set_enabled(bool enabled);
   void set_selection_mode(std::uint32_t mode);
 
   std::uint32_t count() override { return static_cast<std::uint32_t>(items_.size()); }
   void item_text(std::uint32_t index, string_visitor visitor) override;
   void item_picture(std::uint32_t index, bitmap_visitor visitor) override;
-  bool enabled() override { return enabled_; }
   std::uint32_t selection_mode() override { return selection_mode_; }
   std::int32_t current() override { return current_; }
   void set_current(std::int32_t index) override;
@@ -39,7 +38,6 @@ class list : public with_context_menu<list_impl> {
   void activate(std::uint32_t index) override;
   bool is_editable(std::uint32_t) override { return static_cast<bool>(on_text); }
   bool set_text(std::uint32_t index, const wchar_t* text) override;
-  void attach_view(element_view view) override { view_ = view; }
 
  private:
   struct entry {
@@ -49,8 +47,6 @@ class list : public with_context_menu<list_impl> {
   std::vector<entry> items_;
   std::int32_t current_ = -1;
   std::uint32_t selection_mode_ = outline_chooses_one;
-  bool enabled_ = true;
-  element_view view_;
 };
 
 }  // namespace zu::toolkit

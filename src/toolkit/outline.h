@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "src/toolkit/context_menu.h"
+#include "src/toolkit/element.h"
 #include "zu/outline.h"
 
 namespace zu::toolkit {
@@ -41,19 +42,13 @@ template <class base> class with_outline_column_visit : public base {
   std::vector<handle> columns_;
 };
 
-/// Keeps the view and tells it of changes.
-template <class base> class with_outline_view : public base {
+/// What all outlines share. `redraw` tells the view that items are others.
+class outline_base
+    : public with_outline_column_visit<with_context_menu<element_base<outline_impl>>> {
  public:
-  void attach_view(element_view view) override { view_ = view; }
-  void tell_current() { call<&element_view_impl::value_changed>(view_); }
-  void redraw() { call<&element_view_impl::redraw>(view_); }
-  void tell_columns() { call<&element_view_impl::list_changed>(view_); }
-
- private:
-  element_view view_;
+  void tell_current() { tell_value(); }  ///< the current item or marks are others
+  void tell_columns() { tell_list(); }   ///< columns are others too
 };
-
-using outline_base = with_outline_view<with_outline_column_visit<with_context_menu<outline_impl>>>;
 
 }  // namespace detail
 

@@ -12,7 +12,7 @@ namespace {
 
 std::string common_path() { return build_folder() + "/lib/zuk_common.so"; }
 
-TEST(common_module, exports_what_the_bundle_does) {
+TEST(common_module_file, exports_what_the_bundle_does) {
   std::set<std::string> names;
   auto last_word = [](const std::string& line) { return line.substr(line.rfind(' ') + 1); };
   for (const std::string& line : lines_of("nm -D --defined-only '" + common_path() + "'"))
@@ -40,9 +40,12 @@ class common_module : public testing::Test {
   std::vector<named_receiver::visit> factories_;
 };
 
-TEST_F(common_module, offers_the_modes_of_viewers_alone) {
-  ASSERT_EQ(factories_.size(), 2u);  // the localizer client is the first
-  EXPECT_EQ(factories_[1].name, L"zugrid/viewer/2d");
+TEST_F(common_module, offers_the_modes_of_viewers_and_the_gallery) {
+  ASSERT_EQ(factories_.size(), 4u);  // the localizer client is the first
+  EXPECT_EQ(factories_[1].id, L"zugrid/viewer/2d");
+  EXPECT_EQ(factories_[2].id, L"zugrid/gallery");
+  EXPECT_EQ(factories_[3].id, L"");  // its dialog
 }
+
 }  // namespace
 }  // namespace plain

@@ -195,6 +195,13 @@ void export_dialog::add_rows() {
   ok_->setText(words("&Export", "&Экспортировать"));
   connect(buttons, &QDialogButtonBox::accepted, this, &export_dialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &export_dialog::reject);
+  QWidget* before = path_;
+  for (QWidget* each : std::initializer_list<QWidget*>{browse_, format_, accurate_, width_, height_,
+                                                       keep_shape_, dots_, as_seen_, all_layers_,
+                                                       legend_, transparent_, color_button_, ok_}) {
+    setTabOrder(before, each);
+    before = each;
+  }
   auto* layout = new QVBoxLayout(this);
   layout->addLayout(rows);
   layout->addWidget(problem_);

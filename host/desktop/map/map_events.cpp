@@ -57,9 +57,7 @@ void map_view::mousePressEvent(QMouseEvent* event) {
 
 void map_view::mouseMoveEvent(QMouseEvent* event) {
   QPointF at = pixel_at(event->position());
-  is_hovering_ = !pointer_->is_dragging();
   pointer_->move(event->modifiers(), at);
-  is_hovering_ = false;
   if (!box()) return;
   point_2d point = pointer_->scene_point(at);
   Q_EMIT cursor_moved(point.x, point.y, rect().contains(event->position().toPoint()));

@@ -11,7 +11,7 @@
 namespace zu::desktop {
 namespace {
 
-constexpr int wheel_rest = 150;         // milliseconds without a notch
+constexpr int rest = 150;               // milliseconds without a notch or another size
 constexpr double quick_picture = 40;    // milliseconds: drawn while the wheel turns
 constexpr double visible_wait = 100;    // beyond it the old picture is shown in its new place first
 constexpr double turn_of_drawing = 30;  // then whoever waits has a turn
@@ -22,7 +22,12 @@ map_view& map_of(void* user) { return *static_cast<map_view*>(user); }
 }  // namespace
 
 map_view::map_view(QWidget* parent)
-    : QWidget(parent), modes_([this] { mode_changed(); }, [this] { mode_spoke(); }) {
+    : QWidget(parent),
+      modes_([this] { mode_changed(); }, [this] { mode_spoke(); }),
+      // Layers that are being drawn may tell of what they read.
+      watch_([this] {
+        if (!is_in_layer_) redraw();
+      }) {
   Tzu_viewer2d_hooks told = hooks();
   viewer_.reset(zu_viewer2d_create(&told));
   pointer_ = std::make_unique<map_pointer>(viewer(), modes_,
@@ -82,8 +87,6 @@ void map_view::mode_changed() {
 void map_view::mode_spoke() {
   is_mode_picture_old_ = true;
   update();
-  // A mode that only follows the pointer has changed nothing that layers show.
-  if (!is_hovering_) redraw();
 }
 
 // --- Drawing
@@ -93,7 +96,9 @@ QSize map_view::pixels() const {
           static_cast<int>(std::lround(height() * devicePixelRatioF()))};
 }
 
-int map_view::delay() const { return is_wheeling_ && last_cost_ > quick_picture ? wheel_rest : 0; }
+int map_view::delay() const {
+  return (is_wheeling_ || is_sizing_) && last_cost_ > quick_picture ? rest : 0;
+}
 
 void map_view::redraw() { ask_for_picture(0); }
 
@@ -111,10 +116,10 @@ void map_view::follow_window() {
   is_sizing_ = true;
   zu_viewer2d_set_size(viewer(), followed_.width(), followed_.height(),
                        logicalDpiX() * devicePixelRatioF());
+  ask_for_picture(delay());
   is_sizing_ = false;
-  if (wanted_) zoom_to(*std::exchange(wanted_, std::nullopt));
   pointer_->set_dead_zone(3 * devicePixelRatioF());
-  redraw();
+  if (wanted_) zoom_to(*std::exchange(wanted_, std::nullopt));
 }
 
 void map_view::follow_profile() {
@@ -127,6 +132,7 @@ void map_view::follow_profile() {
 void map_view::begin_drawing() {
   follow_window();
   follow_profile();
+  watch_.watch(zu_viewer2d_get_scn_2d(viewer()));
   if (!has_box_) zoom_to_all();
   if (last_cost_ > visible_wait) repaint();
   timer_.stop();

@@ -10,6 +10,7 @@
 
 #include "host/desktop/map/frame_drawing.h"
 #include "host/desktop/map/map_pointer.h"
+#include "host/desktop/map/scene_watch.h"
 
 namespace zu::desktop {
 
@@ -115,13 +116,13 @@ class map_view : public QWidget {
   std::unique_ptr<map_layers> layers_;
   mode_host modes_;
   std::unique_ptr<map_pointer> pointer_;
+  scene_watch watch_;
 
   map_frame frame_;
   QPoint shift_;  ///< of the frame, while it is dragged
   std::optional<Tzu_box_i2> rubber_box_;
   QImage mode_picture_;
   bool is_mode_picture_old_ = false;
-  bool is_hovering_ = false;
 
   QTimer timer_;
   std::shared_ptr<frame_drawing> drawing_;

@@ -10,8 +10,7 @@ namespace zu::desktop {
 
 class mode_host {
  public:
-  /// `mode_changed`: another mode is in force, or none. `mode_spoke`: it wants to be drawn anew, or
-  /// has changed what the scene shows.
+  /// `mode_changed`: another mode is in force, or none. `mode_spoke`: it wants to be drawn anew.
   mode_host(std::function<void()> mode_changed, std::function<void()> mode_spoke);
   ~mode_host() { set_extension({}); }
   mode_host(const mode_host&) = delete;

@@ -24,8 +24,9 @@ viewer_panel::viewer_panel(of<viewer_2d_panel_impl> panel, const host::bundle* s
 
 viewer_panel::~viewer_panel() {
   map_->set_extension({});
-  if (is_attached_)
-    call<&viewer_2d_panel_impl::attach_viewer>(panel_, static_cast<Tzu_viewer*>(nullptr));
+  if (!is_attached_) return;
+  call<&viewer_2d_panel_impl::attach_viewer>(panel_, static_cast<Tzu_viewer*>(nullptr));
+  zu_viewer2d_set_scn_2d(map_->viewer(), nullptr);  // the scene may go before the map
 }
 
 QSize viewer_panel::sizeHint() const {

@@ -76,7 +76,7 @@ void button_box_widget::press(std::size_t index) {
   entry chosen = entries_[index];
   role_row row = row_of(chosen.role);
   // What is refused in a line is looked at again before a dialog is accepted.
-  if (!finish_typing() && !row.cancels) return;
+  if (!finish_typing(this) && !row.cancels) return;
   QString name = name_of(this, chosen.button->text());
   QPointer<QDialog> dialog = qobject_cast<QDialog*>(window());
   bool closes = call<&button_box_impl::press>(element_, std::int32_t(index));

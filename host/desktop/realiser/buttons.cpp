@@ -105,7 +105,7 @@ class button_widget final : public button_control<button_impl, QPushButton> {
  private:
   void pressed() {
     QPointer<QObject> alive(this);
-    finish_typing();
+    finish_typing(this);
     QString name = name_of(this, text());
     if (alive) call<&button_impl::press>(element_);
     if (alive) heard(notice::value);
@@ -165,14 +165,14 @@ class radiobutton_widget final : public button_control<radiobutton_impl, QRadioB
  private:
   void pressed() {
     QPointer<QWidget> alive(this);
-    if (call<&radiobutton_impl::pressed>(element_)) return;
-    call<&radiobutton_impl::press>(element_);
+    bool is_new = !call<&radiobutton_impl::pressed>(element_);
+    if (is_new) call<&radiobutton_impl::press>(element_);
     if (!alive) return;
     // The click took the mark from every neighbour, of which some may be of another group.
     const QObjectList siblings = parent()->children();
     for (QObject* sibling : siblings)
       if (auto* radio = dynamic_cast<radiobutton_widget*>(sibling)) radio->heard(notice::value);
-    input_reached(name_of(this, text()));
+    if (is_new) input_reached(name_of(this, text()));
   }
 };
 

@@ -99,7 +99,7 @@ void grid_widget::paint_data_cell(QPainter& painter, grid_place at, const shown_
   painter.drawLine(rect.bottomLeft(), rect.bottomRight());
   paint_inside(painter, cell, rect, ink);
   if (current() == at) {
-    painter.setPen(QPen(hasFocus() ? highlight : mixed(back, ink, 0.4), 2));
+    painter.setPen(QPen(is_chosen(at) ? ink : hasFocus() ? highlight : mixed(back, ink, 0.4), 2));
     painter.drawRect(rect.adjusted(1, 1, -2, -2));
   }
 }

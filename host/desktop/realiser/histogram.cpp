@@ -66,6 +66,7 @@ class histogram_widget final : public realised<histogram_impl, QWidget> {
       if (!bars_.empty()) draw_limits(painter, area);
     }
     painter.setPen(palette().color(QPalette::Mid));
+    painter.setBrush(Qt::NoBrush);
     painter.drawRect(area.adjusted(0, 0, -1, -1));
     if (!hasFocus()) return;
     QStyleOptionFocusRect frame;
@@ -137,11 +138,11 @@ class histogram_widget final : public realised<histogram_impl, QWidget> {
     }
   }
   void draw_limits(QPainter& painter, QRectF area) const {
+    painter.setBrush(palette().color(QPalette::Text));
     for (int i = 0; i < 2; ++i) {
       double x = area.left() + std::clamp(limits_[i], 0.0, 1.0) * area.width();
       painter.setPen(QPen(palette().color(QPalette::Text), i == chosen_ ? 2 : 1));
       painter.drawLine(QPointF(x, area.top()), QPointF(x, area.bottom()));
-      painter.setBrush(palette().color(QPalette::Text));
       painter.drawPolygon(QPolygonF(
           {QPointF(x - 4, area.top()), QPointF(x + 4, area.top()), QPointF(x, area.top() + 6)}));
     }
@@ -158,7 +159,7 @@ class histogram_widget final : public realised<histogram_impl, QWidget> {
     QPointer<QObject> alive(this);
     call<&histogram_impl::set_range>(element_, low, high);
     if (alive) heard(notice::value);
-    if (alive) input_reached(name_of(this).section(QLatin1Char(':'), 0, 0));
+    if (alive) input_reached(words("Limits", "Пределы"));
   }
 
   std::vector<double> bars_;

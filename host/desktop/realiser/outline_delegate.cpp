@@ -25,6 +25,9 @@ void paint_panel(QPainter* painter, const QStyleOptionViewItem& option) {
   style_of(option)->drawPrimitive(QStyle::PE_PanelItemViewItem, &option, painter, option.widget);
 }
 
+/// Texts keep off the cells beside them.
+QRect inside_of(const QStyleOptionViewItem& option) { return option.rect.adjusted(3, 0, -3, 0); }
+
 QRect button_rect(const QStyleOptionViewItem& option) {
   QRect rect = option.rect;
   rect.setLeft(rect.right() - std::min(rect.height() + 4, rect.width()) + 1);
@@ -92,17 +95,19 @@ void outline_delegate::paint(QPainter* painter, const QStyleOptionViewItem& give
   if (kind == column_kind::boolean) return paint_mark(painter, option, index);
   if (kind == column_kind::picture) return paint_picture(painter, option, index);
   if (kind == column_kind::canvas) return paint_canvas(painter, option, index);
-  if (!has_button(index)) return QStyledItemDelegate::paint(painter, option, index);
-  const QRect button = button_rect(option);
+  const bool with_button = has_button(index);
   initStyleOption(&option, index);
   paint_panel(painter, option);
-  option.rect.setRight(button.left() - 1);
-  QStyledItemDelegate::paint(painter, option, index);
+  option.backgroundBrush = {};
+  option.rect = inside_of(given);
+  if (with_button) option.rect.setRight(button_rect(given).left() - 1);
+  style_of(option)->drawControl(QStyle::CE_ItemViewItem, &option, painter, option.widget);
+  if (!with_button) return;
   QStyleOptionButton press;
-  press.rect = button;
+  press.rect = button_rect(given);
   press.text = QString(QChar(0x2026));
   press.state = option.state & (QStyle::State_Enabled | QStyle::State_Active);
-  press.state |= pressed_button_ == index ? QStyle::State_Sunken : QStyle::State_Raised;
+  press.state |= pressed_ == index ? QStyle::State_Sunken : QStyle::State_Raised;
   press.palette = option.palette;
   press.fontMetrics = option.fontMetrics;
   style_of(option)->drawControl(QStyle::CE_PushButton, &press, painter, option.widget);
@@ -167,7 +172,8 @@ void outline_delegate::paint_canvas(QPainter* painter, const QStyleOptionViewIte
 
 QSize outline_delegate::sizeHint(const QStyleOptionViewItem& option,
                                  const QModelIndex& index) const {
-  QSize size = QStyledItemDelegate::sizeHint(option, index);
+  QSize size = QStyledItemDelegate::sizeHint(option, index) + QSize(6, 0);
+  size.setHeight(std::max(size.height(), option.fontMetrics.height() + 6));
   const shown_column& c = column_of(index);
   if (c.kind == column_kind::picture) {
     QSize picture = index.data(Qt::DecorationRole).value<QImage>().size();
@@ -224,35 +230,35 @@ void outline_delegate::updateEditorGeometry(QWidget* editor, const QStyleOptionV
 
 bool outline_delegate::editorEvent(QEvent* event, QAbstractItemModel* model,
                                    const QStyleOptionViewItem& option, const QModelIndex& index) {
-  const bool is_key = event->type() == QEvent::KeyPress;
-  const bool is_mark = column_of(index).kind == column_kind::boolean;
-  if (is_mark && is_key && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Space &&
-      (model->flags(index) & Qt::ItemIsUserCheckable) != 0)
+  const bool is_mark = column_of(index).kind == column_kind::boolean &&
+                       (model->flags(index) & Qt::ItemIsUserCheckable) != 0;
+  if (event->type() == QEvent::KeyPress && is_mark) {
+    if (static_cast<QKeyEvent*>(event)->key() != Qt::Key_Space) return false;
     return model->setData(index, opposite(index), Qt::CheckStateRole);
-  if (is_key) return QStyledItemDelegate::editorEvent(event, model, option, index);
-  if (event->type() != QEvent::MouseButtonPress && event->type() != QEvent::MouseButtonRelease &&
-      event->type() != QEvent::MouseButtonDblClick)
-    return false;
+  }
+  const bool is_press =
+      event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
+  if (!is_press && event->type() != QEvent::MouseButtonRelease)
+    return QStyledItemDelegate::editorEvent(event, model, option, index);
   auto* mouse = static_cast<QMouseEvent*>(event);
-  if (mouse->button() != Qt::LeftButton) return false;
   const QPoint at = mouse->position().toPoint();
   const bool on_button = has_button(index) && button_rect(option).contains(at);
-  if (event->type() == QEvent::MouseButtonPress) {
-    pressed_mark_ = is_mark ? index : QModelIndex();
-    pressed_button_ = on_button ? index : QModelIndex();
-    if (on_button) const_cast<QWidget*>(option.widget)->update();
-    if (on_button) return true;
+  if (mouse->button() != Qt::LeftButton || (!is_mark && !on_button)) {
+    QStyleOptionViewItem inside = option;
+    inside.rect = inside_of(option);
+    return QStyledItemDelegate::editorEvent(event, model, inside, index);
   }
-  if (event->type() == QEvent::MouseButtonRelease) {
-    const bool press_ends = pressed_button_ == index && on_button;
-    const bool mark_ends = pressed_mark_ == index && option.rect.contains(at);
-    pressed_button_ = pressed_mark_ = QModelIndex();
-    if (press_ends) return press_button(index);
-    if (mark_ends && (model->flags(index) & Qt::ItemIsUserCheckable) != 0)
-      return model->setData(index, opposite(index), Qt::CheckStateRole);
+  // What is said to be taken here leaves the choice of rows as it is: a mark may hold for all of
+  // them.
+  if (is_press) {
+    pressed_ = index;
+    return true;
   }
-  if (is_mark || on_button) return true;
-  return QStyledItemDelegate::editorEvent(event, model, option, index);
+  const bool ends_here = pressed_ == index && option.rect.contains(at);
+  pressed_ = QModelIndex();
+  if (!ends_here) return true;
+  return on_button ? press_button(index)
+                   : model->setData(index, opposite(index), Qt::CheckStateRole);
 }
 
 bool outline_delegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,

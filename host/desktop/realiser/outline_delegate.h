@@ -45,7 +45,7 @@ class outline_delegate final : public QStyledItemDelegate {
   void commit_and_close(QWidget* editor) const;
 
   outline_model* model_;
-  QPersistentModelIndex pressed_mark_, pressed_button_;
+  QPersistentModelIndex pressed_;  // a mark or a button
 };
 
 }  // namespace zu::desktop

@@ -121,7 +121,10 @@ QWidget* make_cell_editor(const shown_column& c, outline_item item, QWidget* par
 }
 
 void show_in_editor(QWidget* editor, const QVariant& value) {
-  if (auto* line = qobject_cast<QLineEdit*>(editor)) line->setText(value.toString());
+  if (auto* line = qobject_cast<QLineEdit*>(editor)) {
+    line->setText(value.toString());
+    line->selectAll();
+  }
   if (auto* number = qobject_cast<QSpinBox*>(editor)) {
     number->setValue(value.toInt());
     number->selectAll();

@@ -20,6 +20,18 @@ constexpr int sampled_rows = 100;
 /// What a column gets by its contents alone, in characters.
 constexpr int widest_fitted = 40;
 
+/// Unlike its base it makes no item current that nobody has chosen.
+class tree_view final : public QTreeView {
+ public:
+  using QTreeView::QTreeView;
+
+ protected:
+  void focusInEvent(QFocusEvent* event) override {
+    QAbstractScrollArea::focusInEvent(event);
+    viewport()->update();
+  }
+};
+
 QString width_name(const shown_column& c) { return QStringLiteral("column/") + c.id; }
 
 }  // namespace
@@ -60,7 +72,7 @@ void outline_widget::make_view() {
     view_ = flat_ = new flat_view(this);
     return;
   }
-  view_ = tree_ = new QTreeView(this);
+  view_ = tree_ = new tree_view(this);
   tree_->setUniformRowHeights(true);
   tree_->setAllColumnsShowFocus(false);
   tree_->setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -103,11 +115,11 @@ void outline_widget::connect_inputs() {
 
 void outline_widget::heard(notice what) {
   if (what == notice::list || what == notice::language) {
-    model_->refresh(true);
+    choice_->while_items_change([this] { model_->refresh(true); });
     show_columns();
     if (what == notice::list && tree_ != nullptr) open_items({});
   } else if (what == notice::all) {
-    model_->refresh(false);
+    choice_->while_items_change([this] { model_->refresh(false); });
   }
   if (what != notice::value) show_look();
   choice_->show();
@@ -164,16 +176,17 @@ void outline_widget::show_empty_text() {
 }
 
 int outline_widget::fitting_width(int column) const {
+  int width = header()->isVisibleTo(view_) ? header()->sectionSizeHint(column) : 0;
+  if (tree_ != nullptr) {
+    width = std::max(width, view_->sizeHintForColumn(column));
+    return std::min(width, characters(this, widest_fitted));
+  }
   QStyleOptionViewItem option;
   option.initFrom(view_);
-  option.decorationSize = QSize(16, 16);
-  int width = header()->isVisibleTo(view_) ? header()->sectionSizeHint(column) : 0;
-  const int first = flat_ != nullptr ? flat_->first_row() : 0;
+  const int first = flat_->first_row();
   const int last = std::min(model_->rowCount() - 1, first + sampled_rows);
-  const int indent = tree_ != nullptr && column == tree_->treePosition() ? tree_->indentation() : 0;
   for (int row = first; row <= last; ++row)
-    width = std::max(width,
-                     indent + delegate_->sizeHint(option, model_->index(row, column)).width() + 8);
+    width = std::max(width, delegate_->sizeHint(option, model_->index(row, column)).width());
   return std::min(width, characters(this, widest_fitted));
 }
 

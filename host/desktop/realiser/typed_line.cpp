@@ -1,6 +1,5 @@
 #include "host/desktop/realiser/typed_line.h"
 
-#include <QApplication>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -149,8 +148,8 @@ bool typed_line::eventFilter(QObject* watched, QEvent* event) {
   return QObject::eventFilter(watched, event);
 }
 
-bool finish_typing() {
-  QWidget* focused = QApplication::focusWidget();
+bool finish_typing(const QWidget* beside) {
+  QWidget* focused = beside->window()->focusWidget();
   if (focused == nullptr) return true;
   auto* line = dynamic_cast<typed_line*>(
       focused->findChild<QObject*>(QStringLiteral("typed_line"), Qt::FindDirectChildrenOnly));

@@ -6,6 +6,7 @@
 #include <functional>
 
 class QLineEdit;
+class QWidget;
 
 namespace zu::desktop {
 
@@ -47,9 +48,9 @@ class typed_line final : public QObject {
   bool is_refused_ = false;
 };
 
-/// Ends typing in whatever line has the focus, as a button does that is pressed by its key. False
-/// if what stands there was refused.
-bool finish_typing();
+/// Ends typing in the line that has the focus beside a control: a button that is pressed by its key
+/// leaves the focus there. False if what stands in the line was refused.
+bool finish_typing(const QWidget* beside);
 
 /// Frames a control in red: for a moment, or as long as what stands in it is refused.
 void mark_refused(QWidget* control, bool for_a_moment);

@@ -106,6 +106,8 @@ QStringList document::add_sources(const QStringList& sources) {
         // What has no fields, or none to colour, stays as it came.
         for (host::layer* each : made)
           if (host::why_not({}, *each).empty()) host::apply_look({}, *each);
+      } catch (const host::declined&) {
+        continue;
       } catch (const host::failure& problem) {
         failures += QString::fromUtf8(problem.what());
       }

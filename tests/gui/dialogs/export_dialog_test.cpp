@@ -132,6 +132,24 @@ TEST_F(export_dialog_test, a_file_that_stands_there_is_asked_about) {
   EXPECT_EQ(dialog_->result(), QDialog::Accepted);
 }
 
+TEST_F(export_dialog_test, the_tab_key_goes_from_the_top_down) {
+  ASSERT_TRUE(QTest::qWaitForWindowActive(dialog_.get()));
+  find<QCheckBox>(*dialog_, "export_transparent")->setChecked(false);
+  file().setFocus();
+  QPoint before;
+  int visited = 0;
+  for (QWidget* now = &file(); now->objectName() != QStringLiteral("export_color"); ++visited) {
+    ASSERT_LT(visited, 20);
+    QTest::keyClick(now, Qt::Key_Tab);
+    now = dialog_->focusWidget();
+    QPoint place = now->mapTo(dialog_.get(), now->rect().center());
+    bool lower = place.y() > before.y() + 8, same_row = std::abs(place.y() - before.y()) <= 8;
+    EXPECT_TRUE(lower || (same_row && place.x() > before.x())) << now->objectName().toStdString();
+    before = place;
+  }
+  EXPECT_GE(visited, 10);
+}
+
 TEST_F(export_dialog_test, folder_and_format_are_remembered) {
   QDir(folder_.path()).mkdir(QStringLiteral("pictures"));
   file().setText(path("pictures/a.svg"));

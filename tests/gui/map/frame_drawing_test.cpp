@@ -149,6 +149,21 @@ TEST(slow_map, waits_for_the_wheel_to_rest_and_shows_the_old_picture_scaled) {
   EXPECT_EQ(drawn.count(), 1);
 }
 
+TEST(slow_map, waits_for_its_size_to_rest) {
+  slow_map map;
+  map.show();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return map.is_up_to_date(); }));
+  QSignalSpy drawn(&map, &map_view::drawn);
+  std::size_t before = map.layers->drawn.size();
+  for (int width = 110; width <= 150; width += 10) {
+    map.resize(width, 50);
+    QCoreApplication::processEvents();
+  }
+  EXPECT_EQ(map.layers->drawn.size(), before);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return map.is_up_to_date(); }));
+  EXPECT_EQ(drawn.count(), 1);
+}
+
 TEST(slow_map, survives_a_request_from_inside_a_layer) {
   slow_map map;
   map.layers->milliseconds = 0;

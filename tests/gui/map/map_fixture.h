@@ -79,6 +79,8 @@ struct noting_extension final : referent<viewer_extension_impl> {
 
 class map_test : public testing::Test {
  protected:
+  explicit map_test(const std::vector<std::string>& further_bundles = {})
+      : services_(further_bundles) {}
   void SetUp() override {
     ASSERT_TRUE(folder_.isValid());
     layer_ = &scene_.add(grid("grid.asc").toStdString());

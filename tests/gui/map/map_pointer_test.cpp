@@ -97,27 +97,9 @@ TEST_F(modes_test, draw_over_the_picture_when_they_ask_for_it) {
   EXPECT_EQ(seen(), before);
 }
 
-TEST_F(modes_test, what_they_did_is_drawn_but_not_what_they_only_follow) {
-  struct following final : viewer_extension_mode_impl {
-    element_view view;
-    void attach_view(element_view attached) override { view = attached; }
-    void hover(std::uint32_t, point_2d) override { call<&element_view_impl::list_changed>(view); }
-    void press(std::uint32_t, point_2d) override { call<&element_view_impl::list_changed>(view); }
-  };
-  struct owner final : referent<viewer_extension_impl> {
-    following mode;
-    viewer_extension_mode current_mode() override {
-      return handle_of<viewer_extension_mode_impl>(mode);
-    }
-  };
-  strong_ref<viewer_extension_impl> made(handle_of<viewer_extension_impl>(*new owner));
-  map_->set_extension(made.get());
-  QTest::mouseMove(map_.get(), {40, 40});
-  drag_on(Qt::NoButton, {60, 60});
+TEST_F(modes_test, that_only_follow_the_pointer_draw_no_layers) {
+  call<&element_view_impl::list_changed>(mode_.view);
   EXPECT_TRUE(map_->is_up_to_date());
-  QTest::mousePress(map_.get(), Qt::LeftButton, {}, {60, 60});
-  EXPECT_FALSE(map_->is_up_to_date());
-  map_->set_extension({});
 }
 
 TEST_F(modes_test, hear_which_viewer_a_person_works_in) {

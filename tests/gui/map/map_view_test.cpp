@@ -58,6 +58,41 @@ TEST_F(map_test, hidden_layers_are_not_drawn) {
   EXPECT_EQ(seen(map_->picture(), 150, 150), QColor(Qt::white));
 }
 
+TEST_F(map_test, is_drawn_when_its_scene_tells_of_a_change) {
+  map_->zoom_to(grid_box);
+  ASSERT_TRUE(show());
+  Tzu_table_data* table = zu_lr_get_data_ptr(layer_->entity());
+  ASSERT_NE(table, nullptr);
+  QImage before = seen();
+  zu_table_data_begin_update(table);
+  zu_table_data_set_selected_id(table, 5, true);  // the second cell of the middle row
+  EXPECT_TRUE(map_->is_up_to_date());
+  zu_table_data_end_update(table);
+  EXPECT_FALSE(map_->is_up_to_date());
+  ASSERT_TRUE(wait_until_drawn());
+  QImage after = seen();
+  EXPECT_NE(seen(after, 150, 150), seen(before, 150, 150));
+  EXPECT_EQ(seen(after, 250, 150), seen(before, 250, 150));
+
+  layer_->set_visible(false);
+  ASSERT_TRUE(wait_until_drawn());
+  EXPECT_EQ(seen(seen(), 250, 150), QColor(Qt::white));
+  zu_lr2d_data_changed(layer_->entity());
+  EXPECT_FALSE(map_->is_up_to_date());
+  ASSERT_TRUE(wait_until_drawn());
+  // A layer that came later is heard as well.
+  host::layer& second = scene_.add(grid("second.asc").toStdString());
+  EXPECT_FALSE(map_->is_up_to_date());
+  ASSERT_TRUE(wait_until_drawn());
+  zu_lr2d_data_changed(second.entity());
+  EXPECT_FALSE(map_->is_up_to_date());
+  ASSERT_TRUE(wait_until_drawn());
+  scene_.remove(second);
+  ASSERT_TRUE(wait_until_drawn());
+  map_.reset();
+  zu_lr2d_data_changed(layer_->entity());  // nobody hears it
+}
+
 TEST_F(map_test, a_drag_moves_the_picture_at_once_and_draws_once_on_release) {
   map_->zoom_to(grid_box);
   ASSERT_TRUE(show());
@@ -149,6 +184,17 @@ TEST_F(map_test, the_wheel_keeps_the_point_under_the_pointer) {
     EXPECT_NEAR(zu_viewer2d_px2cr_y(map_->viewer(), py), before.y, 1e-6);
     EXPECT_NEAR(map_->box()->x1 - map_->box()->x0, width * std::pow(2, -0.5 * notches), 1e-6);
   }
+}
+
+TEST_F(map_test, the_wheel_rests_while_the_map_is_dragged) {
+  map_->zoom_to(grid_box);
+  ASSERT_TRUE(show());
+  drag(Qt::LeftButton, {200, 150}, {210, 150});
+  wheel(2, {200, 150});
+  expect_box(map_->box(), grid_box);
+  QTest::mouseRelease(map_.get(), Qt::LeftButton, {}, {210, 150});
+  wheel(2, {0, 299});
+  EXPECT_NEAR(map_->box()->x1 - map_->box()->x0, 200, 1e-6);
 }
 
 TEST_F(map_test, a_picture_stands_where_its_own_box_lies_until_the_next_one_is_there) {

@@ -140,4 +140,15 @@ TEST(matrix3x3, turns_counter_clockwise_about_a_centre) {
   EXPECT_NEAR(y, 20, 1e-12);
 }
 
+TEST(box, is_widened_by_a_part_of_itself_about_its_middle) {
+  Tzu_box_d2 box{0, 10, 100, 20};
+  zu_box_d2_inflate_cf(&box, 0.1);
+  EXPECT_EQ(box.x0, -10);
+  EXPECT_EQ(box.y0, 9);
+  EXPECT_EQ(box.x1, 110);
+  EXPECT_EQ(box.y1, 21);
+  EXPECT_EQ(zu_halfway(-4, 10), 3);
+  zu_box_d2_inflate_cf(nullptr, 1);
+}
+
 }  // namespace

@@ -26,6 +26,17 @@ TEST(vertex_list, null_is_an_empty_list) {
   zu_pv_d2_destroy(nullptr);
 }
 
+TEST(vertex_list, loses_vertices_at_the_place_of_the_one_before) {
+  Tzu_pv_d2* list = zu_pv_d2_create();
+  for (Tzu_vtx_d2 v : {Tzu_vtx_d2{1, 1}, {1, 1}, {1, 2}, {1, 1}, {1, 1}, {1, 1}})
+    zu_pv_d2_add_vtx(list, &v);
+  zu_pv_d2_delete_double(list);
+  ASSERT_EQ(zu_pv_d2_get_size(list), 3u);
+  EXPECT_EQ(zu_pv_d2_get_arr(list)[1].y, 2);
+  zu_pv_d2_delete_double(nullptr);
+  zu_pv_d2_destroy(list);
+}
+
 TEST(set_of_lists, is_copied_list_by_list_and_keeps_its_lists_in_place) {
   Tzu_ov_d2 *set = zu_ov_d2_create(), *copy = zu_ov_d2_create();
   Tzu_pv_d2* first = zu_ov_d2_add(set);

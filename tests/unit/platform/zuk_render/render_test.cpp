@@ -81,6 +81,31 @@ TEST_F(render, draws_lines_given_in_its_own_coordinates_and_leaves_them_as_they_
   EXPECT_EQ(opacity(50, 10), 0);
 }
 
+TEST_F(render, fills_a_polygon_and_its_hole_stays_empty) {
+  Tzu_ov_d2* set = zu_ov_d2_create();
+  auto ring = [&](double x0, double y0, double x1, double y1) {
+    Tzu_pv_d2* list = zu_ov_d2_add(set);
+    for (Tzu_vtx_d2 v : {Tzu_vtx_d2{x0, y0}, {x1, y0}, {x1, y1}, {x0, y1}})
+      zu_pv_d2_add_vtx(list, &v);
+  };
+  ring(1020, 2020, 1100, 2080);
+  ring(1040, 2040, 1060, 2060);
+  Tzu_pgn_style* style = zu_pgn_style_create();
+  zu_bpgn_style_set_color(style, zu_clr_init_rgba(10, 20, 30, 0));
+  zu_pgn_style_get_bpln_ptr(style)->visible = false;
+  zu_render_cr_pgn(render_, set, style);
+  zu_pgn_style_destroy(style);
+  zu_ov_d2_destroy(set);
+  std::vector<std::uint8_t> rgba(100 * 50 * 4);
+  zu_drwc_get_pixels(drwc_, rgba.data());
+  // Two units of the map a pixel.
+  auto pixel = [&](std::size_t x, std::size_t y) { return &rgba[((49 - y) * 100 + x) * 4]; };
+  EXPECT_EQ(pixel(12, 12)[3], 255);
+  EXPECT_EQ(pixel(12, 12)[2], 30);
+  EXPECT_EQ(pixel(25, 25)[3], 0);
+  EXPECT_EQ(pixel(60, 20)[3], 0);
+}
+
 TEST_F(render, a_piece_of_the_map_lies_where_it_lies_in_the_whole) {
   const Tzu_box_d2 piece{1100, 2000, 1150, 2050};
   zu_render_set_map_box_cr(render_, &piece);

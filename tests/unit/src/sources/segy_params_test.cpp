@@ -151,7 +151,9 @@ TEST_F(choosing_segy_params, begins_automatically_with_units_from_the_headers) {
     EXPECT_EQ(call<&button_box_impl::count>(shown.buttons()), 2U);
     EXPECT_EQ(shown.coord_sources(),
               (std::vector<std::wstring>{L"Автоматический", L"ПП", L"ПВ", L"ОГТ"}));
-    EXPECT_EQ(shown.unit_suggestions(), std::vector<std::wstring>{L"Брать из заголовка трассы"});
+    EXPECT_EQ(shown.unit_suggestions(),
+              (std::vector<std::wstring>{L"Брать из заголовка трассы", L"Метры", L"Дециметры",
+                                         L"Сантиметры"}));
   };
   EXPECT_TRUE(choose());
   expect(1, 3, 1.0, false);

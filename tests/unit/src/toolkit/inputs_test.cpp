@@ -73,11 +73,14 @@ TEST(slider_input, the_slider_follows_the_number_and_the_number_the_slider) {
 }
 
 TEST(slider_input, every_position_of_the_slider_stays_where_it_was_put) {
-  slider_input<floating_input> both;
-  both.set_range(0, 10, 0.1);
-  for (int position = 0; position <= 100; ++position) {
-    both.slider().set_value(position);
-    EXPECT_EQ(both.slider().value(), position);
+  for (double minimum : {0.0, -1.0, 1e6}) {
+    slider_input<floating_input> both;
+    both.set_range(minimum, minimum + 10, 0.1);
+    EXPECT_EQ(both.slider().maximum(), 100);
+    for (int position = 0; position <= 100; ++position) {
+      both.slider().set_value(position);
+      EXPECT_EQ(both.slider().value(), position);
+    }
   }
 }
 

@@ -93,7 +93,7 @@ void main_window::make_menus() {
 
   tools_menu_ = add_menu("menu_tools", "&Tools", "&Инструменты");
 
-  QMenu* help = add_menu("menu_help", "&Help", "&Справка");
+  QMenu* help = add_menu("menu_help", "&Help", "Спр&авка");
   help->addActions({a.help_shortcuts, a.help_about});
 }
 

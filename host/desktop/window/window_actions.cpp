@@ -23,7 +23,7 @@ const row rows[] = {
      "&Сохранить проект"},
     {&actions::file_save_as, "file_save_as", "document-save-as", "Ctrl+Shift+S",
      "Save project &as…", "Сохранить проект &как…"},
-    {&actions::file_export, "file_export", "document-export", "Ctrl+E", "&Export picture…",
+    {&actions::file_export, "file_export", "document-export", "Ctrl+Shift+E", "&Export picture…",
      "&Экспорт картинки…"},
     {&actions::file_quit, "file_quit", "application-exit", "Ctrl+Q", "&Quit", "В&ыход"},
     {&actions::edit_undo, "edit_undo", "edit-undo", "Ctrl+Z", "&Undo", "&Отменить"},

@@ -272,8 +272,8 @@ TEST_F(main_window_test, rounds_of_projects_leave_nothing_behind) {
   std::uint64_t bitmaps = zu_dib_get_live_count();
   qsizetype widgets = QApplication::allWidgets().size();
   for (int round = 0; round < 1000; ++round) {
-    window_->open_paths({path("mine.zgp")});
-    actions().file_new->trigger();
+    content().open_project(path("mine.zgp"));
+    content().clear();
     if (round % 100 == 0) QCoreApplication::processEvents();
   }
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

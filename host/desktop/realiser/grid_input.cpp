@@ -5,14 +5,12 @@
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <algorithm>
+#include <limits>
 
 #include "host/desktop/realiser/grid_widget.h"
-#include "host/desktop/realiser/realiser.h"
 
 namespace zu::desktop {
 namespace {
-
-constexpr int narrowest_column = 16;
 
 bool has_shift(const QInputEvent* event) { return event->modifiers().testFlag(Qt::ShiftModifier); }
 std::uint64_t moved(std::uint64_t from, std::int64_t by, std::uint64_t least, std::uint64_t most) {
@@ -155,7 +153,7 @@ void grid_widget::mousePressEvent(QMouseEvent* event) {
 void grid_widget::mouseMoveEvent(QMouseEvent* event) {
   const QPoint point = event->position().toPoint();
   if (work_ == mouse_work::edge && event->buttons().testFlag(Qt::LeftButton)) {
-    places_.widths[resized_] = std::max(point.x() - places_.x_of(resized_), narrowest_column);
+    places_.widths[resized_] = std::max(point.x() - places_.x_of(resized_), grid_places::narrowest);
     show_bars();
     return;
   }
@@ -177,9 +175,7 @@ void grid_widget::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
   const mouse_work work = std::exchange(work_, mouse_work::none);
   if (work == mouse_work::edge) {
-    const QString id = text_by<&grid_impl::column_id>(element_, resized_);
-    if (!id.isEmpty())
-      keep_choice(QStringLiteral("column/") + id, QString::number(places_.widths[resized_]));
+    keep_width(resized_);
     return;
   }
   const std::optional<grid_place> at = places_.place_at(event->position().toPoint());

@@ -11,6 +11,8 @@
 namespace zu::desktop {
 
 struct grid_places {
+  static constexpr int narrowest = 16;  ///< of columns, pixels
+
   std::vector<int> widths;  ///< of all columns, pixels
   std::uint32_t fixed_columns = 0;
   std::uint64_t rows = 0;  ///< all, with the fixed ones

@@ -7,7 +7,7 @@
 #include <QScrollBar>
 #include <QToolTip>
 #include <algorithm>
-#include <limits>
+#include <cmath>
 
 #include "host/desktop/realiser/outline_editors.h"
 #include "host/desktop/realiser/realiser.h"
@@ -22,7 +22,6 @@ constexpr std::uint64_t most_bar_steps = 1u << 30;
 constexpr std::uint64_t most_copied_cells = 1'000'000;
 /// Rows with marks are looked for among this many.
 constexpr std::uint64_t most_searched_rows = 100'000;
-constexpr int narrowest_column = 16;
 
 QString width_name(handle grid, std::uint32_t column) {
   const QString id = text_by<&grid_impl::column_id>(grid, column);
@@ -80,8 +79,13 @@ void grid_widget::read_columns() {
   }
 }
 
+void grid_widget::keep_width(std::uint32_t column) const {
+  const QString name = width_name(element_, column);
+  if (!name.isEmpty()) keep_choice(name, QString::number(places_.widths[column]));
+}
+
 int grid_widget::fitting_width(std::uint32_t column) const {
-  int width = narrowest_column;
+  int width = grid_places::narrowest;
   const auto look = [&](std::uint64_t row) {
     const shown_cell cell = read_cell(element_, {column, row});
     width = std::max(width, fontMetrics().horizontalAdvance(cell.text) + 12);
@@ -95,8 +99,9 @@ int grid_widget::fitting_width(std::uint32_t column) const {
 
 void grid_widget::read_rows() {
   places_.rows = call<&grid_impl::row_count>(element_);
-  if (local_current_ && local_current_->row >= places_.rows) local_current_.reset();
-  if (anchor_ && anchor_->row >= places_.rows) anchor_.reset();
+  for (std::optional<grid_place>* kept : {&local_current_, &anchor_})
+    if (*kept && ((*kept)->row >= places_.rows || (*kept)->column >= places_.widths.size()))
+      kept->reset();
   show_bars();
 }
 

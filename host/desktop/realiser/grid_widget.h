@@ -49,6 +49,7 @@ class grid_widget final : public realised<grid_impl, QAbstractScrollArea> {
   enum class mouse_work { none, header, fixed, cells, edge };
 
   void read_columns();
+  void keep_width(std::uint32_t column) const;
   int fitting_width(std::uint32_t column) const;
   void read_rows();
   void show_bars();

@@ -159,7 +159,7 @@ class histogram_widget final : public realised<histogram_impl, QWidget> {
     QPointer<QObject> alive(this);
     call<&histogram_impl::set_range>(element_, low, high);
     if (alive) heard(notice::value);
-    if (alive) input_reached(name_of(this).section(QLatin1Char(':'), 0, 0));
+    if (alive) input_reached(words("Limits", "Пределы"));
   }
 
   std::vector<double> bars_;

@@ -6,6 +6,7 @@
 #include <QSignalBlocker>
 #include <QStringListModel>
 
+#include "host/desktop/realiser/answers.h"
 #include "host/desktop/realiser/builders.h"
 #include "host/desktop/realiser/marked_part.h"
 #include "host/desktop/realiser/realised.h"
@@ -102,13 +103,8 @@ class assisted_input_widget final : public line_control<assisted_input_impl> {
   void heard(notice what) override {
     line_control::heard(what);
     if (what == notice::value) return;
-    struct collector final : string_visitor_impl {
-      void visit(const wchar_t* text) override { all << QString::fromWCharArray(text); }
-      QStringList all;
-    } found;
-    call<&assisted_input_impl::visit_suggestions>(
-        element_, string_visitor(handle_of<string_visitor_impl>(found)));
-    if (found.all != suggestions_->stringList()) suggestions_->setStringList(found.all);
+    QStringList found = texts_by<&assisted_input_impl::visit_suggestions>(element_);
+    if (found != suggestions_->stringList()) suggestions_->setStringList(found);
   }
   void keyPressEvent(QKeyEvent* event) override {
     if (event->key() == Qt::Key_Down && !completer()->popup()->isVisible())

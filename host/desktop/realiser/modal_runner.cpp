@@ -26,43 +26,44 @@ QSize size_of(const QString& text) {
 element_dialog::element_dialog(handle panel, QWidget* parent) : QDialog(parent) {
   setObjectName(QStringLiteral("element_dialog"));
   auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(0, 0, 0, 0);
   panel_ = new realised_docker(panel, this);
-  panel_->set_margins(true);
+  panel_->set_margins(false);
   column->addWidget(panel_, 1);
+  // The buttons stay in sight where the rest scrolls.
+  buttons_ = panel_->findChild<button_box_widget*>();
+  column->addWidget(buttons_ != nullptr ? buttons_ : close_box());
   auto show_title = [this] {
     setWindowTitle(panel_->title());
     if (!panel_->icon().isNull()) setWindowIcon(panel_->icon());
   };
   connect(panel_, &realised_docker::title_changed, this, show_title);
   show_title();
-  if (panel_->findChild<QDialogButtonBox*>() == nullptr) {
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
-    buttons->setObjectName(QStringLiteral("close_box"));
-    connect(buttons, &QDialogButtonBox::rejected, this, &element_dialog::reject);
-    auto* framed = new QVBoxLayout;
-    framed->addWidget(buttons);
-    framed->setContentsMargins(panel_->widget()->layout()->contentsMargins());
-    column->addLayout(framed);
-    changeEvent(nullptr);
-  }
   QSize least = panel_->widget()->minimumSizeHint();
-  panel_->setMinimumSize(least.boundedTo(screen()->availableSize() * 8 / 10));
+  panel_->setMinimumSize(least.boundedTo(screen()->availableSize() * 7 / 10));
 }
 
-element_dialog::~element_dialog() { delete panel_; }
+element_dialog::~element_dialog() {
+  delete buttons_;
+  delete panel_;
+}
+
+QWidget* element_dialog::close_box() {
+  auto* box = new QDialogButtonBox(QDialogButtonBox::Close, this);
+  box->setObjectName(QStringLiteral("close_box"));
+  connect(box, &QDialogButtonBox::rejected, this, &element_dialog::reject);
+  close_ = box->button(QDialogButtonBox::Close);
+  close_->setText(words("&Close", "&Закрыть"));
+  return box;
+}
 
 void element_dialog::reject() {
-  auto* buttons = panel_->findChild<button_box_widget*>();
-  if (buttons == nullptr || buttons->lets_cancel()) QDialog::reject();
+  if (buttons_ == nullptr || buttons_->lets_cancel()) QDialog::reject();
 }
 
 void element_dialog::changeEvent(QEvent* event) {
-  if (event != nullptr) QDialog::changeEvent(event);
-  if (event != nullptr && event->type() != QEvent::LanguageChange) return;
-  auto* buttons = findChild<QDialogButtonBox*>(QStringLiteral("close_box"));
-  if (buttons != nullptr)
-    buttons->button(QDialogButtonBox::Close)->setText(words("&Close", "&Закрыть"));
+  QDialog::changeEvent(event);
+  if (event->type() == QEvent::LanguageChange && close_ != nullptr)
+    close_->setText(words("&Close", "&Закрыть"));
 }
 
 int modal_runner::run(handle panel) {

@@ -6,7 +6,12 @@
 
 #include "zu/services.h"
 
+class QPushButton;
+
 namespace zu::desktop {
+
+class button_box_widget;
+class realised_docker;
 
 /// Runs the dockers of one dialog of a bundle, each in a window over the active one. The size that
 /// a person gave the window is kept under the dialog's id.
@@ -39,7 +44,11 @@ class element_dialog final : public QDialog {
   void changeEvent(QEvent* event) override;
 
  private:
-  class realised_docker* panel_;
+  QWidget* close_box();
+
+  realised_docker* panel_;
+  button_box_widget* buttons_;  // null: "Close" stands in their place
+  QPushButton* close_ = nullptr;
 };
 
 }  // namespace zu::desktop

@@ -2,7 +2,7 @@
 // The current item and the marks of an outline, kept in step with what a view shows as chosen.
 
 #include <QObject>
-#include <QPersistentModelIndex>
+#include <QScopedValueRollback>
 
 #include "zu/outline.h"
 
@@ -20,6 +20,11 @@ class outline_choice final : public QObject {
  public:
   outline_choice(outline shown, outline_model* model, QAbstractItemView* view);
 
+  /// Calls `change`, which changes items: what becomes of the view's choice is not a person's.
+  template <class function> void while_items_change(function&& change) {
+    const QScopedValueRollback<bool> showing(is_showing_, true);
+    change();
+  }
   /// Shows what the outline says is current and marked.
   void show();
   /// Items came into sight.

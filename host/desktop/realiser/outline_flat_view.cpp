@@ -247,6 +247,14 @@ void flat_view::scrollContentsBy(int dx, int dy) {
   if (dy != 0) Q_EMIT rows_in_sight_changed();
 }
 
+void flat_view::dataChanged(const QModelIndex& from, const QModelIndex& to,
+                            const QList<int>& roles) {
+  // The base class asks for the place of each changed cell.
+  const int first = std::max(from.row(), first_row()), last = std::min(to.row(), last_row());
+  if (first <= last)
+    QAbstractItemView::dataChanged(from.siblingAtRow(first), to.siblingAtRow(last), roles);
+}
+
 void flat_view::rowsInserted(const QModelIndex& parent, int first, int last) {
   QAbstractItemView::rowsInserted(parent, first, last);
   updateGeometries();

@@ -44,6 +44,8 @@ class flat_view final : public QAbstractItemView {
   void paintEvent(QPaintEvent* event) override;
   void updateGeometries() override;
   void scrollContentsBy(int dx, int dy) override;
+  void dataChanged(const QModelIndex& from, const QModelIndex& to,
+                   const QList<int>& roles) override;
   void rowsInserted(const QModelIndex& parent, int first, int last) override;
   void rowsAboutToBeRemoved(const QModelIndex& parent, int first, int last) override;
   bool viewportEvent(QEvent* event) override;

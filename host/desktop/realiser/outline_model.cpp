@@ -102,16 +102,17 @@ void outline_model::refresh_counts(node& n, const QModelIndex& at) {
     Q_EMIT dataChanged(index(0, 0, at), index(now - 1, int(columns_.size()) - 1, at));
 }
 
-void outline_model::with_item(const QModelIndex& index,
-                              const std::function<void(outline_item)>& use) const {
+void outline_model::with_item(const QModelIndex& index, item_use use) const {
   std::vector<int> path;
-  if (index.isValid()) {
+  if (index.isValid() && !is_flat_) {
     path.push_back(index.row());
     for (auto* n = static_cast<const node*>(index.internalPointer()); n->parent != nullptr;
          n = n->parent)
       path.push_back(n->row);
   }
   auto with_root = visitor<outline_item_visitor_impl, outline_item>([&](outline_item root) {
+    if (!index.isValid()) return use(root);
+    if (is_flat_) return use(named_item(root, index.row()).item());
     std::deque<named_item> names;  // whose places must not change: each names the one before it
     outline_item item = root;
     for (auto row = path.rbegin(); row != path.rend(); ++row)
@@ -121,9 +122,8 @@ void outline_model::with_item(const QModelIndex& index,
   call<&outline_impl::visit_root>(shown_, with_root.get());
 }
 
-template <class result>
-result outline_model::ask(const QModelIndex& index,
-                          const std::function<result(outline_item)>& what) const {
+template <class result, class function>
+result outline_model::ask(const QModelIndex& index, function&& what) const {
   result answer{};
   with_item(index, [&](outline_item item) { answer = what(item); });
   return answer;

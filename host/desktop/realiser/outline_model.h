@@ -3,14 +3,30 @@
 // shown. Kept are the counts of items that were asked for, since Qt must hear of changes in them.
 
 #include <QAbstractItemModel>
-#include <functional>
 #include <memory>
+#include <type_traits>
 #include <unordered_map>
 #include <vector>
 
 #include "host/desktop/realiser/outline_columns.h"
 
 namespace zu::desktop {
+
+/// A function that is called with an item before the call that it is given to ends.
+class item_use {
+ public:
+  template <class function>
+  item_use(function&& use)  // NOLINT: a lambda is passed as it stands
+      : object_(const_cast<void*>(static_cast<const void*>(&use))),
+        call_([](void* object, outline_item item) {
+          (*static_cast<std::remove_reference_t<function>*>(object))(item);
+        }) {}
+  void operator()(outline_item item) const { call_(object_, item); }
+
+ private:
+  void* object_;
+  void (*call_)(void*, outline_item);
+};
 
 class outline_model final : public QAbstractItemModel {
   Q_OBJECT
@@ -26,7 +42,7 @@ class outline_model final : public QAbstractItemModel {
   const shown_column& column(int index) const { return columns_[std::size_t(index)]; }
   /// Calls `use` with the item at an index, or the root's for an invalid one. Not at all if the
   /// outline has no root.
-  void with_item(const QModelIndex& index, const std::function<void(outline_item)>& use) const;
+  void with_item(const QModelIndex& index, item_use use) const;
   /// The place of the outline's current item; invalid for none.
   QModelIndex current() const;
   bool is_marked(const QModelIndex& index) const;
@@ -59,8 +75,8 @@ class outline_model final : public QAbstractItemModel {
   std::vector<shown_column> asked_columns() const;
   void read_checks();
   void refresh_counts(node& n, const QModelIndex& at);
-  template <class result>
-  result ask(const QModelIndex& index, const std::function<result(outline_item)>& what) const;
+  template <class result, class function>
+  result ask(const QModelIndex& index, function&& what) const;
 
   const outline shown_;
   const bool is_flat_;

@@ -9,6 +9,7 @@
 #include <QSignalBlocker>
 #include <QToolButton>
 
+#include "host/desktop/realiser/answers.h"
 #include "host/desktop/realiser/number_box.h"
 #include "host/desktop/realiser/tool_actions.h"
 #include "host/desktop/realiser/tool_icons.h"
@@ -16,16 +17,6 @@
 
 namespace zu::desktop {
 namespace {
-
-// The first slots of all kinds are the same; any kind's list finds them.
-template <class tool> QStringList categories_of(handle h) {
-  struct collector final : string_visitor_impl {
-    void visit(const wchar_t* text) override { all << QString::fromWCharArray(text); }
-    QStringList all;
-  } found;
-  call<&tool::visit_categories>(h, string_visitor(handle_of<string_visitor_impl>(found)));
-  return found.all;
-}
 
 /// An action with the view of a tool of one kind.
 template <class tool> class action_of : public tool_action, protected link<tool> {
@@ -46,12 +37,14 @@ template <class tool> class action_of : public tool_action, protected link<tool>
     handle h = this->element_;
     QString caption = text_by<&tool::caption>(h), hint = text_by<&tool::hint>(h);
     setText(caption);
-    setToolTip(hint.isEmpty() ? caption : hint);
+    QString keys = shortcut().toString(QKeySequence::NativeText);
+    setToolTip((hint.isEmpty() ? plain_name(caption) : hint) +
+               (keys.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(keys)));
     setStatusTip(text_by<&tool::description>(h));
     setIcon(tool_icon(id()));  // of the theme in force
     setEnabled(call<&tool::enabled>(h));
     setVisible(call<&tool::visible>(h));
-    set_categories(categories_of<tool>(h));
+    set_categories(texts_by<&tool::visit_categories>(h));
   }
   void was_used() { input_reached(plain_name(text())); }
 };

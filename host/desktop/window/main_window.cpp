@@ -249,8 +249,9 @@ void main_window::connect_bundles() {
   connect(views_, &scene_views::map_changed, this, &main_window::fill_modes);
   connect(actions_->info_tool, &QAction::toggled, this, [this](bool on) {
     if (on)
-      call<&viewer_extension_impl::set_current_mode>(views_->current().modes().extension(),
-                                                     viewer_extension_mode());
+      views_->leave_modes();
+    else if (!views_->current().modes().mode())
+      views_->take_hand();
   });
   fill_modes();
 }
@@ -267,7 +268,7 @@ void main_window::retranslate() {
   actions_->retranslate();
   texts_.say_all();
   tools_.retranslate();
-  fill_tools();
+  fill_modes();
   actions_->language_english->setChecked(language_in_force() == language::english);
   actions_->language_russian->setChecked(language_in_force() == language::russian);
   show_recent();

@@ -48,6 +48,16 @@ scene_views::scene_views(document& shown, QWidget* parent)
 
 scene_views::~scene_views() = default;
 
+void scene_views::take_hand(const tool_actions& modes) {
+  tool_action* hand = modes.action(QStringLiteral("zu_common_plugin_viewer2d_panel_tool_zoom_pan"));
+  if (hand != nullptr && !hand->isChecked()) hand->trigger();
+}
+
+void scene_views::leave_modes() {
+  call<&viewer_extension_impl::set_current_mode>(current().modes().extension(),
+                                                 viewer_extension_mode());
+}
+
 scene_views::shown_map scene_views::make_map(host::project_scene& scene) {
   shown_map made{std::make_unique<map_view>(*scene.content, this), {}};
   map_view* view = made.view.get();
@@ -71,8 +81,11 @@ scene_views::scene_key scene_views::key_of(const host::project_scene& scene) {
 
 scene_views::shown_map& scene_views::current_map() {
   auto found = maps_.find(key_of(document_.scene()));
-  if (found == maps_.end())
+  if (found == maps_.end()) {
     found = maps_.emplace(key_of(document_.scene()), make_map(document_.scene())).first;
+    // A tool is heard of like a person's input, so the map must be found by then.
+    take_hand(found->second.modes);
+  }
   return found->second;
 }
 

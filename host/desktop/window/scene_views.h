@@ -29,6 +29,10 @@ class scene_views final : public QWidget {
   map_view& current();
   /// The modes that its bundle gives it; none without one.
   const tool_actions& current_modes();
+  /// Puts the mode in force that moves the map, as a new map has it.
+  void take_hand() { take_hand(current_modes()); }
+  /// Puts no mode in force: a click is a click.
+  void leave_modes();
   message_bar& messages() { return *messages_; }
   start_page& start() { return *start_; }
   QTabBar& tabs() { return *tabs_; }
@@ -56,6 +60,7 @@ class scene_views final : public QWidget {
     std::unique_ptr<map_view> view;
     tool_actions modes;
   };
+  static void take_hand(const tool_actions& modes);
   shown_map& current_map();
   shown_map make_map(host::project_scene& scene);
 

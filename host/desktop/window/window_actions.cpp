@@ -23,7 +23,7 @@ const row rows[] = {
      "&Сохранить проект"},
     {&actions::file_save_as, "file_save_as", "document-save-as", "Ctrl+Shift+S",
      "Save project &as…", "Сохранить проект &как…"},
-    {&actions::file_export, "file_export", "document-export", "Ctrl+E", "&Export picture…",
+    {&actions::file_export, "file_export", "document-export", "Ctrl+Shift+E", "&Export picture…",
      "&Экспорт картинки…"},
     {&actions::file_quit, "file_quit", "application-exit", "Ctrl+Q", "&Quit", "В&ыход"},
     {&actions::edit_undo, "edit_undo", "edit-undo", "Ctrl+Z", "&Undo", "&Отменить"},
@@ -33,11 +33,11 @@ const row rows[] = {
     {&actions::copy_command, "copy_command", "utilities-terminal", "Ctrl+Alt+C", "Copy as co&mmand",
      "Копировать как ко&манду"},
     {&actions::edit_settings, "edit_settings", "configure", "Ctrl+,", "&Settings…", "&Настройки…"},
-    {&actions::zoom_in, "zoom_in", "zoom-in", "Ctrl++; Ctrl+=", "Zoom &in", "&Приблизить"},
+    {&actions::zoom_in, "zoom_in", "zoom-in", "Ctrl++; Ctrl+=", "Zoom &in", "При&близить"},
     {&actions::zoom_out, "zoom_out", "zoom-out", "Ctrl+-", "Zoom &out", "&Отдалить"},
     {&actions::zoom_all, "zoom_all", "zoom-fit-best", "Ctrl+0", "Show &all", "Показать &всё"},
     {&actions::zoom_back, "zoom_back", "go-previous", "Alt+Left", "&Back", "&Назад"},
-    {&actions::zoom_forward, "zoom_forward", "go-next", "Alt+Right", "&Forward", "&Вперёд"},
+    {&actions::zoom_forward, "zoom_forward", "go-next", "Alt+Right", "&Forward", "Вп&ерёд"},
     {&actions::redraw, "redraw", "view-refresh", "F5", "&Redraw", "Пе&рерисовать"},
     {&actions::full_screen, "full_screen", "view-fullscreen", "F11", "F&ull screen",
      "Во весь &экран"},
@@ -50,7 +50,7 @@ const row rows[] = {
     {&actions::layer_source, "layer_source", "document-open-data", "", "Choose the &source…",
      "Выбрать и&сточник…"},
     {&actions::scene_add, "scene_add", "tab-new", "Ctrl+T", "&New scene", "&Новая сцена"},
-    {&actions::scene_rename, "scene_rename", "edit-rename", "", "Re&name scene…",
+    {&actions::scene_rename, "scene_rename", "edit-rename", "", "R&ename scene…",
      "Пере&именовать сцену…"},
     {&actions::scene_remove, "scene_remove", "tab-close", "", "&Remove scene", "&Удалить сцену"},
     {&actions::scene_projection, "scene_projection", "globe", "Ctrl+Shift+P", "&Projection…",
@@ -72,7 +72,8 @@ window_actions::window_actions(QObject* parent) : QObject(parent) {
     this->*each.action = action;
     action->setObjectName(QString::fromLatin1(each.name));
     action->setIcon(QIcon::fromTheme(QString::fromLatin1(each.icon)));
-    action->setShortcuts(QKeySequence::listFromString(QString::fromLatin1(each.keys)));
+    if (*each.keys != '\0')
+      action->setShortcuts(QKeySequence::listFromString(QString::fromLatin1(each.keys)));
   }
   for (QAction* action : {full_screen, info_tool, language_english, language_russian})
     action->setCheckable(true);

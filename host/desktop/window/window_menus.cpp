@@ -19,6 +19,16 @@ QMenu* submenu(QMenu* menu, const QString& title) {
   return menu->addMenu(title);
 }
 
+/// Sets of tools that are all hidden leave their separators behind.
+void hide_double_separators(const QToolBar& bar) {
+  bool is_parted = true;
+  const QList<QAction*> actions = bar.actions();
+  for (QAction* each : actions) {
+    if (each->isSeparator()) each->setVisible(!std::exchange(is_parted, true));
+    if (!each->isSeparator() && each->isVisible()) is_parted = false;
+  }
+}
+
 }  // namespace
 
 void main_window::make_menus() {
@@ -83,7 +93,7 @@ void main_window::make_menus() {
 
   tools_menu_ = add_menu("menu_tools", "&Tools", "&Инструменты");
 
-  QMenu* help = add_menu("menu_help", "&Help", "&Справка");
+  QMenu* help = add_menu("menu_help", "&Help", "Спр&авка");
   help->addActions({a.help_shortcuts, a.help_about});
 }
 
@@ -101,7 +111,10 @@ void main_window::make_tool_bars() {
   file->addSeparator();
   file->addActions({a.edit_undo, a.edit_redo});
   QToolBar* map = add_bar("bar_map", "Map", "Карта");
-  map->addActions({a.zoom_in, a.zoom_out, a.zoom_all, a.layer_zoom, a.zoom_back, a.zoom_forward});
+  // Where a bundle has modes of zooming, their bar has these too.
+  if (document_.services().viewer_extensions().empty())
+    map->addActions({a.zoom_in, a.zoom_out, a.zoom_all});
+  map->addActions({a.layer_zoom, a.zoom_back, a.zoom_forward});
   map->addSeparator();
   map->addAction(a.info_tool);
   modes_bar_ = add_bar("bar_modes", "Map modes", "Режимы карты");
@@ -115,6 +128,7 @@ void main_window::fill_tools() {
   tools_menu_->clear();
   qDeleteAll(tools_menu_->findChildren<QMenu*>(Qt::FindDirectChildrenOnly));
   tools_menu_->addAction(actions_->info_tool);
+  views_->current_modes().fill(tools_menu_);
   for (const auto& set : tools_.sets()) {
     tools_menu_->addSeparator();
     for (const auto& action : set) {
@@ -126,9 +140,11 @@ void main_window::fill_tools() {
 }
 
 void main_window::fill_modes() {
+  fill_tools();
   modes_bar_->clear();
   const tool_actions& modes = views_->current_modes();
   modes.fill(modes_bar_);
+  hide_double_separators(*modes_bar_);
   bool are_there = !modes.sets().empty();
   modes_bar_->setVisible(are_there);
   modes_bar_->toggleViewAction()->setVisible(are_there);

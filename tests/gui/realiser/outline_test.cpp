@@ -4,12 +4,16 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QSpinBox>
 #include <QTest>
+#include <QTimer>
 #include <QTreeView>
 
 #include "host/desktop/realiser/realiser.h"
@@ -384,6 +388,28 @@ TEST_F(outline_on_screen, shows_rows_that_came_and_went) {
   EXPECT_EQ(widget->model()->rowCount(), 1);
 }
 
+TEST_F(outline_on_screen, chooses_no_other_item_when_the_current_one_is_removed) {
+  for (std::uint32_t mode : {outline_chooses_one, outline_chooses_many}) {
+    list = fake_outline();
+    list.mode = mode;
+    list.add(names);
+    open();
+    click(2, 0);
+    const int sets = list.current_sets, mark_sets = list.mark_sets;
+    list.rows = 2;
+    list.current_row = -1;
+    list.marks.clear();
+    list.redraw();
+    EXPECT_EQ(list.current_sets, sets);
+    EXPECT_EQ(list.mark_sets, mark_sets);
+    EXPECT_FALSE(view()->currentIndex().isValid());
+    EXPECT_TRUE(view()->selectionModel()->selectedRows().isEmpty());
+    click(1, 0);
+    EXPECT_EQ(list.current_row, 1);
+    widget.reset();
+  }
+}
+
 TEST_F(outline_on_screen, shows_other_columns) {
   list.add(names);
   open();
@@ -543,6 +569,136 @@ TEST_F(outline_on_screen, tells_who_listens_of_each_input) {
   list.redraw();
   QCoreApplication::processEvents();
   EXPECT_EQ(inputs, 2);
+}
+
+TEST_F(outline_on_screen, opens_its_menu_over_the_item_that_was_clicked) {
+  struct tool final : action_tool_impl {
+    void caption(string_visitor v) override { give(v, L"Remove"); }
+    void execute() override { ++executions; }
+    int executions = 0;
+  } remove;
+  struct tools final : tool_set_impl {
+    explicit tools(tool& shown) : shown(shown) {}
+    void visit(tool_visitor v) override {
+      call<&tool_visitor_impl::visit>(v, L"remove", handle(handle_of<action_tool_impl>(shown)));
+    }
+    tool& shown;
+  } set(remove);
+  struct menu final : context_menu_impl {
+    explicit menu(tools& shown) : shown(shown) {}
+    void visit(tool_set_visitor v) override {
+      call<&tool_set_visitor_impl::visit>(v, tool_set(handle_of<tool_set_impl>(shown)));
+    }
+    tools& shown;
+  } offered(set);
+  list.add(names);
+  list.menu = &offered;
+  std::unique_ptr<QWidget> control(realise(handle_of<outline_impl>(list), nullptr));
+  control->resize(300, 200);
+  control->show();
+  (void)control->grab();
+  auto* shown_list = control->findChild<QAbstractItemView*>(QStringLiteral("outline_view"));
+  ASSERT_NE(shown_list, nullptr);
+  const QPoint second = shown_list->visualRect(shown_list->model()->index(1, 0)).center();
+  QTest::mouseClick(shown_list->viewport(), Qt::RightButton, {}, second);
+  EXPECT_EQ(list.current_row, 1);
+  QTimer::singleShot(0, control.get(), [] {
+    auto* open_menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(open_menu, nullptr);
+    ASSERT_EQ(open_menu->actions().size(), 1);
+    open_menu->actions()[0]->trigger();
+    open_menu->close();
+  });
+  QContextMenuEvent asked(QContextMenuEvent::Mouse, second,
+                          shown_list->viewport()->mapToGlobal(second));
+  QApplication::sendEvent(shown_list->viewport(), &asked);
+  EXPECT_EQ(remove.executions, 1);
+}
+
+TEST_F(outline_on_screen, says_its_captions_anew_in_another_language) {
+  list.add(names);
+  open();
+  view()->setCurrentIndex(cell(1, 0));
+  names.said_caption = L"Текст";
+  QEvent change(QEvent::LanguageChange);
+  QApplication::sendEvent(widget.get(), &change);
+  EXPECT_EQ(widget->model()->headerData(0, Qt::Horizontal, Qt::DisplayRole).toString(),
+            QString::fromUtf8("Текст"));
+  EXPECT_EQ(view()->currentIndex().row(), 1) << "nothing else changes";
+}
+
+TEST_F(outline_on_screen, hides_columns_by_the_menu_of_its_captions_and_remembers_it) {
+  struct second_text : text_column {
+    void id(string_visitor v) override { give(v, L"second_text"); }
+  } second;
+  list.add(names);
+  list.add(second);
+  open();
+  auto* header = widget->findChild<QHeaderView*>();
+  const auto choose = [&](int action) {
+    QTimer::singleShot(0, header, [action] {
+      auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+      ASSERT_NE(menu, nullptr);
+      menu->actions()[action]->trigger();
+      menu->close();
+    });
+    Q_EMIT header->customContextMenuRequested(QPoint(5, 5));
+  };
+  choose(1);
+  EXPECT_TRUE(header->isSectionHidden(1));
+  choose(0);
+  EXPECT_FALSE(header->isSectionHidden(0)) << "the last one stays";
+  widget.reset();
+  open();
+  header = widget->findChild<QHeaderView*>();
+  EXPECT_TRUE(header->isSectionHidden(1));
+  choose(1);
+  EXPECT_FALSE(header->isSectionHidden(1));
+}
+
+// --- Lists
+
+struct fake_list : list_impl {
+  std::uint32_t count() override { return std::uint32_t(texts.size()); }
+  void item_text(std::uint32_t i, string_visitor v) override { give(v, texts[i]); }
+  std::int32_t current() override { return chosen; }
+  bool is_marked(std::uint32_t i) override { return int(i) == chosen; }
+  void set_current(std::int32_t i) override {
+    ++sets;
+    chosen = i;
+  }
+  void activate(std::uint32_t i) override { activated = int(i); }
+  void attach_view(element_view given) override { view = given; }
+  std::vector<std::wstring> texts = {L"first", L"second"};
+  int chosen = -1, sets = 0, activated = -1;
+  element_view view;
+};
+
+TEST(list_on_screen, chooses_activates_and_follows_its_element) {
+  fake_list items;
+  {
+    std::unique_ptr<QWidget> control(realise(handle_of<list_impl>(items), nullptr));
+    control->show();
+    (void)control->grab();
+    auto* view = control->findChild<QAbstractItemView*>();
+    ASSERT_NE(view, nullptr);
+    ASSERT_EQ(view->model()->rowCount(), 2);
+    EXPECT_EQ(view->model()->index(1, 0).data().toString(), QStringLiteral("second"));
+    const QPoint second = view->visualRect(view->model()->index(1, 0)).center();
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, second);
+    EXPECT_EQ(items.chosen, 1);
+    EXPECT_EQ(items.sets, 1);
+    QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, second);
+    EXPECT_EQ(items.activated, 1);
+    items.texts.push_back(L"third");
+    call<&element_view_impl::list_changed>(items.view);
+    EXPECT_EQ(view->model()->rowCount(), 3);
+    items.chosen = 2;
+    call<&element_view_impl::value_changed>(items.view);
+    EXPECT_EQ(view->currentIndex().row(), 2);
+    EXPECT_EQ(items.sets, 1);
+  }
+  EXPECT_FALSE(items.view);
 }
 
 // --- Trees

@@ -2,6 +2,7 @@
 
 #include <QDropEvent>
 #include <QMenu>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QTabBar>
 #include <QUrl>
@@ -272,8 +273,8 @@ TEST_F(main_window_test, rounds_of_projects_leave_nothing_behind) {
   std::uint64_t bitmaps = zu_dib_get_live_count();
   qsizetype widgets = QApplication::allWidgets().size();
   for (int round = 0; round < 1000; ++round) {
-    window_->open_paths({path("mine.zgp")});
-    actions().file_new->trigger();
+    content().open_project(path("mine.zgp"));
+    content().clear();
     if (round % 100 == 0) QCoreApplication::processEvents();
   }
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -325,6 +326,35 @@ TEST_F(main_window_test, no_picture_is_written_over_a_source) {
   answers_.picture = path("b.tif");
   actions().file_export->trigger();
   EXPECT_EQ(messages().size(), 1);
+}
+
+TEST_F(main_window_test, no_two_entries_of_a_menu_answer_to_the_same_letter) {
+  for (QAction* speech : {actions().language_english, actions().language_russian}) {
+    speech->trigger();
+    QList<QList<QAction*>> menus{window_->menuBar()->actions()};
+    for (QMenu* menu : window_->findChildren<QMenu*>()) menus += menu->actions();
+    for (const QList<QAction*>& menu : menus) {
+      QMap<QString, QString> taken;
+      for (QAction* entry : menu) {
+        QString key = QKeySequence::mnemonic(entry->text()).toString();
+        if (key.isEmpty()) continue;
+        EXPECT_FALSE(taken.contains(key))
+            << entry->text().toStdString() << " and " << taken[key].toStdString();
+        taken[key] = entry->text();
+      }
+    }
+  }
+}
+
+TEST_F(main_window_test, no_two_actions_share_a_key) {
+  QMap<QKeySequence, QString> taken;
+  for (QAction* action : actions().findChildren<QAction*>())
+    for (const QKeySequence& key : action->shortcuts()) {
+      EXPECT_FALSE(taken.contains(key))
+          << action->text().toStdString() << " and " << taken[key].toStdString();
+      taken[key] = action->text();
+    }
+  EXPECT_GT(taken.size(), 20);
 }
 
 }  // namespace zu::desktop

@@ -141,6 +141,9 @@ void main_window::connect_map() {
   connect(actions_->zoom_all, &QAction::triggered, this, [map] { map().zoom_to_all(); });
   connect(actions_->zoom_back, &QAction::triggered, this, [map] { map().go_back(); });
   connect(actions_->zoom_forward, &QAction::triggered, this, [map] { map().go_forward(); });
+  connect(actions_->own_axes, &QAction::triggered, this,
+          [map](bool own) { map().set_own_axes(own); });
+  connect(actions_->select_clear, &QAction::triggered, this, &main_window::clear_selection);
   connect(actions_->redraw, &QAction::triggered, this, [map] { map().redraw(); });
   connect(actions_->file_export, &QAction::triggered, this, &main_window::export_picture);
   connect(actions_->copy_picture, &QAction::triggered, this, &main_window::copy_picture);
@@ -305,8 +308,19 @@ void main_window::show_view() {
   bool is_empty = document_.scene().layers.empty();
   status_->show_scale(is_empty ? 0 : map.map_scale());
   status_->show_projection(QString::fromStdString(document_.scene().content->projection()));
+  actions_->own_axes->setChecked(map.has_own_axes());
   actions_->zoom_back->setEnabled(!is_empty && map.can_go_back());
   actions_->zoom_forward->setEnabled(!is_empty && map.can_go_forward());
+}
+
+void main_window::clear_selection() {
+  for (const auto& each : document_.scene().content->layers()) {
+    Tzu_table_data* table = zu_lr_get_data_ptr(each->entity());
+    if (!zu_table_data_has_selected_ids(table)) continue;
+    zu_table_data_begin_update(table);
+    zu_table_data_clear_selected_ids(table);
+    zu_table_data_end_update(table);
+  }
 }
 
 void main_window::show_info(double x, double y) {

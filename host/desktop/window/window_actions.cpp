@@ -32,12 +32,16 @@ const row rows[] = {
      "Копировать &картинку"},
     {&actions::copy_command, "copy_command", "utilities-terminal", "Ctrl+Alt+C", "Copy as co&mmand",
      "Копировать как ко&манду"},
+    {&actions::select_clear, "select_clear", "edit-select-none", "Ctrl+Shift+A", "C&lear selection",
+     "&Снять выделение"},
     {&actions::edit_settings, "edit_settings", "configure", "Ctrl+,", "&Settings…", "&Настройки…"},
     {&actions::zoom_in, "zoom_in", "zoom-in", "Ctrl++; Ctrl+=", "Zoom &in", "При&близить"},
     {&actions::zoom_out, "zoom_out", "zoom-out", "Ctrl+-", "Zoom &out", "&Отдалить"},
     {&actions::zoom_all, "zoom_all", "zoom-fit-best", "Ctrl+0", "Show &all", "Показать &всё"},
     {&actions::zoom_back, "zoom_back", "go-previous", "Alt+Left", "&Back", "&Назад"},
     {&actions::zoom_forward, "zoom_forward", "go-next", "Alt+Right", "&Forward", "Вп&ерёд"},
+    {&actions::own_axes, "own_axes", "", "Ctrl+Alt+A", "A scale for each a&xis",
+     "Свой масштаб каждой о&си"},
     {&actions::redraw, "redraw", "view-refresh", "F5", "&Redraw", "Пе&рерисовать"},
     {&actions::full_screen, "full_screen", "view-fullscreen", "F11", "F&ull screen",
      "Во весь &экран"},
@@ -75,7 +79,7 @@ window_actions::window_actions(QObject* parent) : QObject(parent) {
     if (*each.keys != '\0')
       action->setShortcuts(QKeySequence::listFromString(QString::fromLatin1(each.keys)));
   }
-  for (QAction* action : {full_screen, info_tool, language_english, language_russian})
+  for (QAction* action : {full_screen, info_tool, own_axes, language_english, language_russian})
     action->setCheckable(true);
   auto* languages = new QActionGroup(this);
   languages->addAction(language_english);

@@ -30,7 +30,7 @@ struct Tzu_scn_2d {
   bool box_is_known = false;
   std::optional<Tzu_box_d2> box;  // of the visible layers, once it is known
   std::wstring projection;
-  Tzu_optional_color selected{};
+  Tzu_optional_color selected{{255, 220, 0, 64}, 0};  // unset, but to be seen on any map
   std::optional<Tzu_pln_style> selected_line;
   Tzu_prf_data profile;
   Tzu_event_channel channel;

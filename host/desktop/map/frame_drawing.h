@@ -2,6 +2,7 @@
 // One picture of a map, drawn layer by layer, so that whoever waits can see how far it is and a
 // newer wish can take its place.
 
+#include <QColor>
 #include <QImage>
 #include <memory>
 

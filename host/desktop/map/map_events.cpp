@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWheelEvent>
+#include <utility>
 
 #include "host/desktop/map/cursors.h"
 #include "host/desktop/map/frame_painting.h"

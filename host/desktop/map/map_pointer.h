@@ -5,6 +5,7 @@
 #include <QPointF>
 #include <Qt>
 #include <functional>
+#include <utility>
 
 #include "host/desktop/map/mode_host.h"
 #include "zu/platform/zuk_viewer2d.h"

@@ -1,5 +1,6 @@
 #include "host/desktop/map/map_view.h"
 
+#include <QElapsedTimer>
 #include <QEvent>
 #include <QPointer>
 #include <algorithm>

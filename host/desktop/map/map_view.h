@@ -2,11 +2,11 @@
 // The map: shows the scene of a viewer, and makes sense of mouse and keys. What was drawn last
 // stands on the window, moved or scaled, until a picture of the new box is there.
 
-#include <QElapsedTimer>
 #include <QTimer>
 #include <QWidget>
 #include <memory>
 #include <optional>
+#include <utility>
 
 #include "host/desktop/map/frame_drawing.h"
 #include "host/desktop/map/map_pointer.h"

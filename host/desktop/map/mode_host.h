@@ -2,7 +2,9 @@
 // The host's side of a viewer's extension: which of its modes is in force, and what that shows.
 
 #include <QCursor>
+#include <cstdint>
 #include <functional>
+#include <utility>
 
 #include "zu/viewer.h"
 

@@ -1,5 +1,6 @@
 #include "host/desktop/map/scene_watch.h"
 
+#include <cstdint>
 #include <initializer_list>
 
 namespace zu::desktop {

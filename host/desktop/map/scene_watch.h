@@ -2,6 +2,7 @@
 // Hears of what makes a scene's picture old: its layers, their data, what of them is selected.
 
 #include <functional>
+#include <utility>
 #include <vector>
 
 #include "zu/platform/zuk_lr2d.h"

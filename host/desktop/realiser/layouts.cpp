@@ -123,7 +123,7 @@ void grid_layout_widget::heard(notice what) {
   for (int i = 0; i < grid_->count() && !grows; ++i)
     grows = !grid_->itemAt(i)->isEmpty() &&
             (grid_->itemAt(i)->expandingDirections() & Qt::Vertical) != 0;
-  grid_->setRowStretch(rows_, grows ? 0 : 1);
+  grid_->setAlignment(grows || rows_ == 1 ? Qt::Alignment() : Qt::AlignTop);
   setSizePolicy(wide ? QSizePolicy::Expanding : QSizePolicy::Preferred,
                 high ? QSizePolicy::Expanding : QSizePolicy::Preferred);
 }

@@ -4,6 +4,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMenu>
 #include <QPointer>
 #include <QScrollBar>
 #include <QTreeView>
@@ -33,6 +34,10 @@ class tree_view final : public QTreeView {
 };
 
 QString width_name(const shown_column& c) { return QStringLiteral("column/") + c.id; }
+QString hidden_name(const shown_column& c) { return QStringLiteral("hidden_column/") + c.id; }
+bool is_hidden_by_person(const shown_column& c) {
+  return !c.id.isEmpty() && !choice(hidden_name(c)).isEmpty();
+}
 
 }  // namespace
 
@@ -65,6 +70,10 @@ outline_widget::outline_widget(handle shown, QWidget* parent)
   choice_ = new outline_choice(outline(shown), model_, view_);
   connect_inputs();
   begin();
+}
+
+outline_widget::~outline_widget() {
+  delete view_;  // while the outline may still be asked: an editor that goes may ask
 }
 
 void outline_widget::make_view() {
@@ -103,6 +112,8 @@ void outline_widget::connect_inputs() {
     show_look();
     input_happened();
   });
+  header()->setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(header(), &QWidget::customContextMenuRequested, this, &outline_widget::open_columns_menu);
   connect(header(), &QHeaderView::sectionHandleDoubleClicked, this,
           [this](int section) { header()->resizeSection(section, fitting_width(section)); });
   connect(header(), &QHeaderView::sectionResized, this, [this](int section, int, int size) {
@@ -111,6 +122,28 @@ void outline_widget::connect_inputs() {
     if (!model_->column(section).id.isEmpty())
       keep_choice(width_name(model_->column(section)), QString::number(size));
   });
+}
+
+void outline_widget::open_columns_menu(const QPoint& at) {
+  QMenu menu;
+  menu.setObjectName(QStringLiteral("columns_menu"));
+  for (int i = 0; i < model_->columnCount(); ++i) {
+    const shown_column& c = model_->column(i);
+    if (!c.is_visible || c.id.isEmpty() || c.caption.isEmpty()) continue;
+    QAction* shown = menu.addAction(c.caption);
+    shown->setCheckable(true);
+    shown->setChecked(!header()->isSectionHidden(i));
+    // The last one stays: without columns there is no way back to this menu. So does the one with
+    // the rows' checks.
+    const bool is_last = header()->count() - header()->hiddenSectionCount() == 1;
+    shown->setEnabled(header()->isSectionHidden(i) ||
+                      (!is_last && !(i == 0 && model_->has_checks())));
+    connect(shown, &QAction::toggled, this, [this, i, name = hidden_name(c)](bool wanted) {
+      keep_choice(name, wanted ? QString() : QStringLiteral("1"));
+      header()->setSectionHidden(i, !wanted);
+    });
+  }
+  if (menu.actions().size() > 1) menu.exec(header()->mapToGlobal(at));
 }
 
 void outline_widget::heard(notice what) {
@@ -158,7 +191,8 @@ void outline_widget::show_look() {
 void outline_widget::show_columns() {
   bool any_sortable = false;
   for (int i = 0; i < header()->count(); ++i) {
-    header()->setSectionHidden(i, !model_->column(i).is_visible);
+    header()->setSectionHidden(
+        i, !model_->column(i).is_visible || is_hidden_by_person(model_->column(i)));
     any_sortable = any_sortable || model_->column(i).is_sortable;
   }
   header()->setSectionsClickable(any_sortable);

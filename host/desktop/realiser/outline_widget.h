@@ -17,6 +17,7 @@ class outline_widget final : public realised<outline_impl, QWidget> {
   Q_OBJECT
  public:
   outline_widget(handle shown, QWidget* parent);
+  ~outline_widget() override;
 
   QAbstractItemView* view() const { return view_; }
   outline_model* model() const { return model_; }
@@ -32,6 +33,7 @@ class outline_widget final : public realised<outline_impl, QWidget> {
  private:
   void make_view();
   void connect_inputs();
+  void open_columns_menu(const QPoint& at);
   QHeaderView* header() const;
   void show_look();
   void show_columns();

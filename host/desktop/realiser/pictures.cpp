@@ -19,6 +19,7 @@ class pixel_reader final : public bytes_visitor_impl {
     if (interleave != 1 || channels == 0 || channels > bytes_per_pixel || bytes_per_pixel > 16 ||
         row_bytes < width * bytes_per_pixel)
       return;
+    is_opaque = channels == 1 || channels == 3;
     image = QImage(int(width), int(height), QImage::Format_RGBA8888_Premultiplied);
     for (std::uint64_t row = 0; row < height; ++row) {
       const std::uint8_t* from = pixels + (height - 1 - row) * row_bytes;
@@ -30,12 +31,36 @@ class pixel_reader final : public bytes_visitor_impl {
     }
   }
   QImage image;
+  bool is_opaque = false;
 };
+
+/// Shared pictures come with their ground painted. Its colour is that of the low left pixel.
+void cut_out_ground(QImage& image) {
+  if (image.isNull()) return;
+  QRgb ground = image.pixel(0, image.height() - 1);
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x)
+      if (image.pixel(x, y) == ground) image.setPixel(x, y, 0);
+}
 
 // Pictures that all parts share, by what they mean.
 const std::map<std::int32_t, const char*> shared_pictures = {
-    {-62, "edit-copy"}, {-63, "edit-paste"}, {-74, "document-open"},   {-75, "document-save"},
-    {-101, "zoom-in"},  {-102, "zoom-out"},  {-103, "transform-move"}, {-112, "zoom-fit-best"},
+    {-62, "edit-copy"},
+    {-63, "edit-paste"},
+    {-74, "document-open"},
+    {-75, "document-save"},
+    {-101, "zoom-in"},
+    {-102, "zoom-out"},
+    {-103, "transform-move"},
+    {-112, "zoom-fit-best"},
+    {-121, "edit-select"},
+    {-123, "edit-select-none"},
+    {-104, "zoom-in-x"},
+    {-105, "y-zoom-in"},
+    {-106, "zoom-out-x"},
+    {-107, "zoom-out-y"},
+    {-108, "transform-move-horizontal"},
+    {-109, "transform-move-vertical"},
 };
 
 }  // namespace
@@ -44,6 +69,7 @@ void kept_picture::visit(bitmap shown) {
   pixel_reader reader;
   call<&bitmap_impl::pixels>(shown, bytes_visitor(handle_of<bytes_visitor_impl>(reader)));
   picture_ = {reader.image, call<&bitmap_impl::id>(shown)};
+  if (picture_.id < 0 && reader.is_opaque) cut_out_ground(picture_.image);
 }
 
 QIcon icon_of(const picture& shown) {

@@ -39,7 +39,7 @@ constexpr row rows[] = {
     {"zu_common_plugin_viewer2d_panel_tool_zoom_pan_v", "transform-move-vertical"},
     {"zu_common_plugin_viewer2d_panel_tool_select_append", "edit-select"},
     {"zu_common_plugin_viewer2d_panel_tool_select_remove", "edit-select-none"},
-    {"zu_common_plugin_viewer2d_panel_tool_select_polygon", "draw-polygon"},
+    {"zu_common_plugin_viewer2d_panel_tool_select_polygon", "edit-select-lasso"},
     {"zu_common_plugin_viewer2d_panel_tool_select_line", "draw-polyline"},
     {"zuk_histogramm_element_mode_tool", "transform-move-horizontal"},
     {"zuk_histogramm_element_make_histogramm_tool", "view-object-histogram-linear"},

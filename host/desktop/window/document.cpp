@@ -44,7 +44,11 @@ void document::set_active_scene(int index) {
 void document::set_active_layer(host::layer* layer) {
   if (layer == active_layer_ || (layer != nullptr && index_of(layer) < 0)) return;
   active_layer_ = layer;
-  if (layer != nullptr) last_active_[scene().id] = scene().layers[std::size_t(index_of(layer))].id;
+  if (layer != nullptr) {
+    // A scene forgets by itself a layer that leaves.
+    zu_scn_2d_set_active_layer(scene().content->get(), layer->entity());
+    last_active_[scene().id] = scene().layers[std::size_t(index_of(layer))].id;
+  }
   Q_EMIT layer_activated();
 }
 

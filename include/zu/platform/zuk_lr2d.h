@@ -105,7 +105,7 @@ ZU_API void zu_scn_2d_calc_box(Tzu_scn_2d* scene);
 ZU_API bool zu_scn_2d_get_clipped_box(Tzu_scn_2d* scene, Tzu_box_d2* box);
 ZU_API void zu_scn_2d_set_pj4wstr(Tzu_scn_2d* scene, const wchar_t* projection);
 ZU_API void zu_scn_2d_get_pj4wstr(const Tzu_scn_2d* scene, Tzu_string_adp* adapter);
-/// Colour in which selected cells show; a new scene has none set.
+/// Colour in which selected cells show; a new scene has none set, and tells a yellow.
 ZU_API Tzu_optional_color zu_scn_2d_get_selected_style_clr(const Tzu_scn_2d* scene);
 ZU_API void zu_scn_2d_set_selected_style_clr(Tzu_scn_2d* scene, Tzu_optional_color color);
 /// Line in which selected pieces of curves show, owned by the scene; null if none is set.

@@ -33,6 +33,17 @@ TEST(picture, of_three_channels_is_opaque) {
   EXPECT_EQ(kept.get().image.pixelColor(0, 0), QColor(0, 0, 0));
 }
 
+TEST(picture, that_all_share_loses_its_ground) {
+  fake_bitmap picture;
+  picture.channels = 3;
+  picture.number = -656;
+  picture.bytes = {255, 255, 255, 0, 9, 9, 9, 0, 255, 255, 255, 0, 8, 8, 8, 0};
+  kept_picture kept;
+  show(kept.visitor(), picture);
+  EXPECT_EQ(kept.get().image.pixelColor(0, 0).alpha(), 0);
+  EXPECT_EQ(kept.get().image.pixelColor(1, 1), QColor(9, 9, 9));
+}
+
 struct fake_canvas : faked<canvas_impl> {
   double width() override { return wide; }
   double height() override { return high; }

@@ -627,6 +627,35 @@ TEST_F(outline_on_screen, says_its_captions_anew_in_another_language) {
   EXPECT_EQ(view()->currentIndex().row(), 1) << "nothing else changes";
 }
 
+TEST_F(outline_on_screen, hides_columns_by_the_menu_of_its_captions_and_remembers_it) {
+  struct second_text : text_column {
+    void id(string_visitor v) override { give(v, L"second_text"); }
+  } second;
+  list.add(names);
+  list.add(second);
+  open();
+  auto* header = widget->findChild<QHeaderView*>();
+  const auto choose = [&](int action) {
+    QTimer::singleShot(0, header, [action] {
+      auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+      ASSERT_NE(menu, nullptr);
+      menu->actions()[action]->trigger();
+      menu->close();
+    });
+    Q_EMIT header->customContextMenuRequested(QPoint(5, 5));
+  };
+  choose(1);
+  EXPECT_TRUE(header->isSectionHidden(1));
+  choose(0);
+  EXPECT_FALSE(header->isSectionHidden(0)) << "the last one stays";
+  widget.reset();
+  open();
+  header = widget->findChild<QHeaderView*>();
+  EXPECT_TRUE(header->isSectionHidden(1));
+  choose(1);
+  EXPECT_FALSE(header->isSectionHidden(1));
+}
+
 // --- Lists
 
 struct fake_list : list_impl {

@@ -202,6 +202,8 @@ void main_window::connect_layers() {
     int index = layers_->current_index();
     document_.move_layer(index, index - 1);
   });
+  connect(actions_->layer_visible, &QAction::triggered, this,
+          [this](bool visible) { document_.set_layer_visible(layers_->current_index(), visible); });
   connect(actions_->layer_source, &QAction::triggered, this,
           [this] { choose_source(layers_->current_index()); });
 }
@@ -210,6 +212,10 @@ void main_window::connect_scenes() {
   connect(actions_->scene_add, &QAction::triggered, this, [this] { document_.add_scene({}); });
   connect(actions_->scene_remove, &QAction::triggered, this,
           [this] { document_.remove_scene(document_.active_scene()); });
+  connect(actions_->scene_next, &QAction::triggered, this,
+          [this] { document_.set_active_scene(document_.active_scene() + 1); });
+  connect(actions_->scene_previous, &QAction::triggered, this,
+          [this] { document_.set_active_scene(document_.active_scene() - 1); });
   auto rename = [this](int index) {
     if (index < 0) return;
     QString name = prompts_.name(
@@ -292,12 +298,18 @@ void main_window::show_state() {
       index >= 0 && index < count ? layers[std::size_t(index)].shown : nullptr;
   a.layer_zoom->setEnabled(layer != nullptr && layer->box().has_value());
   a.layer_rename->setEnabled(layer != nullptr);
+  a.layer_visible->setEnabled(layer != nullptr);
+  a.layer_visible->setChecked(layer != nullptr && layer->is_visible());
   a.layer_source->setEnabled(layer != nullptr);
   a.layer_remove->setEnabled(index >= 0);
   a.layer_up->setEnabled(index >= 0 && index + 1 < count);
   a.layer_down->setEnabled(index > 0);
   a.file_save->setEnabled(document_.is_changed() || document_.path().isEmpty());
-  a.scene_remove->setEnabled(document_.content().scenes().size() > 1);
+  int scene = document_.active_scene();
+  int scenes = static_cast<int>(document_.content().scenes().size());
+  a.scene_remove->setEnabled(scenes > 1);
+  a.scene_previous->setEnabled(scene > 0);
+  a.scene_next->setEnabled(scene + 1 < scenes);
   for (QAction* each : {a.zoom_in, a.zoom_out, a.zoom_all, a.redraw, a.copy_picture, a.copy_command,
                         a.file_export, a.info_tool})
     each->setEnabled(count > 0);
@@ -396,7 +408,8 @@ void main_window::dragEnterEvent(QDragEnterEvent* event) {
 
 void main_window::dropEvent(QDropEvent* event) {
   event->acceptProposedAction();
-  open_paths(paths_of(*event->mimeData()));
+  // Where the files come from waits for the answer, and opening may ask a person.
+  QTimer::singleShot(0, this, [this, paths = paths_of(*event->mimeData())] { open_paths(paths); });
 }
 
 }  // namespace zu::desktop

@@ -53,12 +53,17 @@ const row rows[] = {
     {&actions::layer_down, "layer_down", "go-down", "Ctrl+Down", "Move &down", "Ни&же"},
     {&actions::layer_source, "layer_source", "document-open-data", "", "Choose the &source…",
      "Выбрать и&сточник…"},
+    {&actions::layer_visible, "layer_visible", "", "", "&Visible", "Види&мый"},
     {&actions::scene_add, "scene_add", "tab-new", "Ctrl+T", "&New scene", "&Новая сцена"},
     {&actions::scene_rename, "scene_rename", "edit-rename", "", "R&ename scene…",
      "Пере&именовать сцену…"},
     {&actions::scene_remove, "scene_remove", "tab-close", "", "&Remove scene", "&Удалить сцену"},
     {&actions::scene_projection, "scene_projection", "globe", "Ctrl+Shift+P", "&Projection…",
      "&Проекция…"},
+    {&actions::scene_next, "scene_next", "go-next", "Ctrl+PgDown", "Ne&xt scene",
+     "С&ледующая сцена"},
+    {&actions::scene_previous, "scene_previous", "go-previous", "Ctrl+PgUp", "Pre&vious scene",
+     "Пред&ыдущая сцена"},
     {&actions::info_tool, "info_tool", "documentinfo", "Ctrl+I", "&Information", "&Информация"},
     {&actions::help_shortcuts, "help_shortcuts", "input-keyboard", "F1", "&Keyboard shortcuts",
      "Сочетания &клавиш"},
@@ -79,7 +84,8 @@ window_actions::window_actions(QObject* parent) : QObject(parent) {
     if (*each.keys != '\0')
       action->setShortcuts(QKeySequence::listFromString(QString::fromLatin1(each.keys)));
   }
-  for (QAction* action : {full_screen, info_tool, own_axes, language_english, language_russian})
+  for (QAction* action :
+       {full_screen, info_tool, own_axes, layer_visible, language_english, language_russian})
     action->setCheckable(true);
   auto* languages = new QActionGroup(this);
   languages->addAction(language_english);

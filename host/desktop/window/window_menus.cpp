@@ -82,7 +82,7 @@ void main_window::make_menus() {
   view_menu_->addAction(a.full_screen);
 
   layer_menu_ = add_menu("menu_layer", "&Layer", "&Слой");
-  layer_menu_->addActions({a.layer_zoom, a.layer_rename, a.layer_source});
+  layer_menu_->addActions({a.layer_visible, a.layer_zoom, a.layer_rename, a.layer_source});
   layer_menu_->addSeparator();
   layer_menu_->addActions({a.layer_up, a.layer_down});
   layer_menu_->addSeparator();
@@ -92,6 +92,8 @@ void main_window::make_menus() {
   scene->addAction(a.scene_projection);
   scene->addSeparator();
   scene->addActions({a.scene_add, a.scene_rename, a.scene_remove});
+  scene->addSeparator();
+  scene->addActions({a.scene_previous, a.scene_next});
 
   tools_menu_ = add_menu("menu_tools", "&Tools", "&Инструменты");
 

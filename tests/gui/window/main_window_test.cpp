@@ -22,6 +22,7 @@ TEST_F(main_window_test, an_empty_one_says_how_to_open_a_file) {
   QTest::mouseClick(window_->findChild<QPushButton*>(QStringLiteral("start_open")), Qt::LeftButton);
   EXPECT_FALSE(window_->views().start().isVisible());
   EXPECT_TRUE(window_->views().current().isVisible());
+  EXPECT_TRUE(window_->views().current().hasFocus());
   EXPECT_EQ(captions(), QStringList{QStringLiteral("hills.asc")});
 }
 
@@ -52,6 +53,7 @@ TEST_F(main_window_test, takes_files_that_are_dropped) {
   EXPECT_TRUE(enter.isAccepted());
   QDropEvent drop(QPointF(300, 300), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
   QCoreApplication::sendEvent(window_.get(), &drop);
+  QCoreApplication::processEvents();
   EXPECT_EQ(captions(), QStringList{QStringLiteral("with space.asc")});
 }
 
@@ -204,7 +206,9 @@ TEST_F(main_window_test, scenes_stand_in_tabs_when_there_are_several) {
   answers_.name = QStringLiteral("Fish & chips");
   actions().scene_rename->trigger();
   EXPECT_EQ(tabs.tabText(1), QStringLiteral("Fish && chips"));
-  tabs.setCurrentIndex(0);
+  actions().scene_previous->trigger();
+  EXPECT_EQ(tabs.currentIndex(), 0);
+  EXPECT_FALSE(actions().scene_previous->isEnabled());
   EXPECT_EQ(captions(), QStringList{QStringLiteral("a.asc")});
   actions().scene_remove->trigger();
   EXPECT_EQ(tabs.count(), 1);

@@ -16,7 +16,8 @@ namespace zu::desktop {
 class item_use {
  public:
   template <class function>
-  item_use(function&& use)  // NOLINT: a lambda is passed as it stands
+  requires(!std::is_same_v<std::remove_cvref_t<function>, item_use>)
+      item_use(function&& use)  // NOLINT: a lambda is passed as it stands
       : object_(const_cast<void*>(static_cast<const void*>(&use))),
         call_([](void* object, outline_item item) {
           (*static_cast<std::remove_reference_t<function>*>(object))(item);

@@ -31,6 +31,7 @@ info_window::info_window(document& shown, QWidget* parent) : QTreeWidget(parent)
   header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
   auto forget = [this] {
     is_empty_ = true;
+    was_asked_ = false;
     retranslate();
   };
   connect(&document_, &document::replaced, this, forget);
@@ -40,7 +41,7 @@ info_window::info_window(document& shown, QWidget* parent) : QTreeWidget(parent)
 
 void info_window::show_point(double x, double y) {
   clear();
-  is_empty_ = true;
+  is_empty_ = was_asked_ = true;
   const auto& layers = document_.scene().content->layers();
   for (auto each = layers.rbegin(); each != layers.rend(); ++each) {
     const host::layer& layer = **each;
@@ -52,7 +53,9 @@ void info_window::show_point(double x, double y) {
       found = {{problem.what(), {}}};
     }
     for (const host::object_info& object : found) {
-      auto* item = new QTreeWidgetItem(this, {QString::fromStdString(object.title)});
+      QString title = QStringLiteral("%1: %2").arg(QString::fromStdString(layer.caption()),
+                                                   QString::fromStdString(object.title));
+      auto* item = new QTreeWidgetItem(this, {title});
       item->setFirstColumnSpanned(true);
       for (const auto& [name, value] : object.values)
         new QTreeWidgetItem(item, {QString::fromStdString(name), QString::fromStdString(value)});
@@ -96,7 +99,9 @@ void info_window::retranslate() {
   setHeaderLabels({words("Name", "Название"), words("Value", "Значение")});
   if (!is_empty_) return;
   clear();
-  auto* hint = new QTreeWidgetItem(this, {words("Click the map", "Щёлкните по карте")});
+  auto* hint = new QTreeWidgetItem(
+      this, {was_asked_ ? words("Nothing is there", "Там ничего нет")
+                        : words("Click the map", "Щёлкните по карте")});
   hint->setFlags(Qt::NoItemFlags);
   hint->setFirstColumnSpanned(true);
 }

@@ -30,6 +30,7 @@ class info_window final : public QTreeWidget {
 
   document& document_;
   bool is_empty_ = true;  // what stands there is no layer's
+  bool was_asked_ = false;  ///< a person has clicked since the scene came
 };
 
 }  // namespace zu::desktop

@@ -220,8 +220,6 @@ void layer::load_state(const std::string& state) {
   if (root) load(root.get());
 }
 
-void layer::draw(Izu_render* render) const {
-  draw_entity(services_, render, entity_);
-}
+void layer::draw(Izu_render* render) const { draw_entity(services_, render, entity_); }
 
 }  // namespace zu::host

@@ -125,9 +125,19 @@ void map_view::follow_window() {
 
 void map_view::follow_profile() {
   Tzu_prf_data* profile = zu_scn_2d_get_prf_data_ptr(zu_viewer2d_get_scn_2d(viewer()));
-  bool own_scales = zu_prf_data_get_is_profil(profile) && zu_prf_data_get_axes_scale(profile) != 1;
-  if (own_scales != zu_viewer2d_is_anisotropic(viewer()))
-    zu_viewer2d_set_anisotropic(viewer(), own_scales);
+  bool wanted = own_axes_.value_or(zu_prf_data_get_is_profil(profile) &&
+                                   zu_prf_data_get_axes_scale(profile) != 1);
+  if (wanted == has_own_axes()) return;
+  zu_viewer2d_set_anisotropic(viewer(), wanted);
+  // The tools of single axes come and go.
+  call<&viewer_extension_impl::activated>(modes_.extension());
+}
+
+void map_view::set_own_axes(bool own) {
+  own_axes_ = own;
+  follow_profile();
+  zoom_to_all();
+  Q_EMIT view_changed();
 }
 
 void map_view::begin_drawing() {

@@ -46,6 +46,10 @@ class map_view : public QWidget {
   double map_scale() const;  ///< denominator of the scale along x; 0 as long as there is none
   void set_map_scale(double denominator);
 
+  /// Whether each axis has a scale of its own. Sections decide it by themselves until it is set.
+  bool has_own_axes() const { return zu_viewer2d_is_anisotropic(viewer()); }
+  void set_own_axes(bool own);
+
   /// The modes of the viewer; empty: the left button moves the map.
   void set_extension(viewer_extension extension) { modes_.set_extension(extension); }
   /// Has a service make them and gives the tool bar that chooses them.
@@ -133,7 +137,8 @@ class map_view : public QWidget {
   bool is_wheeling_ = false;
   bool is_sizing_ = false;
   bool is_in_layer_ = false;
-  bool has_box_ = false;  ///< somebody chose what to show
+  std::optional<bool> own_axes_;  ///< set by a person
+  bool has_box_ = false;          ///< somebody chose what to show
   QSize followed_;
   std::optional<Tzu_box_d2> wanted_;  ///< chosen before the map had a size
 };

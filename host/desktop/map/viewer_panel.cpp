@@ -1,6 +1,7 @@
 #include "host/desktop/map/viewer_panel.h"
 
 #include <QEvent>
+#include <QFrame>
 #include <QLabel>
 #include <QVBoxLayout>
 #include <utility>
@@ -11,13 +12,21 @@ namespace zu::desktop {
 
 viewer_panel::viewer_panel(of<viewer_2d_panel_impl> panel, const host::bundle* services,
                            QWidget* parent)
-    : QWidget(parent), panel_(panel), title_(new QLabel(this)), map_(new map_view(services, this)) {
+    : QWidget(parent),
+      panel_(panel),
+      title_(new QLabel(this)),
+      frame_(new QFrame(this)),
+      map_(new map_view(services, frame_)) {
   setObjectName(QStringLiteral("viewer_panel"));
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->addWidget(title_);
-  column->addWidget(map_, 1);
+  column->addWidget(frame_, 1);
+  frame_->setFrameShape(QFrame::StyledPanel);
+  auto* inside = new QVBoxLayout(frame_);
+  inside->setContentsMargins(0, 0, 0, 0);
+  inside->addWidget(map_);
   map_->setMinimumSize(48, 48);
   map_->installEventFilter(this);
   show_title();

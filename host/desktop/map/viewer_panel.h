@@ -5,6 +5,7 @@
 
 #include "host/desktop/map/map_view.h"
 
+class QFrame;
 class QLabel;
 
 namespace zu::desktop {
@@ -30,6 +31,7 @@ class viewer_panel final : public QWidget {
 
   of<viewer_2d_panel_impl> panel_;
   QLabel* title_;
+  QFrame* frame_;
   map_view* map_;
   bool is_attached_ = false;
 };

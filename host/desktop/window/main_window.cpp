@@ -141,6 +141,9 @@ void main_window::connect_map() {
   connect(actions_->zoom_all, &QAction::triggered, this, [map] { map().zoom_to_all(); });
   connect(actions_->zoom_back, &QAction::triggered, this, [map] { map().go_back(); });
   connect(actions_->zoom_forward, &QAction::triggered, this, [map] { map().go_forward(); });
+  connect(actions_->own_axes, &QAction::triggered, this,
+          [map](bool own) { map().set_own_axes(own); });
+  connect(actions_->select_clear, &QAction::triggered, this, &main_window::clear_selection);
   connect(actions_->redraw, &QAction::triggered, this, [map] { map().redraw(); });
   connect(actions_->file_export, &QAction::triggered, this, &main_window::export_picture);
   connect(actions_->copy_picture, &QAction::triggered, this, &main_window::copy_picture);
@@ -199,6 +202,8 @@ void main_window::connect_layers() {
     int index = layers_->current_index();
     document_.move_layer(index, index - 1);
   });
+  connect(actions_->layer_visible, &QAction::triggered, this,
+          [this](bool visible) { document_.set_layer_visible(layers_->current_index(), visible); });
   connect(actions_->layer_source, &QAction::triggered, this,
           [this] { choose_source(layers_->current_index()); });
 }
@@ -207,6 +212,10 @@ void main_window::connect_scenes() {
   connect(actions_->scene_add, &QAction::triggered, this, [this] { document_.add_scene({}); });
   connect(actions_->scene_remove, &QAction::triggered, this,
           [this] { document_.remove_scene(document_.active_scene()); });
+  connect(actions_->scene_next, &QAction::triggered, this,
+          [this] { document_.set_active_scene(document_.active_scene() + 1); });
+  connect(actions_->scene_previous, &QAction::triggered, this,
+          [this] { document_.set_active_scene(document_.active_scene() - 1); });
   auto rename = [this](int index) {
     if (index < 0) return;
     QString name = prompts_.name(
@@ -289,12 +298,18 @@ void main_window::show_state() {
       index >= 0 && index < count ? layers[std::size_t(index)].shown : nullptr;
   a.layer_zoom->setEnabled(layer != nullptr && layer->box().has_value());
   a.layer_rename->setEnabled(layer != nullptr);
+  a.layer_visible->setEnabled(layer != nullptr);
+  a.layer_visible->setChecked(layer != nullptr && layer->is_visible());
   a.layer_source->setEnabled(layer != nullptr);
   a.layer_remove->setEnabled(index >= 0);
   a.layer_up->setEnabled(index >= 0 && index + 1 < count);
   a.layer_down->setEnabled(index > 0);
   a.file_save->setEnabled(document_.is_changed() || document_.path().isEmpty());
-  a.scene_remove->setEnabled(document_.content().scenes().size() > 1);
+  int scene = document_.active_scene();
+  int scenes = static_cast<int>(document_.content().scenes().size());
+  a.scene_remove->setEnabled(scenes > 1);
+  a.scene_previous->setEnabled(scene > 0);
+  a.scene_next->setEnabled(scene + 1 < scenes);
   for (QAction* each : {a.zoom_in, a.zoom_out, a.zoom_all, a.redraw, a.copy_picture, a.copy_command,
                         a.file_export, a.info_tool})
     each->setEnabled(count > 0);
@@ -305,8 +320,19 @@ void main_window::show_view() {
   bool is_empty = document_.scene().layers.empty();
   status_->show_scale(is_empty ? 0 : map.map_scale());
   status_->show_projection(QString::fromStdString(document_.scene().content->projection()));
+  actions_->own_axes->setChecked(map.has_own_axes());
   actions_->zoom_back->setEnabled(!is_empty && map.can_go_back());
   actions_->zoom_forward->setEnabled(!is_empty && map.can_go_forward());
+}
+
+void main_window::clear_selection() {
+  for (const auto& each : document_.scene().content->layers()) {
+    Tzu_table_data* table = zu_lr_get_data_ptr(each->entity());
+    if (!zu_table_data_has_selected_ids(table)) continue;
+    zu_table_data_begin_update(table);
+    zu_table_data_clear_selected_ids(table);
+    zu_table_data_end_update(table);
+  }
 }
 
 void main_window::show_info(double x, double y) {
@@ -382,7 +408,8 @@ void main_window::dragEnterEvent(QDragEnterEvent* event) {
 
 void main_window::dropEvent(QDropEvent* event) {
   event->acceptProposedAction();
-  open_paths(paths_of(*event->mimeData()));
+  // Where the files come from waits for the answer, and opening may ask a person.
+  QTimer::singleShot(0, this, [this, paths = paths_of(*event->mimeData())] { open_paths(paths); });
 }
 
 }  // namespace zu::desktop

@@ -60,6 +60,7 @@ class main_window final : public QMainWindow {
   void show_state();
   void show_view();
   void show_info(double x, double y);
+  void clear_selection();
   void ask_projection();
   QDockWidget* add_dock(const char* name, Qt::DockWidgetArea area, QWidget* content);
   void restore_layout();

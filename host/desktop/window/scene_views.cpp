@@ -1,5 +1,6 @@
 #include "host/desktop/window/scene_views.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QSignalBlocker>
 #include <QStackedWidget>
@@ -130,7 +131,12 @@ void scene_views::follow_scene() {
 void scene_views::follow_layers() {
   map_view& view = current();
   bool is_empty = document_.scene().layers.empty();
-  stack_->setCurrentWidget(is_empty ? static_cast<QWidget*>(start_) : &view);
+  QWidget* front = is_empty ? static_cast<QWidget*>(start_) : &view;
+  if (front == stack_->currentWidget()) return;
+  // A person who opened a file goes on in the map.
+  bool has_focus = stack_->currentWidget()->isAncestorOf(QApplication::focusWidget());
+  stack_->setCurrentWidget(front);
+  if (has_focus) front->setFocus();
 }
 
 void scene_views::remember_boxes() {

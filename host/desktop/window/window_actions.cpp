@@ -32,12 +32,16 @@ const row rows[] = {
      "Копировать &картинку"},
     {&actions::copy_command, "copy_command", "utilities-terminal", "Ctrl+Alt+C", "Copy as co&mmand",
      "Копировать как ко&манду"},
+    {&actions::select_clear, "select_clear", "edit-select-none", "Ctrl+Shift+A", "C&lear selection",
+     "&Снять выделение"},
     {&actions::edit_settings, "edit_settings", "configure", "Ctrl+,", "&Settings…", "&Настройки…"},
-    {&actions::zoom_in, "zoom_in", "zoom-in", "Ctrl++; Ctrl+=", "Zoom &in", "&Приблизить"},
+    {&actions::zoom_in, "zoom_in", "zoom-in", "Ctrl++; Ctrl+=", "Zoom &in", "При&близить"},
     {&actions::zoom_out, "zoom_out", "zoom-out", "Ctrl+-", "Zoom &out", "&Отдалить"},
     {&actions::zoom_all, "zoom_all", "zoom-fit-best", "Ctrl+0", "Show &all", "Показать &всё"},
     {&actions::zoom_back, "zoom_back", "go-previous", "Alt+Left", "&Back", "&Назад"},
-    {&actions::zoom_forward, "zoom_forward", "go-next", "Alt+Right", "&Forward", "&Вперёд"},
+    {&actions::zoom_forward, "zoom_forward", "go-next", "Alt+Right", "&Forward", "Вп&ерёд"},
+    {&actions::own_axes, "own_axes", "", "Ctrl+Alt+A", "A scale for each a&xis",
+     "Свой масштаб каждой о&си"},
     {&actions::redraw, "redraw", "view-refresh", "F5", "&Redraw", "Пе&рерисовать"},
     {&actions::full_screen, "full_screen", "view-fullscreen", "F11", "F&ull screen",
      "Во весь &экран"},
@@ -49,12 +53,17 @@ const row rows[] = {
     {&actions::layer_down, "layer_down", "go-down", "Ctrl+Down", "Move &down", "Ни&же"},
     {&actions::layer_source, "layer_source", "document-open-data", "", "Choose the &source…",
      "Выбрать и&сточник…"},
+    {&actions::layer_visible, "layer_visible", "", "", "&Visible", "Види&мый"},
     {&actions::scene_add, "scene_add", "tab-new", "Ctrl+T", "&New scene", "&Новая сцена"},
-    {&actions::scene_rename, "scene_rename", "edit-rename", "", "Re&name scene…",
+    {&actions::scene_rename, "scene_rename", "edit-rename", "", "R&ename scene…",
      "Пере&именовать сцену…"},
     {&actions::scene_remove, "scene_remove", "tab-close", "", "&Remove scene", "&Удалить сцену"},
     {&actions::scene_projection, "scene_projection", "globe", "Ctrl+Shift+P", "&Projection…",
      "&Проекция…"},
+    {&actions::scene_next, "scene_next", "go-next", "Ctrl+PgDown", "Ne&xt scene",
+     "С&ледующая сцена"},
+    {&actions::scene_previous, "scene_previous", "go-previous", "Ctrl+PgUp", "Pre&vious scene",
+     "Пред&ыдущая сцена"},
     {&actions::info_tool, "info_tool", "documentinfo", "Ctrl+I", "&Information", "&Информация"},
     {&actions::help_shortcuts, "help_shortcuts", "input-keyboard", "F1", "&Keyboard shortcuts",
      "Сочетания &клавиш"},
@@ -72,9 +81,11 @@ window_actions::window_actions(QObject* parent) : QObject(parent) {
     this->*each.action = action;
     action->setObjectName(QString::fromLatin1(each.name));
     action->setIcon(QIcon::fromTheme(QString::fromLatin1(each.icon)));
-    action->setShortcuts(QKeySequence::listFromString(QString::fromLatin1(each.keys)));
+    if (*each.keys != '\0')
+      action->setShortcuts(QKeySequence::listFromString(QString::fromLatin1(each.keys)));
   }
-  for (QAction* action : {full_screen, info_tool, language_english, language_russian})
+  for (QAction* action :
+       {full_screen, info_tool, own_axes, layer_visible, language_english, language_russian})
     action->setCheckable(true);
   auto* languages = new QActionGroup(this);
   languages->addAction(language_english);

@@ -15,10 +15,12 @@ class window_actions final : public QObject {
   explicit window_actions(QObject* parent);
 
   QAction *file_new, *file_open, *file_save, *file_save_as, *file_export, *file_quit;
-  QAction *edit_undo, *edit_redo, *copy_picture, *copy_command, *edit_settings;
-  QAction *zoom_in, *zoom_out, *zoom_all, *zoom_back, *zoom_forward, *redraw, *full_screen;
-  QAction *layer_zoom, *layer_rename, *layer_remove, *layer_up, *layer_down, *layer_source;
-  QAction *scene_add, *scene_rename, *scene_remove, *scene_projection;
+  QAction *edit_undo, *edit_redo, *copy_picture, *copy_command, *select_clear, *edit_settings;
+  QAction *zoom_in, *zoom_out, *zoom_all, *zoom_back, *zoom_forward, *own_axes, *redraw,
+      *full_screen;
+  QAction *layer_zoom, *layer_rename, *layer_remove, *layer_up, *layer_down, *layer_source,
+      *layer_visible;
+  QAction *scene_add, *scene_rename, *scene_remove, *scene_projection, *scene_next, *scene_previous;
   QAction *info_tool, *help_shortcuts, *help_about;
   QAction *language_english, *language_russian;
 

@@ -57,12 +57,14 @@ void main_window::make_menus() {
   edit->addSeparator();
   edit->addActions({a.copy_picture, a.copy_command});
   edit->addSeparator();
+  edit->addAction(a.select_clear);
+  edit->addSeparator();
   edit->addAction(a.edit_settings);
 
   view_menu_ = add_menu("menu_view", "&View", "&Вид");
   view_menu_->addActions({a.zoom_in, a.zoom_out, a.zoom_all, a.layer_zoom});
   view_menu_->addSeparator();
-  view_menu_->addActions({a.zoom_back, a.zoom_forward, a.redraw});
+  view_menu_->addActions({a.zoom_back, a.zoom_forward, a.own_axes, a.redraw});
   view_menu_->addSeparator();
   QMenu* panels = add_menu("menu_panels", "&Panels", "&Панели", view_menu_);
   // Panels of layers come and go, so the list is made when it opens.
@@ -80,7 +82,7 @@ void main_window::make_menus() {
   view_menu_->addAction(a.full_screen);
 
   layer_menu_ = add_menu("menu_layer", "&Layer", "&Слой");
-  layer_menu_->addActions({a.layer_zoom, a.layer_rename, a.layer_source});
+  layer_menu_->addActions({a.layer_visible, a.layer_zoom, a.layer_rename, a.layer_source});
   layer_menu_->addSeparator();
   layer_menu_->addActions({a.layer_up, a.layer_down});
   layer_menu_->addSeparator();
@@ -90,10 +92,12 @@ void main_window::make_menus() {
   scene->addAction(a.scene_projection);
   scene->addSeparator();
   scene->addActions({a.scene_add, a.scene_rename, a.scene_remove});
+  scene->addSeparator();
+  scene->addActions({a.scene_previous, a.scene_next});
 
   tools_menu_ = add_menu("menu_tools", "&Tools", "&Инструменты");
 
-  QMenu* help = add_menu("menu_help", "&Help", "&Справка");
+  QMenu* help = add_menu("menu_help", "&Help", "Спр&авка");
   help->addActions({a.help_shortcuts, a.help_about});
 }
 
@@ -150,10 +154,13 @@ void main_window::fill_modes() {
   modes_bar_->toggleViewAction()->setVisible(are_there);
   // The information tool works where no mode takes the mouse.
   for (const auto& set : modes.sets())
-    for (const auto& action : set)
+    for (const auto& action : set) {
+      connect(action.get(), &QAction::visibleChanged, modes_bar_,
+              [this] { hide_double_separators(*modes_bar_); });
       connect(action.get(), &QAction::toggled, actions_->info_tool, [this](bool on) {
         if (on) actions_->info_tool->setChecked(false);
       });
+    }
 }
 
 }  // namespace zu::desktop

@@ -72,8 +72,8 @@ ZU_API bool zu_viewer2d_zoomhist_has_next(const Tzu_viewer2d* viewer);
 
 /// What the wheel does.
 enum Tzu_wheel_mode {
-  zu_wheel_zoom = 0,    ///< zooms about the pointer
-  zu_wheel_none = 1,    ///< nothing
+  zu_wheel_zoom = 0,  ///< zooms about the pointer
+  zu_wheel_none = 1,  ///< nothing
   // Both axes all the same while they have one scale.
   zu_wheel_zoom_y = 2,  ///< zooms the vertical axis about the pointer
   zu_wheel_zoom_x = 3,  ///< zooms the horizontal axis about the pointer

@@ -64,13 +64,21 @@ TEST_F(layer_list_test, shows_the_uppermost_layer_first_with_its_legend) {
 }
 
 TEST_F(layer_list_test, a_check_box_hides_and_shows_a_layer) {
-  QStyleOptionViewItem option;
   row(1)->setCheckState(0, Qt::Unchecked);
   EXPECT_FALSE(content().scene().layers[1].shown->is_visible());
   EXPECT_EQ(content().undo_name(), QStringLiteral("Hide the layer"));
   actions().edit_undo->trigger();
   EXPECT_TRUE(content().scene().layers[1].shown->is_visible());
   EXPECT_EQ(row(1)->checkState(0), Qt::Checked);
+}
+
+TEST_F(layer_list_test, the_menu_of_a_layer_hides_it_too) {
+  click(row(0));
+  EXPECT_TRUE(actions().layer_visible->isChecked());
+  actions().layer_visible->trigger();
+  EXPECT_FALSE(content().scene().layers[2].shown->is_visible());
+  actions().edit_undo->trigger();
+  EXPECT_TRUE(actions().layer_visible->isChecked());
 }
 
 TEST_F(layer_list_test, space_toggles_the_current_layer) {

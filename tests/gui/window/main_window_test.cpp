@@ -2,6 +2,7 @@
 
 #include <QDropEvent>
 #include <QMenu>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QTabBar>
 #include <QUrl>
@@ -21,6 +22,7 @@ TEST_F(main_window_test, an_empty_one_says_how_to_open_a_file) {
   QTest::mouseClick(window_->findChild<QPushButton*>(QStringLiteral("start_open")), Qt::LeftButton);
   EXPECT_FALSE(window_->views().start().isVisible());
   EXPECT_TRUE(window_->views().current().isVisible());
+  EXPECT_TRUE(window_->views().current().hasFocus());
   EXPECT_EQ(captions(), QStringList{QStringLiteral("hills.asc")});
 }
 
@@ -51,6 +53,7 @@ TEST_F(main_window_test, takes_files_that_are_dropped) {
   EXPECT_TRUE(enter.isAccepted());
   QDropEvent drop(QPointF(300, 300), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
   QCoreApplication::sendEvent(window_.get(), &drop);
+  QCoreApplication::processEvents();
   EXPECT_EQ(captions(), QStringList{QStringLiteral("with space.asc")});
 }
 
@@ -203,7 +206,9 @@ TEST_F(main_window_test, scenes_stand_in_tabs_when_there_are_several) {
   answers_.name = QStringLiteral("Fish & chips");
   actions().scene_rename->trigger();
   EXPECT_EQ(tabs.tabText(1), QStringLiteral("Fish && chips"));
-  tabs.setCurrentIndex(0);
+  actions().scene_previous->trigger();
+  EXPECT_EQ(tabs.currentIndex(), 0);
+  EXPECT_FALSE(actions().scene_previous->isEnabled());
   EXPECT_EQ(captions(), QStringList{QStringLiteral("a.asc")});
   actions().scene_remove->trigger();
   EXPECT_EQ(tabs.count(), 1);
@@ -325,6 +330,35 @@ TEST_F(main_window_test, no_picture_is_written_over_a_source) {
   answers_.picture = path("b.tif");
   actions().file_export->trigger();
   EXPECT_EQ(messages().size(), 1);
+}
+
+TEST_F(main_window_test, no_two_entries_of_a_menu_answer_to_the_same_letter) {
+  for (QAction* speech : {actions().language_english, actions().language_russian}) {
+    speech->trigger();
+    QList<QList<QAction*>> menus{window_->menuBar()->actions()};
+    for (QMenu* menu : window_->findChildren<QMenu*>()) menus += menu->actions();
+    for (const QList<QAction*>& menu : menus) {
+      QMap<QString, QString> taken;
+      for (QAction* entry : menu) {
+        QString key = QKeySequence::mnemonic(entry->text()).toString();
+        if (key.isEmpty()) continue;
+        EXPECT_FALSE(taken.contains(key))
+            << entry->text().toStdString() << " and " << taken[key].toStdString();
+        taken[key] = entry->text();
+      }
+    }
+  }
+}
+
+TEST_F(main_window_test, no_two_actions_share_a_key) {
+  QMap<QKeySequence, QString> taken;
+  for (QAction* action : actions().findChildren<QAction*>())
+    for (const QKeySequence& key : action->shortcuts()) {
+      EXPECT_FALSE(taken.contains(key))
+          << action->text().toStdString() << " and " << taken[key].toStdString();
+      taken[key] = action->text();
+    }
+  EXPECT_GT(taken.size(), 20);
 }
 
 }  // namespace zu::desktop

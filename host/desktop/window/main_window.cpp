@@ -125,6 +125,10 @@ void main_window::connect_files() {
     document_.clear();
   });
   connect(actions_->file_open, &QAction::triggered, this, &main_window::choose_files);
+  connect(actions_->open_grid, &QAction::triggered, this,
+          [this] { choose_files_as(host::open_as::grid); });
+  connect(actions_->open_picture, &QAction::triggered, this,
+          [this] { choose_files_as(host::open_as::picture); });
   connect(actions_->file_save, &QAction::triggered, this, &main_window::save);
   connect(actions_->file_save_as, &QAction::triggered, this, &main_window::save_as);
   connect(actions_->file_quit, &QAction::triggered, this, &main_window::close);

@@ -115,13 +115,11 @@ struct projections::rank {
   bool deprecated, of_others, not_of_the_world;
   std::size_t words;  ///< of the name
 
-  bool operator<(const rank& other) const { return in_order() < other.in_order(); }
-
- private:
   auto in_order() const {
     return std::tie(other_code, only_in_area, only_beginnings, deprecated, of_others,
                     not_of_the_world, words);
   }
+  bool operator<(const rank& other) const { return in_order() < other.in_order(); }
 };
 
 projections::projections() {

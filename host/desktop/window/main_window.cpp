@@ -412,7 +412,13 @@ void main_window::dragEnterEvent(QDragEnterEvent* event) {
 void main_window::dropEvent(QDropEvent* event) {
   event->acceptProposedAction();
   // Where the files come from waits for the answer, and opening may ask a person.
-  QTimer::singleShot(0, this, [this, paths = paths_of(*event->mimeData())] { open_paths(paths); });
+  auto* soon = new QTimer(this);
+  soon->setSingleShot(true);
+  connect(soon, &QTimer::timeout, this, [this, soon, paths = paths_of(*event->mimeData())] {
+    soon->deleteLater();
+    open_paths(paths);
+  });
+  soon->start(0);
 }
 
 }  // namespace zu::desktop

@@ -11,6 +11,8 @@
 class QHeaderView;
 class QLabel;
 
+class QTreeView;
+
 namespace zu::desktop {
 
 class outline_widget final : public realised<outline_impl, QWidget> {
@@ -53,7 +55,7 @@ class outline_widget final : public realised<outline_impl, QWidget> {
   outline_delegate* delegate_;
   QAbstractItemView* view_ = nullptr;
   flat_view* flat_ = nullptr;  // one of the two is the view
-  class QTreeView* tree_ = nullptr;
+  QTreeView* tree_ = nullptr;
   QLabel* empty_text_;
   outline_choice* choice_ = nullptr;
   bool is_fitted_ = false;

@@ -10,7 +10,6 @@
 
 class QHeaderView;
 class QLabel;
-
 class QTreeView;
 
 namespace zu::desktop {

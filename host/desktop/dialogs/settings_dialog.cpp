@@ -99,6 +99,7 @@ settings_dialog::settings_dialog(QWidget* parent)
   place();
   show_kept();
   retranslate();
+  check_folder();
   connect(language_, &QComboBox::currentIndexChanged, this, &settings_dialog::show_choice);
   connect(appearance_, &QComboBox::currentIndexChanged, this, &settings_dialog::show_choice);
   connect(libraries_, &QLineEdit::textChanged, this, &settings_dialog::check_folder);
@@ -121,7 +122,10 @@ void settings_dialog::name_and_link() {
   file_->setObjectName(QStringLiteral("settings_file"));
   file_->setTextFormat(Qt::PlainText);
   file_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  for (QLabel* each : {file_, overviews_note_, libraries_problem_}) each->setWordWrap(true);
+  for (QLabel* each : {file_, overviews_note_}) each->setWordWrap(true);
+  QSizePolicy keeps_room = libraries_problem_->sizePolicy();
+  keeps_room.setRetainSizeWhenHidden(true);
+  libraries_problem_->setSizePolicy(keeps_room);
   language_label_->setBuddy(language_);
   appearance_label_->setBuddy(appearance_);
   units_label_->setBuddy(units_);
@@ -195,7 +199,8 @@ void settings_dialog::retranslate() {
             "Где модули ищут библиотеки стилей; пусто: zugrid/styles в папке "
             "ваших данных"));
   browse_->setText(words("&Browse…", "&Обзор…"));
-  check_folder();
+  libraries_problem_->setText(words("Name a folder that is there, by its full path.",
+                                    "Нужен полный путь существующей папки."));
   overviews_->setText(words("&Make overviews of sections that are opened",
                             "&Строить обзоры разрезов при открытии"));
   overviews_note_->setText(
@@ -219,10 +224,6 @@ void settings_dialog::choose_folder() {
 void settings_dialog::check_folder() {
   QFileInfo folder(libraries_->text());
   bool is_right = libraries_->text().isEmpty() || (folder.isAbsolute() && folder.isDir());
-  libraries_problem_->setText(
-      is_right ? QString()
-               : words("There is no such folder. Choose another or leave it empty.",
-                       "Такой папки нет. Выберите другую или оставьте пустым."));
   libraries_problem_->setVisible(!is_right);
   buttons_->button(QDialogButtonBox::Ok)->setEnabled(is_right);
 }

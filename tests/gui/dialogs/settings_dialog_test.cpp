@@ -34,6 +34,7 @@ TEST_F(settings_dialog_test, what_is_accepted_is_kept_and_in_force) {
   grab(dialog, "settings");
   speech(dialog).setCurrentIndex(2);
   look(dialog).setCurrentIndex(2);
+  QCoreApplication::processEvents();
   grab(dialog, "settings-dark-ru");
   find<QCheckBox>(dialog, "settings_overviews")->click();
   dialog.accept();

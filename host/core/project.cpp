@@ -193,9 +193,9 @@ project_scene& project::find_scene(const std::string& name) {
   throw failure("the project has no scene \"" + name + "\"");
 }
 
-std::vector<layer*> project::add(project_scene& scene, const std::string& source) {
+std::vector<layer*> project::add(project_scene& scene, const std::string& source, open_as wanted) {
   std::size_t before = scene.content->layers().size();
-  scene.content->add(source);
+  scene.content->add(source, wanted);
   std::vector<layer*> added;
   for (std::size_t i = before; i < scene.content->layers().size(); ++i) {
     added.push_back(scene.content->layers()[i].get());

@@ -61,7 +61,8 @@ class project {
   project_scene& add_scene(const std::string& name);
   void remove_scene(std::size_t index);
   /// Opens a source on top of a scene; gives what was added. Throws `failure`.
-  std::vector<layer*> add(project_scene& scene, const std::string& source);
+  std::vector<layer*> add(project_scene& scene, const std::string& source,
+                          open_as wanted = open_as::found);
   void remove(project_scene& scene, std::size_t index);
   /// Takes a layer out of its place and puts it so that it stands at `to`, 0 being the lowest.
   void move(project_scene& scene, std::size_t from, std::size_t to);

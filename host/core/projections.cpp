@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <compare>
 #include <iterator>
+#include <tuple>
 
 #include "host/core/failure.h"
 #include "host/core/texts.h"
@@ -114,7 +114,12 @@ struct projections::rank {
   int only_beginnings = 0;  ///< words asked for
   bool deprecated, of_others, not_of_the_world;
   std::size_t words;  ///< of the name
-  auto operator<=>(const rank&) const = default;
+
+  auto in_order() const {
+    return std::tie(other_code, only_in_area, only_beginnings, deprecated, of_others,
+                    not_of_the_world, words);
+  }
+  bool operator<(const rank& other) const { return in_order() < other.in_order(); }
 };
 
 projections::projections() {

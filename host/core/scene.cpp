@@ -17,6 +17,7 @@ constexpr char raster_type[] = "rtr_lr2d";
 /// The scene as the builder that a filter asks.
 struct scene::construction {
   scene& owner;
+  bool is_picture;  // a person said so
   std::string error_text;
 
   static Izu_layer* add(const wchar_t* path, const char* type, void* user) {
@@ -36,7 +37,7 @@ struct scene::construction {
  private:
   Izu_layer* make(const std::string& path, const std::string& type) {
     // A picture is a grid here: so its bands can be styled, and a grid in a picture's file is one.
-    layer& made = owner.add_layer(type == raster_type ? grid_type : type, path);
+    layer& made = owner.add_layer(type == raster_type && !is_picture ? grid_type : type, path);
     try {
       made.data();
     } catch (...) {
@@ -54,10 +55,10 @@ scene::~scene() {
   zu_scn_2d_destroy(scene_);
 }
 
-layer& scene::add(const std::string& source) {
+layer& scene::add(const std::string& source, open_as wanted) {
   std::wstring path = wide_name(source);
   std::size_t before = layers_.size();
-  construction work{*this, {}};
+  construction work{*this, wanted == open_as::picture, {}};
   std::unique_ptr<Tzu_lr_builder, void (*)(Tzu_lr_builder*)> builder(
       zu_lr_builder_create(&construction::add, &construction::error, &work),
       &zu_lr_builder_destroy);
@@ -66,14 +67,16 @@ layer& scene::add(const std::string& source) {
     return call<&scene_editor_filter_impl::accepts>(filter, path.c_str());
   };
   const auto& filters = services_.filters();
-  auto found = std::find_if(filters.begin(), filters.end(), takes);
+  auto found = wanted == open_as::found ? std::find_if(filters.begin(), filters.end(), takes)
+                                        : filters.end();
   if (found != filters.end())
     call<&scene_editor_filter_impl::add>(*found, builder.get(), path.c_str());
   // A filter that neither made a layer nor said why had a dialog declined. Where nobody was asked
   // that is for want of trace coordinates mostly, and the samples can be seen without.
   if (layers_.size() == before && work.error_text.empty()) {
     if (found != filters.end() && services_.asks_a_person()) throw declined(source);
-    zu_lr_builder_add_layer(builder.get(), path.c_str(), grid_type);
+    zu_lr_builder_add_layer(builder.get(), path.c_str(),
+                            wanted == open_as::picture ? raster_type : grid_type);
   }
   if (layers_.size() == before) {
     std::vector<std::string> why = reasons(path, zu_problem_open);

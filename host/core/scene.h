@@ -9,6 +9,10 @@
 
 namespace zu::host {
 
+/// As what a source opens: what the bundle's filters find it to be, where a picture is a grid too
+/// and so can be styled; or what a person says it is.
+enum class open_as { found, grid, picture };
+
 class scene {
  public:
   explicit scene(const bundle& services);
@@ -17,8 +21,9 @@ class scene {
   scene& operator=(const scene&) = delete;
 
   /// Opens a source as a layer on top, by the bundle's filter that takes it or, where none does, as
-  /// a grid. Throws `failure` if no layer came of it, `declined` if a person did not want it.
-  layer& add(const std::string& source);
+  /// a grid; or as the kind that is wanted. Throws `failure` if no layer came of it, `declined` if
+  /// a person did not want it.
+  layer& add(const std::string& source, open_as wanted = open_as::found);
   /// Adds a layer of a type on top, whether its source is there or not.
   layer& add_layer(const std::string& type, const std::string& source);
   void remove(const layer& removed);

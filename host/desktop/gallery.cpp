@@ -42,12 +42,14 @@ void show_gallery(const host::bundle& services, const QString& picture) {
   tool_action* show = tools.action(QString::fromUtf16(gallery_tool));
   if (show == nullptr) throw host::failure("zuk_common.so", "it has no gallery");
   bool written = true;
-  if (!picture.isEmpty())
-    QTimer::singleShot(0, show, [&] {
-      auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-      written = dialog != nullptr && picture_of(*dialog).save(picture);
-      if (dialog != nullptr) dialog->reject();
-    });
+  QTimer shown;
+  shown.setSingleShot(true);
+  QObject::connect(&shown, &QTimer::timeout, show, [&] {
+    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    written = dialog != nullptr && picture_of(*dialog).save(picture);
+    if (dialog != nullptr) dialog->reject();
+  });
+  if (!picture.isEmpty()) shown.start(0);
   show->trigger();
   if (!written) throw host::failure(picture.toStdString(), "it cannot be written");
 }

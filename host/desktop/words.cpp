@@ -30,8 +30,9 @@ void choose_language(language chosen) {
   in_force = chosen;
   host::choose_language(chosen == language::russian ? "ru" : "en");
   translate_dialogs(chosen);
-  const QWidgetList all = QApplication::allWidgets();
-  for (QWidget* widget : all) {
+  // Windows hand it on to what stands in them.
+  const QWidgetList windows = QApplication::topLevelWidgets();
+  for (QWidget* widget : windows) {
     QEvent changed(QEvent::LanguageChange);
     QApplication::sendEvent(widget, &changed);
   }

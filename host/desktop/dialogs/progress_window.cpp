@@ -104,6 +104,7 @@ void progress_window::open() {
   layout->addWidget(buttons);
   connect(buttons, &QDialogButtonBox::rejected, this, &progress_window::stop);
   dialog_->installEventFilter(this);
+  filtered_ = dialog_;
   dialog_->show();
 }
 
@@ -131,7 +132,8 @@ void progress_window::stop() {
 }
 
 bool progress_window::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == dialog_) {
+  auto is_dialog = [&](const QObject* object) { return !dialog_.isNull() && object == filtered_; };
+  if (is_dialog(watched)) {
     bool escape = event->type() == QEvent::KeyPress &&
                   static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
     if (event->type() != QEvent::Close && !escape) return false;
@@ -142,7 +144,7 @@ bool progress_window::eventFilter(QObject* watched, QEvent* event) {
   // A timer whose event is withheld stays started and comes again.
   if (!breathing_ || event->type() != QEvent::Timer) return false;
   for (QObject* each = watched; each != nullptr; each = each->parent())
-    if (each == dialog_) return false;
+    if (is_dialog(each)) return false;
   return !watched->inherits("QAnimationDriver") && !watched->inherits("QUnifiedTimer");
 }
 

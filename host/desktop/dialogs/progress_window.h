@@ -48,7 +48,8 @@ class progress_window final : public QObject {
   int delay_;
   QElapsedTimer since_begin_, since_breath_;
   std::vector<std::unique_ptr<work>> works_;
-  QPointer<QDialog> dialog_;  // may go with the window under it
+  QPointer<QDialog> dialog_;           // may go with the window under it
+  const QObject* filtered_ = nullptr;  // its address: a dialog that ends is no longer a QDialog
   QLabel* caption_ = nullptr;
   QProgressBar* bar_ = nullptr;
   QPushButton* cancel_ = nullptr;

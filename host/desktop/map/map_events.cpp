@@ -148,6 +148,12 @@ bool map_view::handle_key(int key, Qt::KeyboardModifiers keys) {
     case Qt::Key_F5:
       redraw();
       return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      // The middle of the map stands for the pointer.
+      if (std::optional<Tzu_box_d2> shown = box())
+        Q_EMIT clicked(zu_halfway(shown->x0, shown->x1), zu_halfway(shown->y0, shown->y1));
+      return true;
     case Qt::Key_Escape:
       if (pointer_->is_dragging())
         pointer_->cancel(), show_cursor();

@@ -119,12 +119,7 @@ class checkbox_widget final : public realised<checkbox_impl, QCheckBox> {
  public:
   checkbox_widget(handle element, QWidget* parent) : realised(element, parent) {
     setObjectName(QStringLiteral("checkbox"));
-    connect(this, &QCheckBox::clicked, this, [this](bool checked) {
-      QPointer<QObject> alive(this);
-      call<&checkbox_impl::set_checked>(element_, checked);
-      if (alive) heard(notice::value);
-      if (alive) input_reached(name_of(this, text()));
-    });
+    connect(this, &QCheckBox::clicked, this, &checkbox_widget::mark);
     begin();
   }
 
@@ -142,6 +137,14 @@ class checkbox_widget final : public realised<checkbox_impl, QCheckBox> {
   /// A person decides: nobody goes back to undecided.
   void nextCheckState() override {
     setCheckState(checkState() == Qt::Checked ? Qt::Unchecked : Qt::Checked);
+  }
+
+ private:
+  void mark(bool checked) {
+    QPointer<QObject> alive(this);
+    call<&checkbox_impl::set_checked>(element_, checked);
+    if (alive) heard(notice::value);
+    if (alive) input_reached(name_of(this, text()));
   }
 };
 

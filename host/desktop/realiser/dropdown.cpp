@@ -20,12 +20,7 @@ class dropdown_widget final : public realised<dropdown_impl, QComboBox> {
     setFocusPolicy(Qt::StrongFocus);
     setSizeAdjustPolicy(AdjustToContents);
     setMaxVisibleItems(20);
-    connect(this, &QComboBox::activated, this, [this](int index) {
-      QPointer<QObject> alive(this);
-      call<&dropdown_impl::set_current>(element_, std::int32_t(index));
-      if (alive) heard(notice::value);
-      if (alive) input_reached(name_of(this));
-    });
+    connect(this, &QComboBox::activated, this, &dropdown_widget::choose);
     begin();
   }
   QSize minimumSizeHint() const override {
@@ -49,6 +44,12 @@ class dropdown_widget final : public realised<dropdown_impl, QComboBox> {
   }
 
  private:
+  void choose(int index) {
+    QPointer<QObject> alive(this);
+    call<&dropdown_impl::set_current>(element_, std::int32_t(index));
+    if (alive) heard(notice::value);
+    if (alive) input_reached(name_of(this));
+  }
   void fill() {
     clear();
     QSize pictures(0, 0);

@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QToolTip>
 #include <algorithm>
@@ -112,6 +113,7 @@ int grid_widget::bar_value_of(std::uint64_t top) const {
 }
 
 void grid_widget::show_bars() {
+  const QScopedValueRollback<bool> showing(is_showing_bars_, true);
   places_.size = viewport()->size();
   places_.top = std::min(places_.top, places_.last_top());
   places_.left = std::clamp(places_.left, 0, places_.last_left());
@@ -153,6 +155,7 @@ void grid_widget::scroll_to_row(std::uint64_t row) {
 }
 
 void grid_widget::scrollContentsBy(int, int) {
+  if (is_showing_bars_) return;  // the bars follow the places, not the other way round
   const int value = verticalScrollBar()->value();
   // Of many rows a place of the bar stands for several: only a person's move of it counts.
   if (value != bar_value_of(places_.top)) {

@@ -84,6 +84,7 @@ class grid_widget final : public realised<grid_impl, QAbstractScrollArea> {
   grid_place pressed_;
   std::uint32_t resized_ = 0;
   int wheel_rest_ = 0;
+  bool is_showing_bars_ = false;
 };
 
 }  // namespace zu::desktop

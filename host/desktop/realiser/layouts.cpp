@@ -130,18 +130,21 @@ void grid_layout_widget::heard(notice what) {
 
 groupbox_widget::groupbox_widget(handle element, QWidget* parent) : realised(element, parent) {
   setObjectName(QStringLiteral("groupbox"));
-  auto* box = new QVBoxLayout(this);
-  if (handle inner = call<&groupbox_impl::layout>(element)) box->addWidget(realise(inner, this));
-  connect(this, &QGroupBox::clicked, this, [this](bool checked) {
-    QPointer<QObject> alive(this);
-    call<&groupbox_impl::set_checked>(element_, checked);
-    if (alive) heard(notice::value);
-    if (alive) input_reached(name_of(this, title()));
-  });
+  setLayout(new QVBoxLayout);
+  if (handle inner = call<&groupbox_impl::layout>(element))
+    layout()->addWidget(realise(inner, this));
+  connect(this, &QGroupBox::clicked, this, &groupbox_widget::mark);
   begin();
 }
 
 groupbox_widget::~groupbox_widget() { end_children(this); }
+
+void groupbox_widget::mark(bool checked) {
+  QPointer<QObject> alive(this);
+  call<&groupbox_impl::set_checked>(element_, checked);
+  if (alive) heard(notice::value);
+  if (alive) input_reached(name_of(this, title()));
+}
 
 void groupbox_widget::heard(notice) {
   setTitle(text_by<&groupbox_impl::caption>(element_));

@@ -42,6 +42,9 @@ class groupbox_widget final : public realised<groupbox_impl, QGroupBox> {
 
  protected:
   void heard(notice) override;
+
+ private:
+  void mark(bool checked);
 };
 
 class stack_layout_widget final : public realised<stack_layout_impl, QStackedWidget> {

@@ -1,7 +1,9 @@
 // Texts that are typed into one line.
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QCompleter>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QSignalBlocker>
 #include <QStringListModel>

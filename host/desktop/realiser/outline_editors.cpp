@@ -53,7 +53,10 @@ QWidget* make_choice_editor(const shown_column& c, outline_item item, QWidget* p
       editor->setIconSize(editor->iconSize().expandedTo(shown.image.size()));
   }
   // Once it stands in its place.
-  QTimer::singleShot(0, editor, [editor] { editor->showPopup(); });
+  auto* soon = new QTimer(editor);
+  soon->setSingleShot(true);
+  QObject::connect(soon, &QTimer::timeout, editor, [editor] { editor->showPopup(); });
+  soon->start(0);
   return editor;
 }
 
@@ -131,9 +134,9 @@ void show_in_editor(QWidget* editor, const QVariant& value) {
   }
   if (auto* number = dynamic_cast<floating_editor*>(editor)) number->show_number(value.toString());
   if (auto* choices = qobject_cast<QComboBox*>(editor)) {
-    if (choices->isEditable()) {
+    if (QLineEdit* line = choices->lineEdit()) {
       choices->setEditText(value.toString());
-      choices->lineEdit()->selectAll();
+      line->selectAll();
     } else {
       choices->setCurrentIndex(value.toInt());
     }

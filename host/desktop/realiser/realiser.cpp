@@ -1,5 +1,6 @@
 #include "host/desktop/realiser/realiser.h"
 
+#include <QEvent>
 #include <QHash>
 #include <QLabel>
 #include <algorithm>

@@ -52,12 +52,15 @@ template <class tool> class action_of : public tool_action, protected link<tool>
 class simple_action final : public action_of<action_tool_impl> {
  public:
   simple_action(const QString& id, handle h) : action_of(id, h) {
-    connect(this, &QAction::triggered, this, [this] {
-      QPointer<QObject> alive(this);
-      call<&action_tool_impl::execute>(element_);
-      if (alive) was_used();
-    });
+    connect(this, &QAction::triggered, this, &simple_action::execute);
     begin();
+  }
+
+ private:
+  void execute() {
+    QPointer<QObject> alive(this);
+    call<&action_tool_impl::execute>(element_);
+    if (alive) was_used();
   }
 };
 
@@ -66,12 +69,7 @@ template <class tool> class checkable_action final : public action_of<tool> {
  public:
   checkable_action(const QString& id, handle h) : action_of<tool>(id, h) {
     this->setCheckable(true);
-    QObject::connect(this, &QAction::triggered, this, [this](bool checked) {
-      QPointer<QObject> alive(this);
-      call<&tool::set_checked>(this->element_, checked);
-      if (alive) heard(notice::value);
-      if (alive) this->was_used();
-    });
+    QObject::connect(this, &QAction::triggered, this, &checkable_action::mark);
     this->begin();
   }
 
@@ -79,6 +77,14 @@ template <class tool> class checkable_action final : public action_of<tool> {
   void heard(notice what) override {
     action_of<tool>::heard(what);
     this->setChecked(call<&tool::checked>(this->element_));
+  }
+
+ private:
+  void mark(bool checked) {
+    QPointer<QObject> alive(this);
+    call<&tool::set_checked>(this->element_, checked);
+    if (alive) heard(notice::value);
+    if (alive) this->was_used();
   }
 };
 

@@ -1,11 +1,11 @@
 #include "host/desktop/realiser/typed_line.h"
 
+#include <QBasicTimer>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPointer>
-#include <QTimer>
 
 #include "host/desktop/realiser/realised.h"
 
@@ -26,8 +26,19 @@ class refused_mark final : public QWidget {
     show();
     raise();
   }
+  /// Goes by itself after a moment, or stays.
+  void pass(bool wanted) {
+    if (wanted)
+      moment_.start(900, this);
+    else
+      moment_.stop();
+  }
 
  protected:
+  void timerEvent(QTimerEvent*) override {
+    moment_.stop();
+    deleteLater();
+  }
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() == QEvent::Resize) setGeometry(parentWidget()->rect());
     return QWidget::eventFilter(watched, event);
@@ -38,6 +49,9 @@ class refused_mark final : public QWidget {
     painter.setPen(QPen(QColor(0xda, 0x44, 0x53), 2));
     painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 2, 2);
   }
+
+ private:
+  QBasicTimer moment_;
 };
 
 }  // namespace
@@ -47,9 +61,10 @@ void unmark_refused(QWidget* control) {
 }
 
 void mark_refused(QWidget* control, bool for_a_moment) {
-  auto* mark = control->findChild<QWidget*>(mark_name, Qt::FindDirectChildrenOnly);
+  auto* mark = dynamic_cast<refused_mark*>(
+      control->findChild<QWidget*>(mark_name, Qt::FindDirectChildrenOnly));
   if (mark == nullptr) mark = new refused_mark(control);
-  if (for_a_moment) QTimer::singleShot(900, mark, [mark] { mark->deleteLater(); });
+  mark->pass(for_a_moment);
 }
 
 typed_line::typed_line(QLineEdit* line, QWidget* owner, element_calls element)

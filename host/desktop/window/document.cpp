@@ -99,13 +99,13 @@ void document::save(const QString& path) {
 
 void document::clear() { replace(std::make_unique<host::project>(services_), {}); }
 
-QStringList document::add_sources(const QStringList& sources) {
+QStringList document::add_sources(const QStringList& sources, host::open_as wanted) {
   QStringList failures;
   host::layer* added = nullptr;
   perform(words("Open", "Открытие"), [&] {
     for (const QString& source : sources) {
       try {
-        std::vector<host::layer*> made = project_->add(scene(), source.toStdString());
+        std::vector<host::layer*> made = project_->add(scene(), source.toStdString(), wanted);
         if (!made.empty()) added = made.back();
         // What has no fields, or none to colour, stays as it came.
         for (host::layer* each : made)

@@ -46,7 +46,7 @@ class document : public QObject {
 
   /// Opens sources on top of the active scene, the last one uppermost and active; one step of
   /// undo. Gives what did not open, a line each.
-  QStringList add_sources(const QStringList& sources);
+  QStringList add_sources(const QStringList& sources, host::open_as wanted = host::open_as::found);
   void remove_layer(int index);
   void move_layer(int from, int to);
   void rename_layer(int index, const QString& caption);

@@ -99,9 +99,9 @@ void info_window::retranslate() {
   setHeaderLabels({words("Name", "Название"), words("Value", "Значение")});
   if (!is_empty_) return;
   clear();
-  auto* hint = new QTreeWidgetItem(
-      this, {was_asked_ ? words("Nothing is there", "Там ничего нет")
-                        : words("Click the map", "Щёлкните по карте")});
+  auto* hint =
+      new QTreeWidgetItem(this, {was_asked_ ? words("Nothing is there", "Там ничего нет")
+                                            : words("Click the map", "Щёлкните по карте")});
   hint->setFlags(Qt::NoItemFlags);
   hint->setFirstColumnSpanned(true);
 }

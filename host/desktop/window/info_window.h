@@ -29,7 +29,7 @@ class info_window final : public QTreeWidget {
   void retranslate();
 
   document& document_;
-  bool is_empty_ = true;  // what stands there is no layer's
+  bool is_empty_ = true;    // what stands there is no layer's
   bool was_asked_ = false;  ///< a person has clicked since the scene came
 };
 

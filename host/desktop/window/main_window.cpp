@@ -37,13 +37,12 @@ constexpr int layout_version = 1;
 constexpr QSize first_size(1280, 800);
 constexpr int patience = 300;  // milliseconds: a picture that takes longer is said to be drawn
 
-/// Names of choices hold what a name in the settings may not.
-const char* setting_of(const QString& choice) {
-  static QByteArray name;
-  name = "choice_";
+/// The name of a choice in the settings, which take letters and digits alone.
+QByteArray setting_of(const QString& choice) {
+  QByteArray name = "choice_";
   for (QChar c : choice)
-    name += c.unicode() < 128 && c.isLetterOrNumber() ? char(c.unicode()) : '_';
-  return name.constData();
+    name += c.unicode() < 128 && c.isLetterOrNumber() ? static_cast<char>(c.unicode()) : '_';
+  return name;
 }
 
 /// Local files as paths, other addresses as they are.
@@ -127,6 +126,10 @@ void main_window::connect_files() {
     document_.clear();
   });
   connect(actions_->file_open, &QAction::triggered, this, &main_window::choose_files);
+  connect(actions_->open_grid, &QAction::triggered, this,
+          [this] { choose_files_as(host::open_as::grid); });
+  connect(actions_->open_picture, &QAction::triggered, this,
+          [this] { choose_files_as(host::open_as::picture); });
   connect(actions_->file_save, &QAction::triggered, this, &main_window::save);
   connect(actions_->file_save_as, &QAction::triggered, this, &main_window::save_as);
   connect(actions_->file_quit, &QAction::triggered, this, &main_window::close);
@@ -252,9 +255,9 @@ void main_window::connect_bundles() {
     if (name_space.ends_with(L"/layer/2d")) editors.push_back(service.get());
   editors_ = std::make_unique<editor_docks>(*this, document_, editors);
   set_input_listener([this](const QString& what) { document_.input_happened(what); });
-  set_choice_store({[](const QString& name) { return kept_text(setting_of(name)); },
+  set_choice_store({[](const QString& name) { return kept_text(setting_of(name).constData()); },
                     [this](const QString& name, const QString& value) {
-                      attempt([&] { keep_text(setting_of(name), value); });
+                      attempt([&] { keep_text(setting_of(name).constData(), value); });
                     }});
   connect(views_, &scene_views::map_changed, this, &main_window::fill_modes);
   connect(actions_->info_tool, &QAction::toggled, this, [this](bool on) {
@@ -411,7 +414,13 @@ void main_window::dragEnterEvent(QDragEnterEvent* event) {
 void main_window::dropEvent(QDropEvent* event) {
   event->acceptProposedAction();
   // Where the files come from waits for the answer, and opening may ask a person.
-  QTimer::singleShot(0, this, [this, paths = paths_of(*event->mimeData())] { open_paths(paths); });
+  auto* soon = new QTimer(this);
+  soon->setSingleShot(true);
+  connect(soon, &QTimer::timeout, this, [this, soon, paths = paths_of(*event->mimeData())] {
+    soon->deleteLater();
+    open_paths(paths);
+  });
+  soon->start(0);
 }
 
 }  // namespace zu::desktop

@@ -72,8 +72,9 @@ class main_window final : public QMainWindow {
   bool save();
   bool save_as();
   void open_project(const QString& path);
-  void open_sources(const QStringList& sources);
+  void open_sources(const QStringList& sources, host::open_as wanted = host::open_as::found);
   void choose_files();
+  void choose_files_as(host::open_as wanted);
   void choose_source(int index);
   void remember_file(const QString& path);
   void show_recent();

@@ -19,6 +19,8 @@ using actions = window_actions;
 const row rows[] = {
     {&actions::file_new, "file_new", "document-new", "Ctrl+N", "&New project", "&Новый проект"},
     {&actions::file_open, "file_open", "document-open", "Ctrl+O", "&Open…", "&Открыть…"},
+    {&actions::open_grid, "open_grid", "", "", "&Grid…", "&Сетка…"},
+    {&actions::open_picture, "open_picture", "", "", "&Picture…", "&Растр…"},
     {&actions::file_save, "file_save", "document-save", "Ctrl+S", "&Save project",
      "&Сохранить проект"},
     {&actions::file_save_as, "file_save_as", "document-save-as", "Ctrl+Shift+S",

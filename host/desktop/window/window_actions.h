@@ -14,7 +14,8 @@ class window_actions final : public QObject {
  public:
   explicit window_actions(QObject* parent);
 
-  QAction *file_new, *file_open, *file_save, *file_save_as, *file_export, *file_quit;
+  QAction *file_new, *file_open, *open_grid, *open_picture, *file_save, *file_save_as, *file_export,
+      *file_quit;
   QAction *edit_undo, *edit_redo, *copy_picture, *copy_command, *select_clear, *edit_settings;
   QAction *zoom_in, *zoom_out, *zoom_all, *zoom_back, *zoom_forward, *own_axes, *redraw,
       *full_screen;

@@ -94,9 +94,9 @@ void main_window::open_project(const QString& path) {
   if (attempt([&] { document_.open_project(path); })) remember_file(path);
 }
 
-void main_window::open_sources(const QStringList& sources) {
+void main_window::open_sources(const QStringList& sources, host::open_as wanted) {
   bool was_empty = document_.scene().content->layers().empty();
-  QStringList failures = document_.add_sources(sources);
+  QStringList failures = document_.add_sources(sources, wanted);
   views_->messages().tell(failures);
   if (failures.size() < sources.size()) {
     for (const QString& source : sources)
@@ -117,6 +117,11 @@ void main_window::open_sources(const QStringList& sources) {
 void main_window::choose_files() {
   QStringList paths = prompts_.files_to_open(this, last_folder_);
   if (!paths.isEmpty()) open_paths(paths);
+}
+
+void main_window::choose_files_as(host::open_as wanted) {
+  QStringList paths = prompts_.files_to_open(this, last_folder_);
+  if (!paths.isEmpty()) open_sources(paths, wanted);
 }
 
 void main_window::choose_source(int index) {

@@ -44,6 +44,8 @@ void main_window::make_menus() {
 
   QMenu* file = add_menu("menu_file", "&File", "&Файл");
   file->addActions({a.file_new, a.file_open});
+  add_menu("menu_open_as", "Open as ano&ther kind", "Открыть &другим видом", file)
+      ->addActions({a.open_grid, a.open_picture});
   recent_menu_ = add_menu("menu_recent", "Open &recent", "Открыть &последние", file);
   file->addSeparator();
   file->addActions({a.file_save, a.file_save_as});

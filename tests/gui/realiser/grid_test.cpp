@@ -322,6 +322,23 @@ TEST_F(grid_on_screen, moves_by_keys_and_tells_each_place_once) {
   EXPECT_EQ(table.marks, (std::set<std::uint64_t>{2}));
 }
 
+TEST_F(grid_on_screen, scrolls_both_ways_to_the_current_cell) {
+  open();
+  widget->resize(330, 150);
+  click(2, 1);
+  key(Qt::Key_End, Qt::ControlModifier);
+  EXPECT_TRUE((table.place == grid_place{4, 20}));
+  const QRect last = widget->places().rect(table.place);
+  EXPECT_TRUE(widget->viewport()->rect().contains(last));
+  EXPECT_EQ(widget->horizontalScrollBar()->value(), widget->horizontalScrollBar()->maximum());
+  key(Qt::Key_Home, Qt::ControlModifier);
+  const QRect first = widget->places().rect(table.place);
+  EXPECT_TRUE(widget->viewport()->rect().contains(first));
+  EXPECT_GE(first.left(), widget->places().fixed_width()) << "not under the fixed columns";
+  widget->horizontalScrollBar()->setValue(10);
+  EXPECT_EQ(widget->places().left, 10);
+}
+
 TEST_F(grid_on_screen, copies_the_chosen_part_with_tabs_and_lines) {
   open();
   click(2, 1);

@@ -319,6 +319,29 @@ TEST_F(main_window_test, rounds_of_projects_leave_nothing_behind) {
   EXPECT_TRUE(captions().isEmpty());
 }
 
+TEST_F(main_window_test, the_keyboard_asks_what_lies_in_the_middle_of_the_map) {
+  window_->open_paths({grid("a.asc")});
+  ASSERT_TRUE(window_->wait_until_drawn(20000));
+  map_view& map = window_->views().current();
+  map.zoom_to({110, 110, 190, 190});  // the cell of 6
+  actions().info_tool->trigger();
+  QTest::keyClick(&map, Qt::Key_Return);
+  auto* info = window_->findChild<info_window*>();
+  ASSERT_EQ(info->topLevelItemCount(), 1);
+  EXPECT_EQ(info->topLevelItem(0)->child(0)->text(1), QStringLiteral("6"));
+}
+
+TEST_F(main_window_test, a_person_may_say_what_a_file_is) {
+  window_->open_paths({grid("a.asc")});
+  ASSERT_EQ(content().scene().layers.size(), 1U);
+  EXPECT_EQ(content().scene().layers[0].type(), "grid_lr2d");
+  answers_.files = {grid("b.asc")};
+  actions().open_picture->trigger();
+  ASSERT_EQ(content().scene().layers.size(), 2U);
+  EXPECT_EQ(content().scene().layers[1].type(), "rtr_lr2d");
+  EXPECT_TRUE(window_->wait_until_drawn(20000));
+}
+
 TEST_F(main_window_test, the_information_tool_says_what_lies_under_a_click) {
   window_->open_paths({grid("a.asc")});
   ASSERT_TRUE(window_->wait_until_drawn(20000));

@@ -62,12 +62,15 @@ void settings::set(const std::string& name, const std::string& value) {
 }
 
 void apply_settings() {
-  std::string overviews;
+  std::string overviews, style_libraries;
   try {
-    overviews = settings().get("overviews");
+    settings kept;
+    overviews = kept.get("overviews");
+    style_libraries = kept.get("style_libraries");
   } catch (const failure&) {  // as for the language
   }
   if (!overviews.empty()) zu_options_set_build_overviews(overviews == "1");
+  zu_options_set_style_libs_path(wide(style_libraries).c_str());
 }
 
 void choose_language(const std::string& name) {

@@ -25,8 +25,9 @@ class settings {
   node_ptr root_;
 };
 
-/// Puts in force what the platform must know of the settings ("overviews": "1" or "0"; else as the
-/// platform has it). A settings file that is refused says nothing.
+/// Puts in force what the platform must know of the settings: "overviews" ("1" or "0"; else as the
+/// platform has it) and "style_libraries" (a folder; else the platform's own). A settings file that
+/// is refused says nothing.
 void apply_settings();
 
 /// Puts a language in force for the texts of the bundle: "ru" or "en"; with an empty name what the

@@ -3,6 +3,7 @@
 #include <system_error>
 
 #include "platform/zuk_basic/guarded.h"
+#include "platform/zuk_basic/user_data_folder.h"
 #include "platform/zuk_basic/utf8.h"
 #include "zu/platform/zuk_basic.h"
 
@@ -19,6 +20,17 @@ std::wstring& main_module() {
   return path;
 }
 
+std::wstring own_style_libs() {
+  std::filesystem::path folder = zu::platform::user_data_folder();
+  return folder.empty() ? std::wstring()
+                        : zu::platform::from_utf8((folder / "zugrid" / "styles").native());
+}
+
+std::wstring& style_libs() {
+  static std::wstring path = own_style_libs();
+  return path;
+}
+
 bool build_overviews = false;
 double mm_delta = 1.0;
 
@@ -29,6 +41,14 @@ const wchar_t* zu_options_get_main_module_path() { return main_module().c_str();
 void zu_options_set_main_module_path(const wchar_t* path) {
   zu::platform::guarded(&main_module(),
                         [&](std::wstring& kept) { kept = path != nullptr ? path : own_program(); });
+}
+
+const wchar_t* zu_options_get_style_libs_path() { return style_libs().c_str(); }
+
+void zu_options_set_style_libs_path(const wchar_t* path) {
+  zu::platform::guarded(&style_libs(), [&](std::wstring& kept) {
+    kept = path != nullptr && *path != L'\0' ? path : own_style_libs();
+  });
 }
 
 bool zu_options_get_build_overviews() { return build_overviews; }

@@ -6,6 +6,7 @@
 #include <filesystem>
 
 #include "platform/zuk_basic/guarded.h"
+#include "platform/zuk_basic/user_data_folder.h"
 #include "platform/zuk_basic/utf8.h"
 #include "zu/platform/zuk_os.h"
 
@@ -15,17 +16,9 @@ namespace fs = std::filesystem;
 using zu::platform::from_utf8;
 using zu::platform::guarded;
 using zu::platform::to_utf8;
+using zu::platform::user_data_folder;
 
 constexpr int32_t russian = 0, english = 50000;
-
-/// Empty if the environment names none.
-fs::path user_data_folder() {
-  const char* data = std::getenv("XDG_DATA_HOME");
-  if (data != nullptr && fs::path(data).is_absolute()) return data;
-  const char* home = std::getenv("HOME");
-  if (home != nullptr && fs::path(home).is_absolute()) return fs::path(home) / ".local" / "share";
-  return {};
-}
 
 int32_t language_of_system() {
   for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {

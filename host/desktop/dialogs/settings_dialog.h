@@ -4,6 +4,7 @@
 #include <QDialog>
 #include <optional>
 
+#include "host/core/coordinate_text.h"
 #include "host/desktop/appearance.h"
 #include "host/desktop/words.h"
 
@@ -12,12 +13,16 @@ class QComboBox;
 class QDialogButtonBox;
 class QGroupBox;
 class QLabel;
+class QLineEdit;
+class QPushButton;
 
 namespace zu::desktop {
 
 /// The language that the settings say, else the system's (LC_ALL, LC_MESSAGES, LANG).
 language chosen_language();
 appearance chosen_appearance();
+/// In which the status bar says where the pointer is.
+host::coordinate_units chosen_units();
 /// Puts in force what the settings say: what the platform must know, language and appearance. What
 /// a command line says instead is given. For the start of the program.
 void apply_chosen(std::optional<language> speech = {}, std::optional<appearance> look = {});
@@ -39,13 +44,21 @@ class settings_dialog final : public QDialog {
   void changeEvent(QEvent* event) override;
 
  private:
+  void name_and_link();
+  void place();
+  void show_kept();
   void retranslate();
   void show_choice();
+  void choose_folder();
+  void check_folder();
 
   language language_before_;
-  QGroupBox *window_, *sections_;
-  QComboBox *language_, *appearance_;
-  QLabel *language_label_, *appearance_label_, *overviews_note_, *file_;
+  QGroupBox *window_, *sections_, *styles_;
+  QComboBox *language_, *appearance_, *units_;
+  QLabel *language_label_, *appearance_label_, *units_label_, *overviews_note_;
+  QLabel *libraries_label_, *libraries_problem_, *file_;
+  QLineEdit* libraries_;
+  QPushButton* browse_;
   QCheckBox* overviews_;
   QDialogButtonBox* buttons_;
 };

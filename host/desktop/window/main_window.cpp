@@ -83,6 +83,7 @@ main_window::main_window(const host::bundle& services, prompts asked)
   connect(&document_, &document::history_changed, this, &main_window::show_state);
   connect(&document_, &document::layers_changed, this, &main_window::show_state);
   connect(&document_, &document::layer_activated, this, &main_window::show_state);
+  status_->set_units(chosen_units());
   show_recent();
   retranslate();
   show_view();
@@ -269,8 +270,9 @@ void main_window::connect_bundles() {
 }
 
 void main_window::connect_dialogs() {
-  connect(actions_->edit_settings, &QAction::triggered, this,
-          [this] { settings_dialog::ask(this); });
+  connect(actions_->edit_settings, &QAction::triggered, this, [this] {
+    if (settings_dialog::ask(this)) status_->set_units(chosen_units());
+  });
   connect(actions_->help_shortcuts, &QAction::triggered, this,
           [this] { shortcuts_dialog::ask(this, actions_->findChildren<QAction*>()); });
   connect(actions_->help_about, &QAction::triggered, this, [this] { about_dialog::ask(this); });

@@ -19,14 +19,22 @@ constexpr double usual_scales[] = {500,    1000,   2000,   5000,    10000,   250
                                    100000, 200000, 500000, 1000000, 2500000, 10000000};
 constexpr std::size_t longest_projection = 40;
 
-}  // namespace
-
-QString coordinate_text(double value, double units_per_pixel) {
-  int decimals = 2;
-  if (units_per_pixel > 0)
-    decimals = std::clamp(static_cast<int>(std::ceil(-std::log10(units_per_pixel))) + 1, 0, 8);
-  return QString::number(value, 'f', decimals);
+host::compass_letters letters_in_force() {
+  if (language_in_force() == language::russian) return {" в.д.", " з.д.", " с.ш.", " ю.ш."};
+  return {"E", "W", "N", "S"};
 }
+
+/// As wide as coordinates are as a rule.
+QString wide_coordinates(host::coordinate_units units) {
+  if (units == host::coordinate_units::map) return QStringLiteral("-0000000.00; -00000000.00");
+  QString sample = units == host::coordinate_units::dms
+                       ? QStringLiteral("000°00′00.0″%1 00°00′00.0″%2")
+                       : QStringLiteral("000.00000°%1 00.00000°%2");
+  host::compass_letters letters = letters_in_force();
+  return sample.arg(QString::fromStdString(letters.west), QString::fromStdString(letters.south));
+}
+
+}  // namespace
 
 double scale_of_text(const QString& text) {
   QString digits = text.section(QLatin1Char(':'), -1);
@@ -54,9 +62,6 @@ status_line::status_line(QWidget* parent)
   coordinates_->setObjectName(QStringLiteral("status_coordinates"));
   coordinates_->setTextInteractionFlags(Qt::TextSelectableByMouse);
   coordinates_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  // As wide as coordinates in metres with two decimals, so that nothing beside it jumps.
-  coordinates_->setMinimumWidth(
-      coordinates_->fontMetrics().horizontalAdvance(QStringLiteral("-0000000.00; -00000000.00")));
   scale_->setObjectName(QStringLiteral("status_scale"));
   scale_->setEditable(true);
   scale_->setInsertPolicy(QComboBox::NoInsert);
@@ -94,10 +99,28 @@ void status_line::take_scale() {
 }
 
 void status_line::show_coordinates(double x, double y, bool inside) {
+  pointer_ = inside ? std::optional(QPointF(x, y)) : std::nullopt;
+  say_coordinates();
+}
+
+void status_line::set_units(host::coordinate_units units) {
+  units_ = units;
+  reserve_coordinates();
+  say_coordinates();
+}
+
+/// So that nothing beside them jumps.
+void status_line::reserve_coordinates() {
+  coordinates_->setMinimumWidth(
+      coordinates_->fontMetrics().horizontalAdvance(wide_coordinates(units_)));
+}
+
+void status_line::say_coordinates() {
   double pixel = shown_scale_ * 0.0254 / 96;
-  coordinates_->setText(inside ? coordinate_text(x, pixel) + QStringLiteral("; ") +
-                                     coordinate_text(y, pixel)
-                               : QString());
+  coordinates_->setText(pointer_
+                            ? QString::fromStdString(texts_.text(pointer_->x(), pointer_->y(),
+                                                                 pixel, units_, letters_in_force()))
+                            : QString());
 }
 
 void status_line::show_scale(double scale) {
@@ -108,6 +131,11 @@ void status_line::show_scale(double scale) {
 }
 
 void status_line::show_projection(const QString& text) {
+  if (text != shown_projection_) {
+    texts_.set_projection(text.toStdString());
+    pointer_.reset();
+    say_coordinates();
+  }
   shown_projection_ = text;
   QString name = QString::fromStdString(host::projection_name(text.toStdString()));
   if (name.size() > static_cast<qsizetype>(longest_projection))
@@ -126,6 +154,8 @@ void status_line::retranslate() {
   busy_->setToolTip(words("The map is being drawn", "Карта рисуется"));
   coordinates_->setToolTip(words("Coordinates under the pointer", "Координаты под указателем"));
   show_projection(shown_projection_);
+  reserve_coordinates();
+  say_coordinates();
 }
 
 void status_line::changeEvent(QEvent* event) {

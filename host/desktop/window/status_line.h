@@ -2,7 +2,11 @@
 // The status bar: where the pointer is, the scale, the projection, and whether a picture is being
 // drawn.
 
+#include <QPointF>
 #include <QStatusBar>
+#include <optional>
+
+#include "host/core/coordinate_text.h"
 
 class QComboBox;
 class QLabel;
@@ -17,10 +21,12 @@ class status_line final : public QStatusBar {
  public:
   explicit status_line(QWidget* parent = nullptr);
 
+  /// A point of the scene, in the units chosen.
   void show_coordinates(double x, double y, bool inside);
+  void set_units(host::coordinate_units units);
   /// The denominator of the map's scale; what is not above 0 shows none.
   void show_scale(double scale);
-  /// By its name; empty: none.
+  /// By its name; empty: none. Coordinates of another projection's scene go.
   void show_projection(const QString& text);
   /// Whether a picture is being drawn that takes its time.
   void show_busy(bool busy);
@@ -35,19 +41,21 @@ class status_line final : public QStatusBar {
  private:
   void retranslate();
   void take_scale();
+  void say_coordinates();
+  void reserve_coordinates();
 
   QLabel* coordinates_;
   QLabel* scale_title_;
   QComboBox* scale_;
   QToolButton* projection_;
   QProgressBar* busy_;
+  host::coordinate_text texts_;
+  host::coordinate_units units_ = host::coordinate_units::map;
+  std::optional<QPointF> pointer_;  ///< where in the scene it is
   double shown_scale_ = 0;
   QString shown_projection_;
 };
 
-/// A number without an exponent where it needs none, with a decimal point: 17 m of a coordinate are
-/// told from 18 m, degrees from each other to about a metre.
-QString coordinate_text(double value, double units_per_pixel);
 /// "1:25000", "25000", "1 : 25 000", "0.5" of a section; nothing if it is no scale.
 double scale_of_text(const QString& text);
 QString text_of_scale(double scale);

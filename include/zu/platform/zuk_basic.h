@@ -26,6 +26,13 @@ ZU_API const wchar_t* zu_options_get_main_module_path(void);
 /// Overrides the above; null goes back to the program's own path.
 ZU_API void zu_options_set_main_module_path(const wchar_t* path);
 
+/// The folder of the style libraries, without a separator at its end; it need not be there. Until
+/// the host sets another: zugrid/styles in $XDG_DATA_HOME, else in ~/.local/share; no text if the
+/// environment names neither. Never null; the text lives until another is set.
+ZU_API const wchar_t* zu_options_get_style_libs_path(void);
+/// Null or no text goes back to the folder above.
+ZU_API void zu_options_set_style_libs_path(const wchar_t* path);
+
 /// Whether a section that is opened gets its reduced copies at once, which reads all of it. Off
 /// until the host says otherwise.
 ZU_API bool zu_options_get_build_overviews(void);

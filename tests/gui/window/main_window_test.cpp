@@ -1,15 +1,19 @@
 #include "host/desktop/window/main_window.h"
 
+#include <QComboBox>
 #include <QDropEvent>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QTabBar>
+#include <QTimer>
 #include <QUrl>
 
 #include "host/core/settings.h"
 #include "host/desktop/window/info_window.h"
 #include "host/desktop/window/start_page.h"
+#include "host/desktop/window/status_line.h"
 #include "tests/gui/window/window_fixture.h"
 #include "zu/platform/zuk_dib.h"
 
@@ -232,6 +236,34 @@ TEST_F(main_window_test, the_projection_is_chosen_and_shown_and_can_be_undone) {
   EXPECT_EQ(shown->text(), QStringLiteral("WGS 84 / UTM zone 37N"));
   actions().edit_undo->trigger();
   EXPECT_EQ(shown->text(), QStringLiteral("No projection"));
+}
+
+TEST_F(main_window_test, the_status_bar_has_the_units_of_the_settings_at_once) {
+  window_->open_paths({grid("a.asc", 350000)});
+  content().set_projection(QStringLiteral("EPSG:32637"));
+  ASSERT_TRUE(window_->wait_until_drawn(10000));
+  auto* shown = window_->findChild<QLabel*>(QStringLiteral("status_coordinates"));
+  map_view& map = window_->views().current();
+  QTest::mouseMove(&map, map.rect().center());
+  ASSERT_TRUE(shown->text().contains(QStringLiteral("; "))) << shown->text().toStdString();
+  auto choose = [&](int units) {
+    QTimer::singleShot(0, window_.get(), [units] {
+      QWidget* dialog = QApplication::activeModalWidget();
+      dialog->findChild<QComboBox*>(QStringLiteral("settings_units"))->setCurrentIndex(units);
+      QTest::keyClick(dialog, Qt::Key_Return);
+    });
+    actions().edit_settings->trigger();
+    QTest::mouseMove(&map, map.rect().center() + QPoint(units, 0));
+  };
+  choose(1);
+  EXPECT_TRUE(shown->text().contains(QStringLiteral("°E "))) << shown->text().toStdString();
+  choose(2);
+  EXPECT_TRUE(shown->text().contains(QStringLiteral("″E "))) << shown->text().toStdString();
+  open_window();
+  shown = window_->findChild<QLabel*>(QStringLiteral("status_coordinates"));
+  window_->findChild<status_line*>()->show_projection(QStringLiteral("EPSG:4326"));
+  window_->findChild<status_line*>()->show_coordinates(1, 2, true);
+  EXPECT_EQ(shown->text(), QStringLiteral("1°00′00.0″E 2°00′00.0″N"));
 }
 
 TEST_F(main_window_test, a_scale_that_is_typed_is_taken) {

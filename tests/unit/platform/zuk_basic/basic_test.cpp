@@ -1,5 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+#include <optional>
+#include <string>
+#include <utility>
+
 #include "tests/unit/platform/taken_text.h"
 
 namespace {
@@ -112,6 +117,37 @@ TEST(color_array, of_number_25_runs_from_wine_through_white_to_black) {
   EXPECT_EQ(colors[0].g, 0);
   EXPECT_EQ(colors[1].g, 255);
   EXPECT_EQ(colors[2].r, 0);
+}
+
+/// Style libraries by the environment as given; null leaves a variable out.
+std::wstring default_style_libs(const char* data, const char* home) {
+  const std::pair<const char*, const char*> given[] = {{"XDG_DATA_HOME", data}, {"HOME", home}};
+  std::optional<std::string> kept[2];
+  for (int i = 0; i < 2; ++i) {
+    if (const char* before = std::getenv(given[i].first)) kept[i] = before;
+    unsetenv(given[i].first);
+    if (given[i].second != nullptr) setenv(given[i].first, given[i].second, 1);
+  }
+  zu_options_set_style_libs_path(nullptr);
+  for (int i = 0; i < 2; ++i) {
+    unsetenv(given[i].first);
+    if (kept[i]) setenv(given[i].first, kept[i]->c_str(), 1);
+  }
+  return zu_options_get_style_libs_path();
+}
+
+TEST(options, style_libraries_lie_in_the_persons_data_unless_another_folder_is_set) {
+  EXPECT_EQ(default_style_libs("/data", "/home/who"), L"/data/zugrid/styles");
+  EXPECT_EQ(default_style_libs(nullptr, "/home/who"), L"/home/who/.local/share/zugrid/styles");
+  EXPECT_EQ(default_style_libs("not/absolute", "/home/who"),
+            L"/home/who/.local/share/zugrid/styles");
+  EXPECT_EQ(default_style_libs(nullptr, nullptr), L"");
+  EXPECT_EQ(default_style_libs("/Данные", nullptr), L"/Данные/zugrid/styles");
+  zu_options_set_style_libs_path(L"/opt/Стили");
+  EXPECT_STREQ(zu_options_get_style_libs_path(), L"/opt/Стили");
+  zu_options_set_style_libs_path(L"/opt/styles");
+  zu_options_set_style_libs_path(L"");
+  EXPECT_STRNE(zu_options_get_style_libs_path(), L"/opt/styles");
 }
 
 TEST(options, overviews_are_built_only_where_the_host_says_so) {

@@ -68,7 +68,8 @@ struct floating_cell : grid_floating_cell_impl {
     give(std::to_wstring(row / 8) + (row % 8 < 4 ? L"" : L".5"), visitor);
   }
   double value() override {
-    return static_cast<double>(row / 8) + (row % 8 < 4 ? 0.0 : 0.5);  // as its text says
+    std::uint64_t eighth = row / 8;
+    return static_cast<double>(eighth) + (row % 8 < 4 ? 0.0 : 0.5);  // as its text says
   }
   bool is_read_only() override { return true; }
   std::uint64_t row;

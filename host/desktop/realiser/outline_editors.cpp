@@ -124,6 +124,7 @@ QWidget* make_cell_editor(const shown_column& c, outline_item item, QWidget* par
 }
 
 void show_in_editor(QWidget* editor, const QVariant& value) {
+  if (editor == nullptr) return;
   if (auto* line = qobject_cast<QLineEdit*>(editor)) {
     line->setText(value.toString());
     line->selectAll();

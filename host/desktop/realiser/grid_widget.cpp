@@ -340,10 +340,6 @@ bool grid_widget::viewportEvent(QEvent* event) {
   return realised::viewportEvent(event);
 }
 
-void grid_widget::input_happened() {
-  const QString what = name_of(this);
-  QMetaObject::invokeMethod(
-      qApp, [what] { input_reached(what); }, Qt::QueuedConnection);
-}
+void grid_widget::input_happened() { input_reached_later(name_of(this)); }
 
 }  // namespace zu::desktop

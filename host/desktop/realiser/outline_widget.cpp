@@ -341,12 +341,7 @@ bool outline_widget::eventFilter(QObject* watched, QEvent* event) {
   return realised::eventFilter(watched, event);
 }
 
-void outline_widget::input_happened() {
-  // Later: whoever listens may take the control down, and the view is still at work.
-  const QString what = name_of(this);
-  QMetaObject::invokeMethod(
-      qApp, [what] { input_reached(what); }, Qt::QueuedConnection);
-}
+void outline_widget::input_happened() { input_reached_later(name_of(this)); }
 
 int outline_widget::rows_height(int rows) const {
   const int row = flat_ != nullptr ? flat_->row_height() : fontMetrics().height() + 6;

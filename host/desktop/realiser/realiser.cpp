@@ -1,8 +1,10 @@
 #include "host/desktop/realiser/realiser.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QHash>
 #include <QLabel>
+#include <QTimer>
 #include <algorithm>
 
 #include "host/desktop/realiser/builders.h"
@@ -85,6 +87,15 @@ void set_input_listener(std::function<void(const QString&)> wanted) {
 }
 void input_reached(const QString& what) {
   if (listener) listener(what);
+}
+void input_reached_later(const QString& what) {
+  auto* soon = new QTimer(qApp);
+  soon->setSingleShot(true);
+  QObject::connect(soon, &QTimer::timeout, soon, [soon, what] {
+    soon->deleteLater();
+    input_reached(what);
+  });
+  soon->start(0);
 }
 
 void set_choice_store(choice_store wanted) {

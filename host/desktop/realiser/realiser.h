@@ -26,6 +26,8 @@ QWidget* realise(handle element, QWidget* parent);
 void set_input_listener(std::function<void(const QString& what)> listener);
 /// For controls: an input has reached its element. The control may be gone afterwards.
 void input_reached(const QString& what);
+/// The same once the control has done its work, which goes on: whoever listens may take it down.
+void input_reached_later(const QString& what);
 
 /// Where controls keep what a person chose, by name: "tab/…" the last tab, "dialog/…" a size.
 struct choice_store {

@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QStyle>
 #include <QToolButton>
 
 #include "host/desktop/words.h"

@@ -110,6 +110,13 @@ ZU_API Tzu_clr_channel* zu_rgb_channels_get_blue(Tzu_rgb_channels* channels);
 ZU_API Tzu_clr_channel* zu_rgb_channels_get_gray(Tzu_rgb_channels* channels);
 ZU_API void zu_clr_channel_get_prop_name_w(const Tzu_clr_channel* channel, Tzu_string_adp* adapter);
 ZU_API void zu_clr_channel_set_prop_name_w(Tzu_clr_channel* channel, const wchar_t* name);
+/// What is known of the channel's field, made at need and forgotten when the field changes; owned
+/// by the channel. Null for null.
+ZU_API struct Tzu_stat* zu_clr_channel_get_stat(Tzu_clr_channel* channel);
+ZU_API void zu_clr_channel_set_min(Tzu_clr_channel* channel, double minimum);
+ZU_API void zu_clr_channel_set_max(Tzu_clr_channel* channel, double maximum);
+/// Cuts both limits to the range of the data.
+ZU_API void zu_clr_channel_bound_minmax(Tzu_clr_channel* channel, double minimum, double maximum);
 /// Limits in the unit of the field. A new channel has 0 and 255.
 ZU_API double zu_clr_channel_get_minimum(const Tzu_clr_channel* channel);
 ZU_API double zu_clr_channel_get_maximum(const Tzu_clr_channel* channel);
@@ -136,11 +143,38 @@ ZU_HOT uint32_t zu_clr_init_rgba(uint8_t r, uint8_t g, uint8_t b, uint8_t a) {
 #else
 ZU_API uint32_t zu_clr_init_rgba(uint8_t r, uint8_t g, uint8_t b, uint8_t a);
 #endif
-/// Fills `count` colours of a numbered array; `flag` 0 spreads it as a ramp, 1 takes its colours in
-/// turn. Transparencies of `colors` are kept. False if there is no such array.
-ZU_API bool zu_clr_arrays_generate_ex(int32_t id, uint64_t count, Tzu_color* colors, int32_t flag);
+/// The colour of such a word.
+ZU_API Tzu_color zu_clr_init_int(uint32_t word);
+
+/// The middle between two numbers, without overflow.
+ZU_API double zu_halfway(double a, double b);
 
 // --- Lists
+
+/// A list of whole numbers.
+typedef struct Tzu_ints Tzu_ints;
+ZU_API Tzu_ints* zu_ints_create(void);  ///< empty; null if out of memory
+ZU_API void zu_ints_destroy(Tzu_ints* list);
+ZU_API bool zu_ints_add(Tzu_ints* list, int64_t value);  ///< false if out of memory
+ZU_API uint64_t zu_ints_get_size(const Tzu_ints* list);
+ZU_API int64_t zu_ints_get(const Tzu_ints* list, uint64_t index);  ///< 0 if there is none
+
+/// A set of whole numbers, in ascending order.
+typedef struct Tzu_int_set Tzu_int_set;
+ZU_API Tzu_int_set* zu_int_set_create(void);
+ZU_API void zu_int_set_destroy(Tzu_int_set* set);
+ZU_API bool zu_int_set_add(Tzu_int_set* set, int64_t value);
+ZU_API bool zu_int_set_has(const Tzu_int_set* set, int64_t value);
+ZU_API uint64_t zu_int_set_get_size(const Tzu_int_set* set);
+
+/// A list of texts.
+typedef struct Tzu_wstrings Tzu_wstrings;
+ZU_API Tzu_wstrings* zu_wstrings_create(void);
+ZU_API void zu_wstrings_destroy(Tzu_wstrings* list);
+ZU_API bool zu_wstrings_add(Tzu_wstrings* list, const wchar_t* text);
+ZU_API uint64_t zu_wstrings_get_size(const Tzu_wstrings* list);
+/// Lives as long as the list is not changed; null if there is none.
+ZU_API const wchar_t* zu_wstrings_get_str(const Tzu_wstrings* list, uint64_t index);
 
 /// A list of doubles.
 typedef struct Tzu_dbls Tzu_dbls;

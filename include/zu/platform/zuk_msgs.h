@@ -3,7 +3,7 @@
 // is the host's; without a host's hooks everything is silent, the answer is no and nothing is ever
 // stopped.
 
-#include "zu/platform/zuk_api.h"
+#include "zu/platform/zuk_basic.h"
 
 typedef void (*Tzu_message_sink)(const wchar_t* text, void* user);
 /// Who gets the messages from now on; null is nobody.
@@ -21,6 +21,25 @@ ZU_API void zu_set_message_hooks(const Tzu_message_hooks* hooks);
 ZU_API void zu_show_wwarning(const wchar_t* text);
 /// Asks a question that is answered by yes or no; comes back with the answer. False for no answer.
 ZU_API bool zu_ask_wyes_no(const wchar_t* text);
+
+/// How a host asks for files and colours. A null member answers no; `user` is handed back. `filter`
+/// is a text of the form "Name (*.a;*.b)|*.a;*.b", several of them joined by "|".
+typedef struct Tzu_asking_hooks {
+  bool (*open_file)(const wchar_t* filter, Tzu_string_adp* path, void* user);
+  /// Asks before an older file is lost, and completes the name by the filter's ending. `suggested`
+  /// may be null.
+  bool (*save_file)(const wchar_t* filter, const wchar_t* suggested, Tzu_string_adp* path,
+                    void* user);
+  bool (*color)(Tzu_color* color, void* user);  ///< with its transparency
+  void* user;
+} Tzu_asking_hooks;
+/// Who is asked from now on; null is nobody. They are copied.
+ZU_API void zu_set_asking_hooks(const Tzu_asking_hooks* hooks);
+// False, and no call or change, if the person chose nothing.
+ZU_API bool zu_ask_open_file_w(const wchar_t* filter, Tzu_string_adp* path);
+ZU_API bool zu_ask_save_file_w(const wchar_t* filter, const wchar_t* suggested,
+                               Tzu_string_adp* path);
+ZU_API bool zu_ask_color(Tzu_color* color);
 
 /// What a host offers. A null member is skipped; `user` is handed back.
 typedef struct Tzu_progress_hooks {

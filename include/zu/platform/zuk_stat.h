@@ -9,7 +9,17 @@ ZU_API Tzu_histogramm_data* zu_histogramm_create(void);
 ZU_API void zu_histogramm_destroy(Tzu_histogramm_data* histogram);
 ZU_API void zu_histogramm_assign(Tzu_histogramm_data* histogram, const Tzu_histogramm_data* from);
 ZU_API void zu_histogramm_clear(Tzu_histogramm_data* histogram);
+/// So many empty classes between the limits that were set last (0 and 1 at first).
 ZU_API void zu_histogramm_set_params(Tzu_histogramm_data* histogram, uint64_t classes);
+/// Between which values its classes lie.
+ZU_API void zu_histogramm_set_limits(Tzu_histogramm_data* histogram, double minimum, double maximum);
+/// Number of classes and limits; outputs may be null. Without classes only the count is written.
+ZU_API void zu_histogramm_get_params(const Tzu_histogramm_data* histogram, uint64_t* count,
+                                     double* minimum, double* maximum);
+// Bounds of a class; NaN if there is none.
+ZU_API double zu_histogramm_get_bnd_min(const Tzu_histogramm_data* histogram, uint64_t index);
+ZU_API double zu_histogramm_get_bnd_max(const Tzu_histogramm_data* histogram, uint64_t index);
+ZU_API double zu_histogramm_get_max_val(const Tzu_histogramm_data* histogram);  ///< largest count
 ZU_API uint64_t zu_histogramm_get_size(const Tzu_histogramm_data* histogram);
 ZU_API void zu_histogramm_set(Tzu_histogramm_data* histogram, uint64_t index, double count);
 ZU_API double zu_histogramm_get(const Tzu_histogramm_data* histogram,
@@ -27,6 +37,9 @@ ZU_API double zu_stat_get_minimum(const Tzu_stat* stat, bool* valid);
 ZU_API double zu_stat_get_maximum(const Tzu_stat* stat, bool* valid);
 ZU_API double zu_stat_get_average(const Tzu_stat* stat, bool* valid);
 ZU_API double zu_stat_get_stddev(const Tzu_stat* stat, bool* valid);
-/// The object's own histogram.
-ZU_API Tzu_histogramm_data* zu_stat_get_histogramm(Tzu_stat* stat);
-ZU_API void zu_stat_set_histogramm(Tzu_stat* stat, const Tzu_histogramm_data* histogram);
+ZU_API bool zu_stat_has_statistic(const Tzu_stat* stat);  ///< all four were set
+ZU_API bool zu_stat_has_histogramm(const Tzu_stat* stat);
+/// The object's own histogram, to be filled or read; `valid`, which may be null, says whether it is.
+ZU_API Tzu_histogramm_data* zu_stat_get_histogramm(Tzu_stat* stat, bool* valid);
+/// Says whether the histogram is valid now.
+ZU_API void zu_stat_set_histogramm(Tzu_stat* stat, bool valid);

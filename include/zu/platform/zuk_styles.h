@@ -4,6 +4,7 @@
 
 #include "zu/platform/zuk_basic.h"
 #include "zu/platform/zuk_prg.h"
+#include "zu/platform/zuk_symbols.h"
 
 enum Tzu_style_mode {
   zu_style_simple = 0,
@@ -12,54 +13,14 @@ enum Tzu_style_mode {
   zu_style_rule = 3,
 };
 
-// --- Line styles
-
-enum Tzu_line_cap { zu_cap_butt = 0, zu_cap_round = 1, zu_cap_square = 2 };
-enum Tzu_line_join { zu_join_miter = 0, zu_join_round = 1, zu_join_bevel = 2 };
-enum { zu_line_dashes = 8 };
-
-/// How a line is drawn. A plain record: copying it is `zu_pln_style_assign`.
-typedef struct Tzu_pln_style {
-  double width;                   ///< millimetres
-  double dashes[zu_line_dashes];  ///< on, off, … in millimetres
-  int32_t dash_count;             ///< 0: a solid line
-  int32_t cap, join;
-  Tzu_color color;
-  bool visible;
-  bool label;  ///< a set that carries its level is drawn with the number on its lines
-} Tzu_pln_style;
-
-/// A visible black line of 0.2 mm, round caps and joins; null if out of memory.
-ZU_API Tzu_pln_style* zu_pln_style_create(void);
-ZU_API void zu_pln_style_destroy(Tzu_pln_style* style);
-ZU_API void zu_pln_style_assign(Tzu_pln_style* style, const Tzu_pln_style* from);
-/// The style that `zu_pln_style_create` gives.
-ZU_API void zu_pln_style_init(Tzu_pln_style* style);
-// Parts of the line itself. A colour is a word as of `zu_clr_init_rgba`.
-ZU_API void zu_bpln_style_set_color(Tzu_pln_style* style, uint32_t color);
-ZU_API void zu_bpln_style_set_width(Tzu_pln_style* style, double millimetres);
-
-/// How a polygon is drawn. A plain record.
-typedef struct Tzu_pgn_style {
-  Tzu_color fill;
-  Tzu_pln_style contour;
-} Tzu_pgn_style;
-
-/// A black half transparent fill with the line of `zu_pln_style_create` around it; null if out of
-/// memory.
-ZU_API Tzu_pgn_style* zu_pgn_style_create(void);
-ZU_API void zu_pgn_style_destroy(Tzu_pgn_style* style);
-/// Of the fill, as a word.
-ZU_API void zu_bpgn_style_set_color(Tzu_pgn_style* style, uint32_t color);
-ZU_API Tzu_pln_style* zu_pgn_style_get_bpln_ptr(Tzu_pgn_style* style);  ///< the contour, not owned
-
 // --- Parameters
 
-/// Colours of cells and styles of lines: index 0 draws, index 1 draws what is selected. A manager
-/// uses the kind of its type.
+/// Styles of the kind of the manager's type: index 0 draws, index 1 draws what is selected. Colours
+/// of cells stand here; symbols, lines and polygons behind `more`, which is null until one of them
+/// is asked for. Not to be copied as a record.
 typedef struct Tzu_stl_prm {
   Tzu_color colors[2];
-  Tzu_pln_style lines[2];
+  struct Tzu_stl_prm_more* more;
 } Tzu_stl_prm;
 
 /// What a row of a scale owns.
@@ -71,8 +32,17 @@ typedef struct Tzu_scale_prm {
 ZU_API void zu_scale_prm_set_visible(Tzu_scale_prm* prm, bool visible);
 /// Sets one colour (index 0 or 1).
 ZU_API void zu_stl_prm_clr_set_all(Tzu_stl_prm* prm, Tzu_color color, int32_t index);
-/// Line style `index` (0 or 1), owned by the parameters; null for null.
+/// Colour `index` (0 or 1); a line's or a symbol's is that of its main part. Black for null.
+ZU_API Tzu_color zu_stl_prm_get_color(const Tzu_stl_prm* prm, int32_t index);
+/// Styles `index` (0 or 1), owned by the parameters; null for null.
 ZU_API Tzu_pln_style* zu_stl_prm_get_pln_style_ptr(Tzu_stl_prm* prm, int32_t index);
+ZU_API Tzu_pnt_style* zu_stl_prm_get_pnt_style_ptr(Tzu_stl_prm* prm, int32_t index);
+ZU_API Tzu_pgn_style* zu_stl_prm_get_pgn_style_ptr(Tzu_stl_prm* prm, int32_t index);
+/// A copy, owned by the caller; null for null and if out of memory.
+ZU_API Tzu_stl_prm* zu_stl_prm_clone(const Tzu_stl_prm* prm);
+ZU_API void zu_stl_prm_destroy(Tzu_stl_prm* prm);
+/// Both styles and the visibility.
+ZU_API void zu_scale_prm_assign(Tzu_scale_prm* prm, const Tzu_scale_prm* from);
 
 #ifdef __cplusplus
 ZU_HOT bool zu_scale_prm_get_visible(const Tzu_scale_prm* prm) { return prm->visible; }
@@ -141,6 +111,52 @@ ZU_API void zu_rng_scale_set_max_caption_w(Tzu_rng_scale* scale, const wchar_t* 
 ZU_API void zu_rng_scale_get_other_caption_w(const Tzu_rng_scale* scale, Tzu_string_adp* adapter);
 ZU_API void zu_rng_scale_set_other_caption_w(Tzu_rng_scale* scale, const wchar_t* text);
 
+/// "minimum - maximum" as `zu_rng_scale_get_round_digits` writes them, in the language in force.
+ZU_API void zu_rng_scale_set_default_caption(Tzu_rng_scale* scale, uint64_t index);
+/// A class before `index` (at most the size), styled and bounded as a new one; gives its index.
+ZU_API uint64_t zu_rng_scale_ins(Tzu_rng_scale* scale, uint64_t index);
+// Marks are what a person has chosen in a list of the rows; they are not saved. False for no row.
+ZU_API bool zu_rng_scale_get_marked(const Tzu_rng_scale* scale, uint64_t index);
+ZU_API void zu_rng_scale_set_marked(Tzu_rng_scale* scale, uint64_t index, bool marked);
+ZU_API bool zu_rng_scale_get_min_marked(const Tzu_rng_scale* scale);
+ZU_API void zu_rng_scale_set_min_marked(Tzu_rng_scale* scale, bool marked);
+ZU_API bool zu_rng_scale_get_max_marked(const Tzu_rng_scale* scale);
+ZU_API void zu_rng_scale_set_max_marked(Tzu_rng_scale* scale, bool marked);
+ZU_API void zu_rng_scale_del_marked(Tzu_rng_scale* scale);  ///< classes only; the tails stay
+/// Marked classes go before the class `index` (at most the size), in their order.
+ZU_API void zu_rng_scale_move_marked(Tzu_rng_scale* scale, uint64_t index);
+/// `order` holds each index of a class once: class i becomes what was class order[i]. Any other
+/// list changes nothing.
+ZU_API void zu_rng_scale_set_order(Tzu_rng_scale* scale, const Tzu_ints* order);
+/// The current row of a list, kept as it is given; -1 unless set.
+ZU_API int32_t zu_rng_scale_get_active_idx(const Tzu_rng_scale* scale);
+ZU_API void zu_rng_scale_set_active_idx(Tzu_rng_scale* scale, int32_t index);
+// Assign style `selected` (0 drawn, 1 selected) of a row from that of `prm`.
+ZU_API void zu_rng_scale_set_stl_prm(Tzu_rng_scale* scale, uint64_t index, const Tzu_stl_prm* prm,
+                                     int32_t selected);
+ZU_API void zu_rng_scale_set_min_style_prm(Tzu_rng_scale* scale, const Tzu_stl_prm* prm,
+                                           int32_t selected);
+ZU_API void zu_rng_scale_set_max_style_prm(Tzu_rng_scale* scale, const Tzu_stl_prm* prm,
+                                           int32_t selected);
+// Between the classes `first` and `last` (cut to the scale), or between the first and last marked
+// one over the marked ones, the inner rows get what lies evenly between the two ends: the colour
+// with its transparency kept, the hue alone by the shorter way, the transparency alone, the size of
+// symbols and the width of lines. Fewer than three rows: nothing.
+ZU_API void zu_rng_scale_clr_gradient(Tzu_rng_scale* scale, uint64_t first, uint64_t last,
+                                      int32_t selected);
+ZU_API void zu_rng_scale_hue_gradient(Tzu_rng_scale* scale, uint64_t first, uint64_t last,
+                                      int32_t selected);
+ZU_API void zu_rng_scale_transparency_gradient(Tzu_rng_scale* scale, uint64_t first, uint64_t last,
+                                               int32_t selected);
+ZU_API void zu_rng_scale_size_gradient(Tzu_rng_scale* scale, uint64_t first, uint64_t last,
+                                       int32_t selected);
+ZU_API void zu_rng_scale_clr_gradient_marked(Tzu_rng_scale* scale, int32_t selected);
+ZU_API void zu_rng_scale_transparency_gradient_marked(Tzu_rng_scale* scale, int32_t selected);
+ZU_API void zu_rng_scale_size_gradient_marked(Tzu_rng_scale* scale, int32_t selected);
+/// Called before a scale is filled from data: rows made from now on are as transparent as the first
+/// row is now.
+ZU_API void zu_rng_scale_init_opacity_pts(Tzu_rng_scale* scale);
+
 /// How boundaries were made; kept for whoever makes them anew.
 enum Tzu_range_type {
   zu_range_equal = 0,
@@ -182,6 +198,29 @@ ZU_API uint64_t zu_val_scale_add(Tzu_val_scale* scale);  ///< the new size
 ZU_API void zu_val_scale_get_text_w(const Tzu_val_scale* scale, uint64_t index,
                                     Tzu_string_adp* adp);
 ZU_API void zu_val_scale_set_text_w(Tzu_val_scale* scale, uint64_t index, const wchar_t* text);
+/// A row at `index` (at most the size), empty as `zu_val_scale_add` makes it; gives its index.
+ZU_API uint64_t zu_val_scale_ins(Tzu_val_scale* scale, uint64_t index);
+ZU_API void zu_val_scale_del(Tzu_val_scale* scale, uint64_t index);
+// The same operations on rows as on the classes of a range scale.
+ZU_API bool zu_val_scale_get_marked(const Tzu_val_scale* scale, uint64_t index);
+ZU_API void zu_val_scale_set_marked(Tzu_val_scale* scale, uint64_t index, bool marked);
+ZU_API void zu_val_scale_del_marked(Tzu_val_scale* scale);
+ZU_API void zu_val_scale_move_marked(Tzu_val_scale* scale, uint64_t index);
+ZU_API void zu_val_scale_set_order(Tzu_val_scale* scale, const Tzu_ints* order);
+ZU_API int32_t zu_val_scale_get_active_idx(const Tzu_val_scale* scale);
+ZU_API void zu_val_scale_set_active_idx(Tzu_val_scale* scale, int32_t index);
+ZU_API void zu_val_scale_set_stl_prm(Tzu_val_scale* scale, uint64_t index, const Tzu_stl_prm* prm,
+                                     int32_t selected);
+ZU_API void zu_val_scale_clr_gradient(Tzu_val_scale* scale, uint64_t first, uint64_t last,
+                                      int32_t selected);
+ZU_API void zu_val_scale_transparency_gradient(Tzu_val_scale* scale, uint64_t first, uint64_t last,
+                                               int32_t selected);
+ZU_API void zu_val_scale_size_gradient(Tzu_val_scale* scale, uint64_t first, uint64_t last,
+                                       int32_t selected);
+ZU_API void zu_val_scale_clr_gradient_marked(Tzu_val_scale* scale, int32_t selected);
+ZU_API void zu_val_scale_transparency_gradient_marked(Tzu_val_scale* scale, int32_t selected);
+ZU_API void zu_val_scale_size_gradient_marked(Tzu_val_scale* scale, int32_t selected);
+ZU_API void zu_val_scale_init_opacity_pts(Tzu_val_scale* scale);
 /// Number of the first row whose text is exactly `text`; false, and the output as it was, if there
 /// is none.
 ZU_API bool zu_val_scale_find_item_no_w(const Tzu_val_scale* scale, const wchar_t* text,
@@ -239,8 +278,8 @@ ZU_API Tzu_scale_prm* zu_val_scale_find_scale_prm_ptr_d(Tzu_val_scale* scale, do
 
 typedef struct Tzu_stl_mngr Tzu_stl_mngr;
 ZU_API Tzu_stl_mngr* zu_clr_stl_mngr_create(void);  ///< colours: simple mode, one gray
-/// A manager of the type named "clr_mngr_style" (colours of cells) or "pln_mngr_style" (lines);
-/// null for another name.
+/// A manager of the type named "clr_mngr_style" (colours of cells), "pnt_mngr_style" (symbols),
+/// "pln_mngr_style" (lines) or "pgn_mngr_style" (polygons); null for another name.
 ZU_API Tzu_stl_mngr* zu_stl_mngr_create(const char* type);
 ZU_API const char* zu_stl_mngr_get_style_type(const Tzu_stl_mngr* manager);  ///< empty for null
 ZU_API void zu_stl_mngr_destroy(Tzu_stl_mngr* manager);
@@ -257,6 +296,12 @@ ZU_API void zu_stl_mngr_set_rng_prop_name_w(Tzu_stl_mngr* manager, const wchar_t
 ZU_API Tzu_stl_prm* zu_stl_mngr_get_simple_sp_ptr(Tzu_stl_mngr* manager);
 ZU_API Tzu_val_scale* zu_stl_mngr_get_val_scale_ptr(Tzu_stl_mngr* manager);
 ZU_API Tzu_rng_scale* zu_stl_mngr_get_rng_scale_ptr(Tzu_stl_mngr* manager);
+/// A value scale whose texts are rules, as `zu_calc_filter_to_str` writes them.
+ZU_API Tzu_val_scale* zu_stl_mngr_get_rule_scale_ptr(Tzu_stl_mngr* manager);
+ZU_API Tzu_stl_mngr* zu_pgn_stl_mngr_create(void);
+/// Set by who filled the manager from a file, taken back by who has shown it.
+ZU_API bool zu_stl_mngr_get_just_loaded(const Tzu_stl_mngr* manager);
+ZU_API void zu_stl_mngr_set_just_loaded(Tzu_stl_mngr* manager, bool loaded);
 
 /// How markers turn with a field; of no effect on a raster.
 typedef struct Tzu_rotate_params Tzu_rotate_params;

@@ -10,6 +10,7 @@
 #include "platform/zuk_basic/utf8.h"
 #include "platform/zuk_xml_data/nodes.h"
 #include "platform/zuk_xml_data/scales.h"
+#include "platform/zuk_xml_data/xml_save.h"
 #include "zu/platform/zuk_xml_data.h"
 
 using zu::platform::attribute;
@@ -17,10 +18,6 @@ using zu::platform::from_utf8;
 using zu::platform::guarded;
 using zu::platform::node_ptr;
 using zu::platform::text_of;
-
-struct Tzu_xml_save_2d {
-  std::wstring reason;
-};
 
 namespace {
 

@@ -2,6 +2,7 @@
 // Styles in trees and scales in files of their own.
 
 #include "zu/platform/zuk_io.h"
+#include "zu/platform/zuk_palettes.h"
 #include "zu/platform/zuk_styles.h"
 
 // --- Groups: one named child of `node` each, whose old content is replaced. `context` is the
@@ -45,3 +46,13 @@ ZU_API bool zu_xml_data_load_val_scale_w(Tzu_xml_save_2d* xml, const wchar_t* pa
                                          Tzu_stl_mngr* manager, const char* key);
 ZU_API bool zu_xml_data_load_rng_scale_w(Tzu_xml_save_2d* xml, const wchar_t* path,
                                          Tzu_stl_mngr* manager, const char* key);
+
+// --- Palette files (".clrs")
+
+/// The whole list. False, and the old file as it was, if the file cannot be written.
+ZU_API bool zu_xml_data_save_clr_palettes(Tzu_xml_save_2d* xml, const wchar_t* path,
+                                          const Tzu_clr_palettes* list);
+/// The list becomes what the file holds. False, and the list as it was, if the file cannot be read
+/// or is no palette file, a colour in it is broken, or there are more than a million of them.
+ZU_API bool zu_xml_data_load_clr_palettes(Tzu_xml_save_2d* xml, const wchar_t* path,
+                                          Tzu_clr_palettes* list);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <filesystem>
 #include <fstream>
 #include <memory>
 #include <new>
@@ -9,6 +10,8 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <system_error>
+#include <vector>
 
 #include "platform/zuk_basic/guarded.h"
 #include "platform/zuk_basic/owned.h"
@@ -50,7 +53,12 @@ void report(const std::wstring& text) {
 
 std::string content_of(const std::wstring& path) {
   constexpr std::streamoff longest = std::streamoff{64} << 20;
-  std::ifstream file(zu::platform::to_utf8(path), std::ios::binary | std::ios::ate);
+  std::string name = zu::platform::to_utf8(path);
+  std::error_code unknown;
+  if (!std::filesystem::exists(name, unknown)) throw std::runtime_error("no such file");
+  if (!std::filesystem::is_regular_file(name, unknown))
+    throw std::runtime_error("is not a regular file");
+  std::ifstream file(name, std::ios::binary | std::ios::ate);
   std::streamoff size = file ? static_cast<std::streamoff>(file.tellg()) : -1;
   if (size < 0) throw std::runtime_error("cannot be opened");
   if (size > longest) throw std::runtime_error("is larger than 64 MiB");

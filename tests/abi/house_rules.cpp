@@ -222,7 +222,7 @@ const std::map<std::string, int> floors = {
     {"zuk_datasource", 3}, {"zuk_xml_data", 3},  {"zuk_style_libs", 3},  //
     {"zuk_lr2d", 4},       {"zuk_attr_data", 4}, {"zuk_scn_2d", 4},
     {"zuk_rtr_lr2d", 4},   {"zuk_tos_lr2d", 4},  //
-    {"zuk_drwc", 5},       {"zuk_render", 5},    //
+    {"zuk_drwc", 5},       {"zuk_render", 5},    {"zuk_bmp_dc", 5},  //
     {"zuk_viewer2d", 6},   {"zuk_select", 6},
 };
 

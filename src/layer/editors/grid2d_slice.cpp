@@ -21,7 +21,7 @@ void grid2d_slice::set_layer(grid_layer2d* layer) {
   layer_ = layer;
   if (layer == nullptr) return;
   constexpr std::int64_t most = std::numeric_limits<std::int32_t>::max();
-  auto counted = [](std::int64_t n) {
+  auto counted = [&](std::int64_t n) {
     return static_cast<std::int32_t>(std::clamp(n, -most, most));
   };
   position_.set_range(1, counted(layer->slice_count()), 1);

@@ -59,8 +59,7 @@ void append_sequence(std::vector<double>& to, std::int32_t start, std::int32_t p
   constexpr double steps[] = {1.0, 2.0, 5.0};
   constexpr std::int32_t largest_power = 308;
   std::int32_t s = std::clamp(start, 0, 2);
-  for (double last = steps[s] * std::pow(10.0, power);;
-       last = steps[s] * std::pow(10.0, power)) {
+  for (double last = steps[s] * std::pow(10.0, power);; last = steps[s] * std::pow(10.0, power)) {
     to.push_back(sign * last);
     if (!(last < maximum) || power > largest_power) return;
     s = (s + 1) % 3;
@@ -135,8 +134,7 @@ void set_geometrical(Tzu_rng_scale* scale, const geometrical_params& params) {
     double step = (b - a) / params.count;
     set_outline(scale, params.count, minimum, maximum);
     for (std::uint32_t i = 0; i < params.count; ++i)
-      set_class(scale, i, std::exp(a + i * step) - offset,
-                std::exp(a + (i + 1.0) * step) - offset);
+      set_class(scale, i, std::exp(a + i * step) - offset, std::exp(a + (i + 1.0) * step) - offset);
   }
   finish(scale, params.digits);
 }

@@ -7,7 +7,6 @@
 #include <cmath>
 #include <string_view>
 
-
 namespace zu::style {
 namespace {
 

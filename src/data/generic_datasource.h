@@ -10,6 +10,7 @@
 
 #include "zu/data_source.h"
 #include "zu/platform/zuk_datasource.h"
+#include "zu/platform/zuk_msgs.h"
 #include "zu/platform/zuk_prg.h"
 #include "zu/platform/zuk_stat.h"
 
@@ -78,9 +79,16 @@ class generic_datasource {
   double field_mean(std::int64_t field);
   double field_stddev(std::int64_t field);
   std::uint64_t field_count(std::int64_t field);  ///< valid values
+  /// Has the platform read a field in one pass, so that the five above know it: all of it, or, if
+  /// it has more than `most` cells (0: no limit), a sample. The window of `progress`, which may be
+  /// null, shows it. False if it was stopped, or if the source is none of the platform's.
+  bool read_statistics(std::int64_t field, std::uint64_t most, Tzu_progress* progress);
   void fill_stat(Tzu_stat* stat, std::int64_t field);
   bool field_histogram(std::int64_t field, Tzu_histogramm_data* out);
+  /// With the field's limits; valid if the source gives one.
   void fill_histogram(Tzu_stat* stat, std::int64_t field);
+  /// The same in 256 classes by one pass of the platform's, with a window; false as above.
+  bool read_histogram(Tzu_stat* stat, std::int64_t field, Tzu_progress* progress);
   bool field_unique_values(std::int64_t field, std::int64_t limit, std::set<double>& out);
   bool field_unique_values(std::int64_t field, std::int64_t limit, std::vector<std::wstring>& out);
 

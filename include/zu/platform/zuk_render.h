@@ -30,8 +30,11 @@ ZU_API int32_t zu_render_get_plane(const Izu_render* render);
 /// Draws polylines given in render coordinates, as `zu_drwc_draw_pln` draws millimetres.
 ZU_API void zu_render_cr_pln(Izu_render* render, const Tzu_ov_d2* lines,
                              const Tzu_pln_style* style);
-/// Fills a polygon given in render coordinates (even-odd, rings closed or not) and draws its
-/// contour. A clip that is in force is lifted.
+/// Draws a symbol at each vertex of the lists, given in render coordinates, as `zu_drwc_draw_pnt`
+/// does.
+ZU_API void zu_render_cr_pnt(Izu_render* render, const Tzu_ov_d2* points,
+                             const Tzu_pnt_style* style);
+/// Draws a polygon given in render coordinates, as `zu_drwc_draw_pgn` draws millimetres.
 ZU_API void zu_render_cr_pgn(Izu_render* render, const Tzu_ov_d2* rings,
                              const Tzu_pgn_style* style);
 /// Draws the nodes of a layer of the type "tos_2crd_lr2d" as square points in the colours of its

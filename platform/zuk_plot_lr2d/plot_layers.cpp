@@ -31,9 +31,9 @@ void zu_plot_histogram_lr2d_set_histogramm(Izu_layer* layer, const Tzu_histogram
     double tallest = zu_histogramm_get_max_val(histogram);
     state->bars.clear();
     for (uint64_t i = 0; i < zu_histogramm_get_size(histogram); ++i)
-      state->bars.push_back(
-          {zu_histogramm_get_bnd_min(histogram, i), zu_histogramm_get_bnd_max(histogram, i),
-           tallest > 0 ? zu_histogramm_get(histogram, i) / tallest : 0});
+      state->bars.push_back({zu_histogramm_get_bnd_min(histogram, i),
+                             zu_histogramm_get_bnd_max(histogram, i),
+                             tallest > 0 ? zu_histogramm_get(histogram, i) / tallest : 0});
     if (state->bars.empty())
       set_extent(&l, 1, 0);
     else

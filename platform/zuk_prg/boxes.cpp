@@ -23,18 +23,17 @@ void zu_boxes_d2_clear(Tzu_boxes_d2* list) {
 }
 bool zu_boxes_d2_add(Tzu_boxes_d2* list, const Tzu_box_d2* box) {
   return box != nullptr && guarded(list, false, [&](Tzu_boxes_d2& l) {
-    l.boxes.push_back(*box);
-    return true;
-  });
+           l.boxes.push_back(*box);
+           return true;
+         });
 }
 uint64_t zu_boxes_d2_get_size(const Tzu_boxes_d2* list) {
   return list != nullptr ? list->boxes.size() : 0;
 }
 int64_t zu_boxes_d2_includes(const Tzu_boxes_d2* list, double x, double y, uint64_t start) {
   if (list == nullptr) return -1;
-  return list->find(start, [&](const Tzu_box_d2& b) {
-    return x >= b.x0 && x <= b.x1 && y >= b.y0 && y <= b.y1;
-  });
+  return list->find(
+      start, [&](const Tzu_box_d2& b) { return x >= b.x0 && x <= b.x1 && y >= b.y0 && y <= b.y1; });
 }
 int64_t zu_boxes_d2_crosses(const Tzu_boxes_d2* list, const Tzu_box_d2* box, uint64_t start) {
   if (list == nullptr || box == nullptr) return -1;

@@ -51,4 +51,6 @@ Tzu_axis_type* zu_axes_get_axis(Tzu_axes* axes, int32_t side) {
 void zu_axis_type_set_visible(Tzu_axis_type* axis, bool visible) {
   if (axis != nullptr) axis->visible = visible;
 }
-bool zu_axis_type_get_visible(const Tzu_axis_type* axis) { return axis != nullptr && axis->visible; }
+bool zu_axis_type_get_visible(const Tzu_axis_type* axis) {
+  return axis != nullptr && axis->visible;
+}

@@ -242,5 +242,4 @@ ZU_API uint64_t zu_boxes_d2_get_size(const Tzu_boxes_d2* list);
 /// Number of the first box from `start` on that holds the point, its edges included; -1: none.
 ZU_API int64_t zu_boxes_d2_includes(const Tzu_boxes_d2* list, double x, double y, uint64_t start);
 /// The same for a box that shares area with the given one.
-ZU_API int64_t zu_boxes_d2_crosses(const Tzu_boxes_d2* list, const Tzu_box_d2* box,
-                                   uint64_t start);
+ZU_API int64_t zu_boxes_d2_crosses(const Tzu_boxes_d2* list, const Tzu_box_d2* box, uint64_t start);

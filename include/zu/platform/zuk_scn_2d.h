@@ -5,6 +5,10 @@
 
 ZU_API uint64_t zu_scn_get_count(const Tzu_scn_2d* scene);  ///< layers; 0 for null
 
+// What changes between these two is told once, at the end. They nest.
+ZU_API void zu_scn_begin_update(Tzu_scn_2d* scene);
+ZU_API void zu_scn_end_update(Tzu_scn_2d* scene);
+
 /// The profile of a scene: whether it is one, the line of the section on the map, and the limits of
 /// its axes. A new scene is no profile, has equal axes scales, an empty line and limits of 0.
 typedef struct Tzu_prf_data Tzu_prf_data;

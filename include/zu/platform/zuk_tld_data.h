@@ -16,6 +16,5 @@ ZU_API void zu_text_data_set_color(Tzu_text_data* text, Tzu_color color);
 ZU_API void zu_text_data_set_background(Tzu_text_data* text, const Tzu_color* color);
 /// Box that the text takes on the page of a render, in millimetres; false, and no change, for a
 /// text without letters.
-ZU_API bool zu_text_data_get_box_mm(const Tzu_text_data* text, Izu_render* render,
-                                    Tzu_box_d2* box);
+ZU_API bool zu_text_data_get_box_mm(const Tzu_text_data* text, Izu_render* render, Tzu_box_d2* box);
 ZU_API void zu_text_data_draw(const Tzu_text_data* text, Izu_render* render);

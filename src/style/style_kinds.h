@@ -36,8 +36,8 @@ struct point_kind {
   static void assign(style* to, argument from) { zu_pnt_style_assign(to, from); }
   static argument given(style* held) { return held; }
   static bool edit(style* edited) { return edit_point_style(edited); }
-  static bool preview(argument shown, std::uint64_t width, std::uint64_t height,
-                      double dots_per_mm, Tzu_dib* out);
+  static bool preview(argument shown, std::uint64_t width, std::uint64_t height, double dots_per_mm,
+                      Tzu_dib* out);
 };
 
 struct line_kind {
@@ -48,8 +48,8 @@ struct line_kind {
   static void assign(style* to, argument from) { zu_pln_style_assign(to, from); }
   static argument given(style* held) { return held; }
   static bool edit(style* edited) { return edit_line_style(edited); }
-  static bool preview(argument shown, std::uint64_t width, std::uint64_t height,
-                      double dots_per_mm, Tzu_dib* out);
+  static bool preview(argument shown, std::uint64_t width, std::uint64_t height, double dots_per_mm,
+                      Tzu_dib* out);
 };
 
 struct polygon_kind {
@@ -60,8 +60,8 @@ struct polygon_kind {
   static void assign(style* to, argument from) { zu_pgn_style_assign(to, from); }
   static argument given(style* held) { return held; }
   static bool edit(style* edited) { return edit_polygon_style(edited); }
-  static bool preview(argument shown, std::uint64_t width, std::uint64_t height,
-                      double dots_per_mm, Tzu_dib* out);
+  static bool preview(argument shown, std::uint64_t width, std::uint64_t height, double dots_per_mm,
+                      Tzu_dib* out);
 };
 
 }  // namespace zu::style::detail

@@ -219,7 +219,7 @@ const std::map<std::string, int> floors = {
     {"zuk_msgs", 0},       {"zuk_prg", 1},       {"zuk_io", 1},
     {"zuk_stat", 1},       {"zuk_proj4_d2", 1},  {"zuk_dib", 1},        //
     {"zuk_styles", 2},     {"zuk_file_tos4", 2}, {"zuk_file_segy", 2},  //
-    {"zuk_datasource", 3}, {"zuk_xml_data", 3},                         //
+    {"zuk_datasource", 3}, {"zuk_xml_data", 3},  {"zuk_style_libs", 3},  //
     {"zuk_lr2d", 4},       {"zuk_attr_data", 4}, {"zuk_scn_2d", 4},
     {"zuk_rtr_lr2d", 4},   {"zuk_tos_lr2d", 4},  //
     {"zuk_drwc", 5},       {"zuk_render", 5},    {"zuk_bmp_dc", 5},  //

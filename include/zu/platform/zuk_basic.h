@@ -146,9 +146,6 @@ ZU_API uint32_t zu_clr_init_rgba(uint8_t r, uint8_t g, uint8_t b, uint8_t a);
 /// The colour of such a word.
 ZU_API Tzu_color zu_clr_init_int(uint32_t word);
 
-/// The middle between two numbers, without overflow.
-ZU_API double zu_halfway(double a, double b);
-
 // --- Lists
 
 /// A list of whole numbers.

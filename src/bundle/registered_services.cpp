@@ -12,6 +12,7 @@
 #include "src/render/tos4_lr2d_render_services.h"
 #include "src/sources/scene_editor_services.h"
 #include "src/sources/segy_params.h"
+#include "src/style/pickers/figure_dialog.h"
 
 namespace zu {
 namespace {

@@ -3,6 +3,8 @@
 #include <charconv>
 #include <cmath>
 
+#include "platform/zuk_styles/symbols.h"
+
 namespace zu::platform {
 namespace {
 

@@ -75,8 +75,8 @@ void stroke_dashed(cairo_t* cairo, const line_piece& piece, const strokes& lines
 strokes::strokes(const Tzu_bpln_style& style, double per_mm, double most, bool thin)
     : width(std::min(style.width * per_mm, most)),
       dashes(dashes_of(style, per_mm)),
-      cap(std::clamp<std::int32_t>(style.cap, 0, 2)),
-      join(std::clamp<std::int32_t>(style.join, 0, 2)),
+      cap(style.cap),
+      join(style.join),
       color(style.color),
       thinned(thin) {}
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "zu/platform/zuk_drwc.h"
+
 namespace zu::style {
 namespace {
 

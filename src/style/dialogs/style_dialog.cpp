@@ -2,6 +2,7 @@
 
 #include "src/bundle/strings.h"
 #include "src/bundle/texts.h"
+#include "zu/platform/zuk_drwc.h"
 #include "zu/platform/zuk_msgs.h"
 #include "zu/platform/zuk_os.h"
 

@@ -30,9 +30,8 @@ class own_environment {
 
 bool import_avl(Tzu_stl_mngr* mngr) {
   if (mngr == nullptr) return false;
-  const std::wstring path = text_of([](Tzu_string_adp* adapter) {
-    zu_ask_open_file_w(load_text(10314).c_str(), adapter);
-  });
+  const std::wstring path = text_of(
+      [](Tzu_string_adp* adapter) { zu_ask_open_file_w(load_text(10314).c_str(), adapter); });
   if (path.empty()) return false;
   owned<gp_avl_to_stlmgr_params_destroy> params(gp_avl_to_stlmgr_params_create());
   gp_avl_to_stlmgr_params_set_filename_w(params.get(), path.c_str());

@@ -25,7 +25,7 @@ template <class model> class scale_style : public toolkit::with_element {
   void show_interpolate(bool shown) { root_.set_row_visible(4, shown); }
   handle element() override { return handle_of<grid_layout_impl>(root_); }
 
-  std::function<void()> on_change;                    ///< of what the model does not tell
+  std::function<void()> on_change;  ///< of what the model does not tell
   std::function<void(bool)> on_interpolate;
 
  private:

@@ -17,9 +17,7 @@ template <class style_traits> class parameter_link : public link_of<style_traits
   parameter_link(std::int32_t caption, std::int32_t kind)
       : link_of<style_traits>::type(caption), kind_(kind) {}
 
-  void show(Tzu_stl_prm* prm) {
-    this->assign(style_traits::get(prm, kind_));
-  }
+  void show(Tzu_stl_prm* prm) { this->assign(style_traits::get(prm, kind_)); }
 
  private:
   std::int32_t kind_;

@@ -72,10 +72,8 @@ template <class style_traits> void style_manager<style_traits>::show_page() {
 template <class style_traits> void style_manager<style_traits>::mode_chosen() {
   show_page();
   // A scale that nobody has filled yet would draw nothing.
-  if (zu_stl_mngr_get_mode(mngr_) == zu_style_value)
-    values_.fill_if_empty(ranges_.scale().field());
-  if (zu_stl_mngr_get_mode(mngr_) == zu_style_range)
-    ranges_.fill_if_empty(values_.scale().field());
+  if (zu_stl_mngr_get_mode(mngr_) == zu_style_value) values_.fill_if_empty(ranges_.scale().field());
+  if (zu_stl_mngr_get_mode(mngr_) == zu_style_range) ranges_.fill_if_empty(values_.scale().field());
   changed();
 }
 

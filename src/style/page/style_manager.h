@@ -1,5 +1,6 @@
 #pragma once
-// The whole of a style manager as a person edits it: which of its styles draws, and a page for each.
+// The whole of a style manager as a person edits it: which of its styles draws, and a page for
+// each.
 
 #include "src/style/page/scale_style.h"
 #include "src/style/page/simple_style.h"

@@ -1,8 +1,7 @@
-// Lists of plain values, and the middle of two.
+// Lists of plain values.
 
 #include <cmath>
 #include <new>
-#include <numeric>
 #include <set>
 #include <string>
 #include <vector>
@@ -110,5 +109,3 @@ uint64_t zu_wstrings_get_size(const Tzu_wstrings* list) {
 const wchar_t* zu_wstrings_get_str(const Tzu_wstrings* list, uint64_t index) {
   return index < zu_wstrings_get_size(list) ? list->texts[index].c_str() : nullptr;
 }
-
-double zu_halfway(double a, double b) { return std::midpoint(a, b); }

@@ -103,6 +103,7 @@ void zu_box_d2_inflate_cf(Tzu_box_d2* box, double part) {
   double x = (box->x1 - box->x0) * part, y = (box->y1 - box->y0) * part;
   *box = {box->x0 - x, box->y0 - y, box->x1 + x, box->y1 + y};
 }
+double zu_halfway(double a, double b) { return a + (b - a) * 0.5; }
 void zu_box_d2_apply_matrix3x3(Tzu_box_d2* box, const Tzu_matrix3x3* matrix) {
   double x[4] = {box->x0, box->x1, box->x0, box->x1};
   double y[4] = {box->y0, box->y0, box->y1, box->y1};

@@ -6,6 +6,7 @@
 #include "platform/zuk_basic/guarded.h"
 #include "platform/zuk_basic/text_of.h"
 #include "platform/zuk_styles/scales.h"
+#include "zu/platform/zuk_os.h"
 
 using zu::platform::class_at;
 using zu::platform::guarded;
@@ -22,8 +23,7 @@ bool is_set(const Tzu_rng_scale* scale, bool range_scale::*flag) {
 
 void assign_one(Tzu_scale_prm* row, const Tzu_stl_prm* from, int32_t selected) {
   if (from == nullptr) return;
-  guarded(row,
-          [&](Tzu_scale_prm& r) { zu::platform::assign_one(r.style, *from, selected != 0); });
+  guarded(row, [&](Tzu_scale_prm& r) { zu::platform::assign_one(r.style, *from, selected != 0); });
 }
 
 template <class head> void reorder(head* scale, const Tzu_ints* order) {
@@ -42,7 +42,7 @@ template <class head> void reorder(head* scale, const Tzu_ints* order) {
 void zu_rng_scale_set_default_caption(Tzu_rng_scale* scale, uint64_t index) {
   constexpr int32_t between = 623;  // "%ls – %ls"
   guarded(class_at(scale, index), [&](zu::platform::range_class& c) {
-    std::wstring caption = text_of([](Tzu_string_adp* a) { zu_load_text(between, a); });
+    std::wstring caption = zu_res_get_wstr(between);
     // From the end, so that a number's text is not searched.
     for (double bound : {c.maximum, c.minimum}) {
       std::size_t place = caption.rfind(L"%ls");

@@ -75,6 +75,7 @@ ZU_API void zu_box_d2_make_xy(Tzu_box_d2* out, double x0, double y0, double x1, 
 ZU_API bool zu_box_d2_cross(const Tzu_box_d2* a, const Tzu_box_d2* b, Tzu_box_d2* out);
 /// Widens it by a part of its own size on every side: 0.02 makes a margin of a fiftieth.
 ZU_API void zu_box_d2_inflate_cf(Tzu_box_d2* box, double part);
+ZU_API double zu_halfway(double a, double b);  ///< the middle of two numbers
 /// All four corners, ordered again.
 ZU_API void zu_box_d2_apply_matrix3x3(Tzu_box_d2* box, const Tzu_matrix3x3* matrix);
 

@@ -23,6 +23,7 @@ struct known_value {
 struct Tzu_stat {
   known_value minimum, maximum, average, stddev;
   Tzu_histogramm_data histogram;
+  bool has_histogram = false;
 };
 
 namespace {
@@ -78,9 +79,10 @@ double zu_stat_get_average(const Tzu_stat* s, bool* valid) {
 double zu_stat_get_stddev(const Tzu_stat* s, bool* valid) {
   return get(s, &Tzu_stat::stddev, valid);
 }
-Tzu_histogramm_data* zu_stat_get_histogramm(Tzu_stat* stat) {
+Tzu_histogramm_data* zu_stat_get_histogramm(Tzu_stat* stat, bool* valid) {
+  if (valid != nullptr) *valid = stat != nullptr && stat->has_histogram;
   return stat != nullptr ? &stat->histogram : nullptr;
 }
-void zu_stat_set_histogramm(Tzu_stat* stat, const Tzu_histogramm_data* histogram) {
-  if (stat != nullptr) zu_histogramm_assign(&stat->histogram, histogram);
+void zu_stat_set_histogramm(Tzu_stat* stat, bool valid) {
+  if (stat != nullptr) stat->has_histogram = valid;
 }

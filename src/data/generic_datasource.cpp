@@ -222,9 +222,8 @@ bool generic_datasource::field_histogram(std::int64_t field, Tzu_histogramm_data
 }
 
 void generic_datasource::fill_histogram(Tzu_stat* stat, std::int64_t field) {
-  Tzu_histogramm_data* histogram = zu_stat_get_histogramm(stat);
-  field_histogram(field, histogram);
-  zu_stat_set_histogramm(stat, histogram);
+  Tzu_histogramm_data* histogram = zu_stat_get_histogramm(stat, nullptr);
+  zu_stat_set_histogramm(stat, field_histogram(field, histogram));
 }
 
 bool generic_datasource::field_unique_values(std::int64_t field, std::int64_t limit,

@@ -2,6 +2,7 @@
 
 #include "src/bundle/strings.h"
 #include "src/bundle/texts.h"
+#include "zu/platform/zuk_palettes.h"
 
 #include <cmath>
 #include <string_view>

@@ -30,10 +30,14 @@ TEST(histogram, holds_a_number_a_class_and_is_copied) {
   EXPECT_EQ(zu_histogramm_get_size(histogram), 3u);
   EXPECT_EQ(zu_histogramm_get(histogram, 1), 5);
   EXPECT_EQ(zu_histogramm_get(histogram, 3), 0);
-  zu_stat_set_histogramm(stat, histogram);
+  bool valid = true;
+  zu_histogramm_assign(zu_stat_get_histogramm(stat, &valid), histogram);
+  EXPECT_FALSE(valid);
+  zu_stat_set_histogramm(stat, true);
   zu_histogramm_clear(histogram);
   EXPECT_EQ(zu_histogramm_get_size(histogram), 0u);
-  EXPECT_EQ(zu_histogramm_get(zu_stat_get_histogramm(stat), 1), 5);
+  EXPECT_EQ(zu_histogramm_get(zu_stat_get_histogramm(stat, &valid), 1), 5);
+  EXPECT_TRUE(valid);
   zu_histogramm_destroy(histogram);
   zu_stat_destroy(stat);
 }

@@ -190,7 +190,8 @@ bool is_of_tree(const std::string& path) {
 }
 
 bool may_bundle(const include& i) {
-  if (!i.quoted) return standard.count(i.path) != 0;
+  // The compiler's own, which turns the names of types into texts.
+  if (!i.quoted) return standard.count(i.path) != 0 || i.path == "cxxabi.h";
   return begins(i.path, "src/") || begins(i.path, "zu/") || begins(i.path, "resources/");
 }
 bool may_platform(const include& i) {

@@ -4,6 +4,7 @@
 #include <span>
 
 #include "zu/platform/zuk_basic.h"
+#include "zu/platform/zuk_palettes.h"
 
 namespace {
 
@@ -58,6 +59,11 @@ bool zu_clr_arrays_generate_ex(int32_t id, uint64_t count, Tzu_color* colors, in
     colors[i] = {byte(c.r), byte(c.g), byte(c.b), colors[i].a};
   }
   return true;
+}
+
+Tzu_color zu_clr_init_int(uint32_t word) {
+  auto byte_at = [&](int n) { return static_cast<uint8_t>(word >> (8 * n)); };
+  return {byte_at(0), byte_at(1), byte_at(2), byte_at(3)};
 }
 
 // Keeps the library's own copy of what the header defines.

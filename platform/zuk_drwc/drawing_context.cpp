@@ -83,25 +83,26 @@ drawing_context::saved_state drawing_context::clipped_to(const pixel_box& box) {
 
 void drawing_context::draw_lines(const Tzu_ov_d2& lines, const Tzu_pln_style& style) {
   pixel_box box = region();
-  if (!style.visible || !(style.width > 0) || style.color.a == 255 || box.is_empty()) return;
-  strokes drawn(style, per_mm_, 2 * (width_ + height_), !accurate_);
+  const Tzu_bpln_style& line = style.line;
+  if (!style.line_visible || !(line.width > 0) || line.color.a == 255 || box.is_empty()) return;
+  strokes drawn(line, per_mm_, 2 * (width_ + height_), !accurate_);
   double margin = drawn.margin();
   const Tzu_box_d2 near_the_page{-margin, -margin, width_ + margin, height_ + margin};
   const Tzu_box_d2 shown{static_cast<double>(box.x0), height_ - static_cast<double>(box.y1),
                          static_cast<double>(box.x1), height_ - static_cast<double>(box.y0)};
   line_numbers numbers(cairo_.get(), per_mm_, shown, labels_, lines, style);
   auto& set = const_cast<Tzu_ov_d2&>(lines);  // read only; the getters give what may be edited
-  std::vector<Tzu_vtx_d2> line;
+  std::vector<Tzu_vtx_d2> way;
   for (std::uint64_t i = 0; i < zu_ov_d2_get_size(&set); ++i) {
     Tzu_pv_d2* list = zu_ov_d2_get_pv_ptr(&set, i);
     const Tzu_vtx_d2* vertices = zu_pv_d2_get_arr(list);
-    line.assign(vertices, vertices + zu_pv_d2_get_size(list));
-    for (Tzu_vtx_d2& v : line) v = {v.x * per_mm_, height_ - v.y * per_mm_};
-    for (const line_piece& piece : cut_line(line.data(), line.size(), near_the_page))
+    way.assign(vertices, vertices + zu_pv_d2_get_size(list));
+    for (Tzu_vtx_d2& v : way) v = {v.x * per_mm_, height_ - v.y * per_mm_};
+    for (const line_piece& piece : cut_line(way.data(), way.size(), near_the_page))
       for (line_piece& part : numbers.parted(piece)) drawn.parts.push_back(std::move(part));
   }
   if (drawn.parts.empty()) return;
-  saved_state saved = clipped_to(style.color.a == 0 ? bled_region() : region());
+  saved_state saved = clipped_to(line.color.a == 0 ? bled_region() : region());
   stroke_lines(drawn);
   numbers.draw();
   inked();

@@ -3,6 +3,8 @@
 #include <charconv>
 #include <cmath>
 
+#include "platform/zuk_styles/symbols.h"
+
 namespace zu::platform {
 namespace {
 
@@ -24,7 +26,7 @@ line_numbers::line_numbers(cairo_t* cairo, double per_mm, const Tzu_box_d2& show
                            const Tzu_pln_style& style)
     : taken_(taken) {
   double level;
-  if (!style.label || !zu_ov_d2_get_level(&lines, &level) || !std::isfinite(level)) return;
+  if (!style.number_visible || !zu_ov_d2_get_level(&lines, &level) || !std::isfinite(level)) return;
   text_.emplace(cairo, number_text(level), font_size * per_mm);
   request_ = {text_->width(), text_->capital_height(), spacing * per_mm, shown};
 }

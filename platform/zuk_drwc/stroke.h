@@ -5,7 +5,7 @@
 
 #include "platform/zuk_drwc/cairo_owned.h"
 #include "platform/zuk_drwc/cut_line.h"
-#include "zu/platform/zuk_styles.h"
+#include "platform/zuk_styles/symbols.h"
 
 namespace zu::platform {
 
@@ -19,7 +19,7 @@ struct strokes {
   bool thinned;  ///< vertices a fraction of a pixel apart are not wanted
 
   /// The pen of a style, without lines; not wider than `most`.
-  strokes(const Tzu_pln_style& style, double per_mm, double most, bool thinned);
+  strokes(const Tzu_bpln_style& style, double per_mm, double most, bool thinned);
   /// How far outside of what shows a line may be cut, so that neither caps nor corners of what was
   /// cut off are missed.
   double margin() const;

@@ -9,6 +9,7 @@
 #include "platform/zuk_basic/event_channel.h"
 #include "platform/zuk_lr2d/own_state.h"
 #include "platform/zuk_scn_2d/prf_data.h"
+#include "platform/zuk_styles/symbols.h"
 #include "zu/platform/zuk_lr2d.h"
 
 struct Izu_layer {

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "platform/zuk_basic/guarded.h"
+#include "platform/zuk_styles/symbols.h"
 #include "zu/platform/zuk_render.h"
 
 using zu::platform::guarded;
@@ -91,8 +92,11 @@ void zu_render_cr_pgn(Izu_render* render, const Tzu_ov_d2* rings, const Tzu_pgn_
     Tzu_box_d2 whole{};
     zu_drwc_get_page(r.drwc, &whole);
     zu_drwc_set_clip_pgn(r.drwc, 0, page.get());
-    zu_drwc_fill_box(r.drwc, &whole, style->fill);
+    if (style->fill_visible) zu_drwc_fill_box(r.drwc, &whole, style->fill.color);
     zu_drwc_set_clip_none(r.drwc);
-    zu_drwc_draw_pln(r.drwc, page.get(), &style->contour);
+    Tzu_pln_style contour;
+    contour.line = style->contour;
+    contour.line_visible = style->contour_visible;
+    zu_drwc_draw_pln(r.drwc, page.get(), &contour);
   });
 }

@@ -6,6 +6,7 @@
 
 #include "platform/zuk_basic/guarded.h"
 #include "platform/zuk_basic/utf8.h"
+#include "platform/zuk_styles/symbols.h"
 #include "platform/zuk_xml_data/nodes.h"
 #include "platform/zuk_xml_data/parts.h"
 #include "platform/zuk_xml_data/scales.h"

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/zuk_basic/utf8.h"
+#include "platform/zuk_styles/parameters.h"
 #include "platform/zuk_xml_data/nodes.h"
 
 namespace zu::platform {
@@ -56,51 +57,54 @@ void load_choice(Tzu_xnode* node, const wchar_t* key, std::int32_t& choice) {
   if (read >= 0 && read <= 2) choice = static_cast<std::int32_t>(read);
 }
 
-void load_dashes(Tzu_xnode* node, Tzu_pln_style& line) {
+void load_dashes(Tzu_xnode* node, Tzu_bpln_style& line) {
   std::vector<double> dashes = numbers_in<double>(attribute(node, L"dashes"));
-  if (dashes.empty() || dashes.size() > zu_line_dashes) return;
-  for (double each : dashes)
-    if (!is_length(each)) return;
-  std::copy(dashes.begin(), dashes.end(), line.dashes);
-  line.dash_count = static_cast<std::int32_t>(dashes.size());
+  bool lengths = std::all_of(dashes.begin(), dashes.end(), is_length);
+  if (lengths && !dashes.empty() && dashes.size() <= zu_line_dashes) line.dashes = dashes;
 }
 
 }  // namespace
 
-void save_line(Tzu_xnode* node, const wchar_t* key, const Tzu_pln_style& line) {
+void save_line(Tzu_xnode* node, const wchar_t* key, const Tzu_pln_style& style) {
   node_ptr group = emptied(node, key);
+  const Tzu_bpln_style& line = style.line;
   zu_xnode_set_attr_dbl_w(group.get(), L"width", line.width);
-  int count = std::clamp<int>(line.dash_count, 0, zu_line_dashes);
-  if (count > 0)
-    zu_xnode_set_attr_wstr(group.get(), L"dashes", written(line.dashes, count).c_str());
+  if (!line.dashes.empty())
+    zu_xnode_set_attr_wstr(
+        group.get(), L"dashes",
+        written(line.dashes.data(), static_cast<int>(line.dashes.size())).c_str());
   zu_xnode_set_attr_int_w(group.get(), L"cap", line.cap);
   zu_xnode_set_attr_int_w(group.get(), L"join", line.join);
   save_color(group.get(), L"color", line.color);
-  zu_xnode_set_attr_bool_w(group.get(), L"visible", line.visible);
-  zu_xnode_set_attr_bool_w(group.get(), L"label", line.label);
+  zu_xnode_set_attr_bool_w(group.get(), L"visible", style.line_visible);
+  zu_xnode_set_attr_bool_w(group.get(), L"label", style.number_visible);
 }
 
-void load_line(Tzu_xnode* node, const wchar_t* key, Tzu_pln_style& line) {
+void load_line(Tzu_xnode* node, const wchar_t* key, Tzu_pln_style& style) {
   node_ptr group(zu_xnode_get_node_w(node, key));
   if (!group) return;
+  Tzu_bpln_style& line = style.line;
   double width = zu_xnode_get_attr_dbl_w(group.get(), L"width", line.width);
   if (is_length(width)) line.width = width;
   load_dashes(group.get(), line);
   load_choice(group.get(), L"cap", line.cap);
   load_choice(group.get(), L"join", line.join);
   load_color(group.get(), L"color", line.color);
-  line.visible = zu_xnode_get_attr_bool_w(group.get(), L"visible", line.visible);
-  line.label = zu_xnode_get_attr_bool_w(group.get(), L"label", line.label);
+  style.line_visible = zu_xnode_get_attr_bool_w(group.get(), L"visible", style.line_visible);
+  style.number_visible = zu_xnode_get_attr_bool_w(group.get(), L"label", style.number_visible);
 }
 
 void save_style(Tzu_xnode* node, const Tzu_stl_prm& style, bool lines) {
+  style_parameters copy(style);  // of which a line may be made
   for (int i = 0; i < 2; ++i) save_color(node, color_keys[i], style.colors[i]);
-  for (int i = 0; lines && i < 2; ++i) save_line(node, line_keys[i], style.lines[i]);
+  for (int i = 0; lines && i < 2; ++i)
+    save_line(node, line_keys[i], *zu_stl_prm_get_pln_style_ptr(&copy, i));
 }
 
 void load_style(Tzu_xnode* node, Tzu_stl_prm& style, bool lines) {
   for (int i = 0; i < 2; ++i) load_color(node, color_keys[i], style.colors[i]);
-  for (int i = 0; lines && i < 2; ++i) load_line(node, line_keys[i], style.lines[i]);
+  for (int i = 0; lines && i < 2; ++i)
+    load_line(node, line_keys[i], *zu_stl_prm_get_pln_style_ptr(&style, i));
 }
 
 void save_row(Tzu_xnode* node, const Tzu_scale_prm& row, bool lines) {

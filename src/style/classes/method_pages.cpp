@@ -74,8 +74,7 @@ void equal_page::load(const Tzu_rng_scale* scale) {
 }
 
 void equal_page::build(Tzu_rng_scale* scale) {
-  set_equal_intervals(scale,
-                      {count_.count(), minimum_.value(), maximum_.value(), digits_.value()});
+  set_equal_intervals(scale, {count_.count(), minimum_.value(), maximum_.value(), digits_.value()});
 }
 
 limits_page::limits_page(const known_field& field, builder build)

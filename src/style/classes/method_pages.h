@@ -82,8 +82,8 @@ class equal_page : public method_page {
 /// Count and limits: of quantiles, natural breaks and geometrical classes.
 class limits_page : public method_page {
  public:
-  using builder = std::function<void(Tzu_rng_scale*, std::uint32_t count, class_limits,
-                                     std::int32_t digits)>;
+  using builder =
+      std::function<void(Tzu_rng_scale*, std::uint32_t count, class_limits, std::int32_t digits)>;
   limits_page(const known_field& field, builder build);
   void load(const Tzu_rng_scale* scale) override;
   void build(Tzu_rng_scale* scale) override;

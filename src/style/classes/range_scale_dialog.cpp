@@ -31,8 +31,8 @@ range_scale::range_scale(Tzu_rng_scale* scale, Tzu_stat* stat, const data::open_
       quantiles_(known_,
                  [this](Tzu_rng_scale* to, std::uint32_t count, style::class_limits limits,
                         std::int32_t digits) {
-                   style::set_quantiles(to, {known_.histogram, count, limits.minimum,
-                                             limits.maximum, digits});
+                   style::set_quantiles(
+                       to, {known_.histogram, count, limits.minimum, limits.maximum, digits});
                  }),
       natural_(known_,
                [this](Tzu_rng_scale* to, std::uint32_t count, style::class_limits limits,

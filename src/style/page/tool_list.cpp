@@ -4,7 +4,7 @@ namespace zu::style::detail {
 
 void tool_list::begin_set() { tools_.push_back({nullptr, {}}); }
 
-toolkit::action_tool& tool_list::add_action(const wchar_t* id, std::int32_t text,
+toolkit::action_tool& tool_list::add_action(const std::wstring& id, std::int32_t text,
                                             std::function<void()> action) {
   toolkit::action_tool& added = actions_.emplace_back(text);
   added.on_execute = std::move(action);

@@ -20,18 +20,18 @@ class tool_list {
 
   /// What is added from now on stands behind a separator.
   void begin_set();
-  toolkit::action_tool& add_action(const wchar_t* id, std::int32_t text,
+  toolkit::action_tool& add_action(const std::wstring& id, std::int32_t text,
                                    std::function<void()> action);
   /// A menu of `tools`, which must outlive this.
   template <class Tools>
-  toolkit::category_tool& add_menu(const wchar_t* id, std::int32_t text, Tools& tools) {
+  toolkit::category_tool& add_menu(const std::wstring& id, std::int32_t text, Tools& tools) {
     toolkit::category_tool& menu = menus_.emplace_back(text);
     menu.add(tools);
     add(id, menu);
     return menu;
   }
   /// A tool that must outlive this.
-  template <class tool> void add(const wchar_t* id, tool& added) {
+  template <class tool> void add(const std::wstring& id, tool& added) {
     tools_.push_back({&keys_.emplace_back(id + prefix_), toolkit::handle_of_element(added)});
   }
 

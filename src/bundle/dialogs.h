@@ -22,12 +22,6 @@ struct segy_preview_dialog {
 struct figure {
   static constexpr wchar_t id[] = L"zu_common_figure_dialog";
 };
-struct range_scale {
-  static constexpr wchar_t id[] = L"zu_common_plugin_range_scale_dialog";
-};
-struct value_scale {
-  static constexpr wchar_t id[] = L"zu_common_plugin_value_scale_dialog";
-};
 struct data_filter_dialog {
   static constexpr wchar_t id[] = L"zu_plugin_common_data_filter_dailog";
 };

@@ -15,6 +15,7 @@
 
 #include "bench/small_host.h"
 #include "zu/platform/zuk_datasource.h"
+#include "zu/platform/zuk_palettes.h"
 
 namespace {
 

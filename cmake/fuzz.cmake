@@ -2,6 +2,9 @@
 # the empty input and every file of tests/fuzz/corpus/NAME once, as a test.
 
 file(GLOB fuzz_targets CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/fuzz/*_fuzz.cpp)
+if(ZU_FUZZ)
+  add_custom_target(fuzz_targets)
+endif()
 foreach(source ${fuzz_targets})
   get_filename_component(program ${source} NAME_WE)
   string(REGEX REPLACE "_fuzz$" "" name ${program})
@@ -19,6 +22,7 @@ foreach(source ${fuzz_targets})
   endif()
   if(ZU_FUZZ)
     target_link_options(${program} PRIVATE -fsanitize=fuzzer)
+    add_dependencies(fuzz_targets ${program})
   else()
     target_sources(${program} PRIVATE ${CMAKE_SOURCE_DIR}/tests/fuzz/replay.cpp)
     add_test(NAME ${program} COMMAND ${program} ${CMAKE_SOURCE_DIR}/tests/fuzz/corpus/${name})

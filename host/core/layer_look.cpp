@@ -5,6 +5,7 @@
 
 #include "host/core/failure.h"
 #include "host/core/texts.h"
+#include "zu/platform/zuk_palettes.h"
 #include "zu/platform/zuk_tos_lr2d.h"
 
 namespace zu::host {
@@ -80,7 +81,8 @@ void set_style(const layer_look& look, const source& data, Tzu_stl_mngr* manager
     zu_stl_mngr_set_mode(manager, zu_style_simple);
     Tzu_stl_prm* simple = zu_stl_mngr_get_simple_sp_ptr(manager);
     zu_stl_prm_clr_set_all(simple, *look.simple, 0);
-    zu_stl_prm_get_pln_style_ptr(simple, 0)->color = *look.simple;
+    zu_bpln_style_set_color(
+        zu_pln_style_get_bpln_style_ptr(zu_stl_prm_get_pln_style_ptr(simple, 0)), *look.simple);
     return;
   }
   std::size_t field = colored_field(look, data);

@@ -15,6 +15,7 @@
 #include "host/desktop/dialogs/clipboard_bridge.h"
 #include "host/desktop/dialogs/message_windows.h"
 #include "host/desktop/dialogs/progress_window.h"
+#include "host/desktop/dialogs/question_windows.h"
 #include "host/desktop/dialogs/settings_dialog.h"
 #include "host/desktop/gallery.h"
 #include "host/desktop/map/viewer_builders.h"
@@ -142,6 +143,7 @@ class dialog_windows {
 struct conversation {
   clipboard_bridge clipboard;
   message_windows messages;
+  question_windows questions;
   progress_window progress;
   dialog_windows dialogs;
 };

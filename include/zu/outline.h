@@ -271,6 +271,16 @@ struct bitmap_outline_column_impl : outline_column_interface<bitmap_outline_colu
   using operations = column_order<&bitmap_outline_column_impl::picture>;
 };
 
+/// Pictures in the size that is wanted of them. A column of pictures may answer to this name too;
+/// it is asked instead of its `picture` then.
+struct sized_pictures_impl : plain_interface<sized_pictures_impl> {
+  static constexpr char name[] = "zu_sized_pictures_interface_0";
+  /// So many pixels, at least one each way, of which so many make a millimetre.
+  virtual void picture_of(outline_item, std::uint32_t /*width*/, std::uint32_t /*height*/,
+                          double /*dots_per_mm*/, bitmap_visitor) {}
+  using operations = in_order<&sized_pictures_impl::picture_of>;
+};
+
 /// Cells that the column's owner draws.
 struct canvas_outline_column_impl : outline_column_interface<canvas_outline_column_impl> {
   static constexpr char name[] = "zu_canvas_outline_column_interface_5";

@@ -93,6 +93,17 @@ struct multiaction_tool_impl : tool_interface<multiaction_tool_impl> {
                                 &multiaction_tool_impl::execute>;
 };
 
+/// Pictures that a tool draws for itself. A tool that has some answers to this name too; a host
+/// shows them in place of the icon that it has for the tool's id.
+struct tool_pictures_impl : plain_interface<tool_pictures_impl> {
+  static constexpr char name[] = "zu_tool_pictures_interface_0";
+  /// The picture of the tool (`item` -1) or of one of its items, in so many pixels; no call if it
+  /// has none.
+  virtual void visit(std::int32_t /*item*/, std::uint32_t /*width*/, std::uint32_t /*height*/,
+                     bitmap_visitor) {}
+  using operations = in_order<&tool_pictures_impl::visit>;
+};
+
 /// Tools that stand together.
 struct tool_set_impl : plain_interface<tool_set_impl> {
   static constexpr char name[] = "zu_tool_set_interface_5";

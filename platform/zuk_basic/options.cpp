@@ -31,6 +31,9 @@ std::wstring& style_libs() {
   return path;
 }
 
+/// Whether the host has set the folder of style libraries.
+bool style_libs_set = false;
+
 bool build_overviews = false;
 double mm_delta = 1.0;
 
@@ -47,8 +50,22 @@ const wchar_t* zu_options_get_style_libs_path() { return style_libs().c_str(); }
 
 void zu_options_set_style_libs_path(const wchar_t* path) {
   zu::platform::guarded(&style_libs(), [&](std::wstring& kept) {
-    kept = path != nullptr && *path != L'\0' ? path : own_style_libs();
+    style_libs_set = path != nullptr && *path != L'\0';
+    kept = style_libs_set ? path : own_style_libs();
   });
+}
+
+const wchar_t* zu_options_get_own_style_libs_path() {
+  static std::wstring path;
+  zu::platform::guarded(&path, [](std::wstring& kept) {
+    kept.clear();
+    std::filesystem::path folder =
+        std::filesystem::path(zu::platform::to_utf8(main_module())).parent_path();
+    if (style_libs_set || folder.empty()) return;
+    kept = zu::platform::from_utf8(
+        (folder.parent_path() / "share" / "zugrid" / "style_libs").native());
+  });
+  return path.c_str();
 }
 
 bool zu_options_get_build_overviews() { return build_overviews; }

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <cstdint>
 
+#include "platform/zuk_styles/symbols.h"
+
 namespace zu::platform {
 namespace {
 
@@ -13,19 +15,18 @@ constexpr double miter_limit = 10;
 constexpr std::size_t opaque_at_once = 200;
 
 /// Dashes in pixels; empty for a solid line. A pattern Cairo would refuse is a solid line.
-std::vector<double> dashes_of(const Tzu_pln_style& style, double per_mm) {
-  auto count = std::clamp<std::int32_t>(style.dash_count, 0, zu_line_dashes);
+std::vector<double> dashes_of(const Tzu_bpln_style& style, double per_mm) {
   std::vector<double> dashes;
   double sum = 0;
-  for (std::int32_t i = 0; i < count; ++i) {
-    double length = style.dashes[i] * per_mm;
+  for (double millimetres : style.dashes) {
+    double length = millimetres * per_mm;
     if (!(length >= 0) || !std::isfinite(length)) return {};
     dashes.push_back(length);
     sum += length;
   }
   // Finer dashes than these are a gray line and many strokes.
   constexpr double finest = 0.05;
-  return sum > finest * static_cast<double>(count) ? dashes : std::vector<double>();
+  return sum > finest * static_cast<double>(dashes.size()) ? dashes : std::vector<double>();
 }
 
 void set_pen(cairo_t* cairo, const strokes& lines) {
@@ -71,11 +72,11 @@ void stroke_dashed(cairo_t* cairo, const line_piece& piece, const strokes& lines
 
 }  // namespace
 
-strokes::strokes(const Tzu_pln_style& style, double per_mm, double most, bool thin)
+strokes::strokes(const Tzu_bpln_style& style, double per_mm, double most, bool thin)
     : width(std::min(style.width * per_mm, most)),
       dashes(dashes_of(style, per_mm)),
-      cap(std::clamp<std::int32_t>(style.cap, 0, 2)),
-      join(std::clamp<std::int32_t>(style.join, 0, 2)),
+      cap(style.cap),
+      join(style.join),
       color(style.color),
       thinned(thin) {}
 

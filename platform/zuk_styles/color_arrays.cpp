@@ -40,11 +40,11 @@ const described table[] = {
     {"gentle_rainbow",
      ramp_form::even,
      {0x7581c2, 0x5aa8d4, 0x5bc8c8, 0x98daa5, 0xe7da8b, 0xeeae7b, 0xd6857f}},
-    // All hues at one lightness, the last next to the first: for directions and other values that
+    // All hues at one lightness, and round to the first again: for directions and other values that
     // turn round.
     {"hue_circle",
-     ramp_form::even,
-     {0xed8b8b, 0xdf9a53, 0xafb151, 0x66c189, 0x24c1c9, 0x65b2f1, 0xaa9df1, 0xd98dc9, 0xed8b8b}},
+     ramp_form::ring,
+     {0xed8b8b, 0xdf9a53, 0xafb151, 0x66c189, 0x24c1c9, 0x65b2f1, 0xaa9df1, 0xd98dc9}},
     // Dark to light through cool hues, then through hot ones: they rise in lightness alone as much
     // as in hue, and are read without telling red from green.
     {"tidal",

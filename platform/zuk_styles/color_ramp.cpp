@@ -17,7 +17,13 @@ void put(Tzu_color color, Tzu_color& into) { into = {color.r, color.g, color.b, 
 color_ramp::color_ramp(std::span<const Tzu_color> colors, ramp_form form)
     : in_bytes_(form == ramp_form::bytes) {
   std::size_t half = colors.size() / 2;
+  std::vector<Tzu_color> closed;
   switch (form) {
+    case ramp_form::ring:
+      closed.assign(colors.begin(), colors.end());
+      closed.push_back(colors.front());
+      append(closed, 0.0, 1.0, true);
+      break;
     case ramp_form::halves:
       append(colors.first(half + 1), 0.0, 0.5, true);
       append(colors.subspan(half), 0.5, 1.0, true);

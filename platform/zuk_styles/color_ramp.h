@@ -12,6 +12,7 @@ namespace zu::platform {
 /// How the colours of an array lie along its ramp.
 enum class ramp_form {
   even,    ///< steps of equal length look equally long, over the whole
+  ring,    ///< as `even`, and on from the last colour to the first
   halves,  ///< the middle colour stands in the middle, each half is even for itself
   broken,  ///< two even halves of as many colours each, that do not run into each other
   spread,  ///< each colour at an equal distance from the next, whatever it looks like

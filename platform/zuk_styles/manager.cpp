@@ -9,16 +9,17 @@ using zu::platform::guarded;
 
 struct Tzu_rotate_params {};
 
-static constexpr char color_type[] = "clr_mngr_style";
-static constexpr char line_type[] = "pln_mngr_style";
+static constexpr const char* types[] = {"clr_mngr_style", "pnt_mngr_style", "pln_mngr_style",
+                                        "pgn_mngr_style"};
 
 struct Tzu_stl_mngr {
-  const char* type = color_type;
+  const char* type = types[0];
   int32_t mode = zu_style_simple;
-  Tzu_stl_prm simple = zu::platform::new_row().style;
+  zu::platform::style_parameters simple;
   std::wstring value_field, range_field;
-  zu::platform::value_scale values;
+  zu::platform::value_scale values, rules;
   zu::platform::range_scale ranges;
+  bool just_loaded = false;
 };
 
 namespace {
@@ -33,13 +34,17 @@ void take(Tzu_stl_mngr* manager, std::wstring Tzu_stl_mngr::*name, const wchar_t
 
 }  // namespace
 
-Tzu_stl_mngr* zu_clr_stl_mngr_create() { return new (std::nothrow) Tzu_stl_mngr; }
+Tzu_stl_mngr* zu_clr_stl_mngr_create() { return zu_stl_mngr_create("clr_mngr_style"); }
+Tzu_stl_mngr* zu_pgn_stl_mngr_create() { return zu_stl_mngr_create("pgn_mngr_style"); }
 Tzu_stl_mngr* zu_stl_mngr_create(const char* type) {
   std::string_view name = type != nullptr ? type : "";
-  if (name != color_type && name != line_type) return nullptr;
-  Tzu_stl_mngr* made = zu_clr_stl_mngr_create();
-  if (made != nullptr) made->type = name == line_type ? line_type : color_type;
-  return made;
+  for (const char* known : types) {
+    if (name != known) continue;
+    auto* made = new (std::nothrow) Tzu_stl_mngr;
+    if (made != nullptr) made->type = known;
+    return made;
+  }
+  return nullptr;
 }
 const char* zu_stl_mngr_get_style_type(const Tzu_stl_mngr* manager) {
   return manager != nullptr ? manager->type : "";
@@ -79,6 +84,15 @@ Tzu_val_scale* zu_stl_mngr_get_val_scale_ptr(Tzu_stl_mngr* manager) {
 }
 Tzu_rng_scale* zu_stl_mngr_get_rng_scale_ptr(Tzu_stl_mngr* manager) {
   return manager != nullptr ? &manager->ranges : nullptr;
+}
+Tzu_val_scale* zu_stl_mngr_get_rule_scale_ptr(Tzu_stl_mngr* manager) {
+  return manager != nullptr ? &manager->rules : nullptr;
+}
+bool zu_stl_mngr_get_just_loaded(const Tzu_stl_mngr* manager) {
+  return manager != nullptr && manager->just_loaded;
+}
+void zu_stl_mngr_set_just_loaded(Tzu_stl_mngr* manager, bool loaded) {
+  if (manager != nullptr) manager->just_loaded = loaded;
 }
 
 // Colours do not turn: a manager of them has no rotation.

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "platform/zuk_basic/guarded.h"
+#include "platform/zuk_styles/symbols.h"
 #include "zu/platform/zuk_styles.h"
 
 using zu::platform::guarded;
@@ -27,8 +28,7 @@ struct Tzu_isoline_style {
  private:
   static Tzu_pln_style line_of_width(double millimetres) {
     Tzu_pln_style line;
-    zu_pln_style_init(&line);
-    line.width = millimetres;
+    line.line.width = millimetres;
     return line;
   }
 };
@@ -160,9 +160,11 @@ void zu_isoline_style_get_bold_style(const Tzu_isoline_style* style, Tzu_pln_sty
 void zu_isoline_style_set_bold_style(Tzu_isoline_style* style, const Tzu_pln_style* line) {
   if (style != nullptr) zu_pln_style_assign(&style->bold, line);
 }
-bool zu_isoline_style_get_label(const Tzu_isoline_style* style) { return shown(style).bold.label; }
+bool zu_isoline_style_get_label(const Tzu_isoline_style* style) {
+  return shown(style).bold.number_visible;
+}
 void zu_isoline_style_set_label(Tzu_isoline_style* style, bool value) {
-  if (style != nullptr) style->bold.label = value;
+  if (style != nullptr) style->bold.number_visible = value;
 }
 
 bool zu_isoline_style_get_levels(const Tzu_isoline_style* style, double minimum, double maximum,

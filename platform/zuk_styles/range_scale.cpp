@@ -4,15 +4,6 @@
 
 namespace zu::platform {
 
-Tzu_scale_prm new_row() {
-  Tzu_scale_prm row = {{{{128, 128, 128, 0}, {255, 255, 0, 0}}, {}}, true};
-  for (int i = 0; i < 2; ++i) {
-    zu_pln_style_init(&row.style.lines[i]);
-    row.style.lines[i].color = row.style.colors[i];
-  }
-  return row;
-}
-
 /// The answer changes only at the boundaries: for each interval between two of them, the first in
 /// the order of the scale that holds it.
 void range_scale::prepare() {

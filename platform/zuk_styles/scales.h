@@ -1,22 +1,22 @@
 #pragma once
 // The two scales. Changing a scale ends its look-up.
 
+#include <algorithm>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "platform/zuk_styles/parameters.h"
 #include "platform/zuk_styles/scale_lookup.h"
 
 namespace zu::platform {
 
-/// A row of new scales: visible, a middle gray, selected in yellow.
-Tzu_scale_prm new_row();
-
 /// A row that keeps its address wherever its holder goes. A copy is a row of its own.
 class held_row {
  public:
-  held_row() : row_(std::make_unique<Tzu_scale_prm>(new_row())) {}
-  held_row(const held_row& other) : row_(std::make_unique<Tzu_scale_prm>(*other.row_)) {}
+  held_row() : row_(std::make_unique<scale_row>()) {}
+  held_row(const held_row& other) : row_(std::make_unique<scale_row>(*other.row_)) {}
   held_row(held_row&&) noexcept = default;
   held_row& operator=(const held_row& other) {
     if (this != &other) *row_ = *other.row_;
@@ -24,17 +24,17 @@ class held_row {
   }
   held_row& operator=(held_row&&) noexcept = default;
   ~held_row() = default;
-  Tzu_scale_prm* get() const { return row_.get(); }
+  scale_row* get() const { return row_.get(); }
 
  private:
-  std::unique_ptr<Tzu_scale_prm> row_;
+  std::unique_ptr<scale_row> row_;
 };
 
 /// What both scales share: their classes, and look-ups that `scale::prepare` makes ready. `head` is
 /// the public record, `one_class` what the scale holds in a row.
 template <class scale, class head, class one_class> class searched_scale : public head {
  public:
-  searched_scale() : head{}, other(new_row()) {
+  searched_scale() : head{} {
     other.visible = false;
     forget();
   }
@@ -45,11 +45,59 @@ template <class scale, class head, class one_class> class searched_scale : publi
     classes = from.classes;
     other = from.other;
     other_caption = from.other_caption;
+    active = from.active;
+    std::copy_n(from.new_opacity, 2, new_opacity);
     return *this;
   }
   void resize(std::size_t size) {
     forget();
-    classes.resize(size);
+    classes.reserve(size);
+    while (classes.size() < size) classes.push_back(new_class());
+    classes.erase(classes.begin() + static_cast<std::ptrdiff_t>(size), classes.end());
+  }
+  /// At `index`, or at the end if that is beyond.
+  std::size_t insert(std::size_t index) {
+    forget();
+    index = std::min(index, classes.size());
+    classes.insert(classes.begin() + static_cast<std::ptrdiff_t>(index), new_class());
+    return index;
+  }
+  void erase(std::size_t index) {
+    forget();
+    classes.erase(classes.begin() + static_cast<std::ptrdiff_t>(index));
+  }
+  void erase_marked() {
+    forget();
+    std::erase_if(classes, [](const one_class& c) { return c.marked; });
+  }
+  /// Marked classes go before what is at `index` now.
+  void move_marked(std::size_t index) {
+    if (index > classes.size()) return;
+    forget();
+    auto marked = [](const one_class& c) { return c.marked; };
+    auto unmarked = [](const one_class& c) { return !c.marked; };
+    auto place = classes.begin() + static_cast<std::ptrdiff_t>(index);
+    std::stable_partition(classes.begin(), place, unmarked);
+    std::stable_partition(place, classes.end(), marked);
+  }
+  /// False, and nothing done, if it is no permutation.
+  bool reorder(const std::vector<std::size_t>& order) {
+    std::vector<bool> taken(classes.size());
+    if (order.size() != classes.size()) return false;
+    for (std::size_t from : order) {
+      if (from >= classes.size() || taken[from]) return false;
+      taken[from] = true;
+    }
+    forget();
+    std::vector<one_class> sorted;
+    sorted.reserve(order.size());
+    for (std::size_t from : order) sorted.push_back(std::move(classes[from]));
+    classes = std::move(sorted);
+    return true;
+  }
+  /// New classes are as transparent as `row` is.
+  void keep_opacity(const Tzu_stl_prm& row) {
+    for (int i = 0; i < 2; ++i) new_opacity[i] = color_of(row, i).a;
   }
   void begin_find() {
     if (runs_ == 0) static_cast<scale*>(this)->prepare();
@@ -65,14 +113,22 @@ template <class scale, class head, class one_class> class searched_scale : publi
   }
 
   std::vector<one_class> classes;
-  Tzu_scale_prm other;
+  scale_row other;
   std::wstring other_caption;
+  int32_t active = -1;              // the current row of a list
+  uint8_t new_opacity[2] = {0, 0};  // the transparency of new classes, drawn and selected
 
  protected:
   ~searched_scale() = default;
   scale_lookup prepared_;
 
  private:
+  one_class new_class() const {
+    one_class made;
+    for (int i = 0; i < 2; ++i) made.row.get()->style.colors[i].a = new_opacity[i];
+    return made;
+  }
+
   int runs_ = 0;  // begun and not ended
 };
 
@@ -80,13 +136,15 @@ struct range_class {
   double minimum = 0.0, maximum = 0.0;
   std::wstring caption;
   held_row row;
+  bool marked = false;
 };
 
 struct range_scale : searched_scale<range_scale, Tzu_rng_scale, range_class> {
   void prepare();
   double minimum = 0.0, maximum = 0.0;  // of the tails
-  Tzu_scale_prm lower = new_row(), upper = new_row();
+  scale_row lower, upper;
   std::wstring lower_caption, upper_caption;
+  bool lower_marked = false, upper_marked = false;
   int32_t type = 0, digits = zu_no_rounding;
   double deviation_coefficient = 1.0;
 };
@@ -94,6 +152,7 @@ struct range_scale : searched_scale<range_scale, Tzu_rng_scale, range_class> {
 struct value_class {
   std::wstring text, caption;
   held_row row;
+  bool marked = false;
 };
 
 struct value_scale : searched_scale<value_scale, Tzu_val_scale, value_class> {

@@ -1,4 +1,4 @@
-// The plain functions of styles.
+// The plain functions of scales: sizes, boundaries, texts, rows and look-ups.
 
 #include <cmath>
 #include <new>
@@ -12,16 +12,6 @@ using zu::platform::guarded;
 using zu::platform::range_class;
 using zu::platform::value_class;
 using zu::platform::whole;
-
-void zu_scale_prm_set_visible(Tzu_scale_prm* prm, bool visible) {
-  if (prm != nullptr) prm->visible = visible;
-}
-void zu_stl_prm_clr_set_all(Tzu_stl_prm* prm, Tzu_color color, int32_t index) {
-  if (prm != nullptr) prm->colors[index != 0] = color;
-}
-Tzu_pln_style* zu_stl_prm_get_pln_style_ptr(Tzu_stl_prm* prm, int32_t index) {
-  return prm != nullptr ? &prm->lines[index != 0] : nullptr;
-}
 
 // --- Range scale
 

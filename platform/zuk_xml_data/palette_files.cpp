@@ -3,16 +3,13 @@
 #include <filesystem>
 #include <string>
 
-#include "platform/zuk_basic/guarded.h"
 #include "platform/zuk_basic/owned.h"
 #include "platform/zuk_basic/utf8.h"
-#include "platform/zuk_xml_data/nodes.h"
-#include "platform/zuk_xml_data/xml_save.h"
+#include "platform/zuk_xml_data/file_operation.h"
 #include "zu/platform/zuk_ini_data.h"
 #include "zu/platform/zuk_xml_data.h"
 
 using zu::platform::attribute;
-using zu::platform::guarded;
 using zu::platform::node_ptr;
 using zu::platform::owned;
 using zu::platform::text_of;
@@ -74,17 +71,24 @@ std::wstring load_palettes(Tzu_xnode* root, Tzu_clr_palettes* list) {
   return {};
 }
 
-std::wstring load(const wchar_t* path, Tzu_clr_palettes* list) {
-  node_ptr root;
-  std::wstring reason =
-      text_of([&](Tzu_string_adp* a) { root.reset(zu_xnode_load_file_w(path, a)); });
-  if (!root) return reason.empty() ? L"cannot be read" : reason;
-  if (text_of([&](Tzu_string_adp* a) { zu_xnode_get_name_w(root.get(), a); }) != root_key)
-    return L"holds no palettes";
+bool load(const wchar_t* path, Tzu_clr_palettes* list, std::wstring& reason) {
+  node_ptr root = zu::platform::load_tree(path, reason);
+  if (!root) return false;
   palettes_ptr fresh(zu_clr_palettes_create());
-  reason = load_palettes(root.get(), fresh.get());
+  reason = zu::platform::name_of(root.get()) == root_key ? load_palettes(root.get(), fresh.get())
+                                                         : L"holds no palettes";
   if (reason.empty()) zu_clr_palettes_assign(list, fresh.get());
-  return reason;
+  return reason.empty();
+}
+
+bool save(const wchar_t* path, const Tzu_clr_palettes* list, std::wstring& reason) {
+  node_ptr root(zu_xnode_create_root_w(root_key));
+  for (std::uint64_t i = 0; i < zu_clr_palettes_get_size(list); ++i) {
+    // The getter gives what a caller may edit; nothing is edited here.
+    auto* palette = zu_clr_palettes_get_ptr(const_cast<Tzu_clr_palettes*>(list), i);
+    save_palette(node_ptr(zu_xnode_add_node_w(root.get(), palette_key)).get(), palette);
+  }
+  return zu::platform::save_tree(root.get(), path, reason);
 }
 
 /// Empty if there is no folder for it.
@@ -99,28 +103,13 @@ std::wstring user_file() {
 
 bool zu_xml_data_save_clr_palettes(Tzu_xml_save_2d* xml, const wchar_t* path,
                                    const Tzu_clr_palettes* list) {
-  if (list == nullptr) return false;
-  return guarded(xml, false, [&](Tzu_xml_save_2d& x) {
-    node_ptr root(zu_xnode_create_root_w(root_key));
-    for (std::uint64_t i = 0; i < zu_clr_palettes_get_size(list); ++i) {
-      // The getter gives what a caller may edit; nothing is edited here.
-      auto* palette = zu_clr_palettes_get_ptr(const_cast<Tzu_clr_palettes*>(list), i);
-      save_palette(node_ptr(zu_xnode_add_node_w(root.get(), palette_key)).get(), palette);
-    }
-    bool saved = false;
-    x.reason =
-        text_of([&](Tzu_string_adp* a) { saved = zu_xnode_save_file_w(root.get(), path, a); });
-    return saved;
-  });
+  return list != nullptr &&
+         telling(xml, [&](std::wstring& reason) { return save(path, list, reason); });
 }
-
 bool zu_xml_data_load_clr_palettes(Tzu_xml_save_2d* xml, const wchar_t* path,
                                    Tzu_clr_palettes* list) {
-  if (list == nullptr) return false;
-  return guarded(xml, false, [&](Tzu_xml_save_2d& x) {
-    x.reason = load(path, list);
-    return x.reason.empty();
-  });
+  return list != nullptr &&
+         telling(xml, [&](std::wstring& reason) { return load(path, list, reason); });
 }
 
 Tzu_clr_palettes* zu_get_user_palettes() {

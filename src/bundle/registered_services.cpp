@@ -1,10 +1,13 @@
 // Everything that this bundle offers, in the order in which the host meets it; the localizer client
 // goes to the head by itself. The objects are constructed while the module loads.
 
+#include <cwchar>
+
 #include "src/bundle/dialogs.h"
 #include "src/bundle/localizer_client.h"
 #include "src/bundle/modal_dialog.h"
 #include "src/bundle/service_factory.h"
+#include "src/layer/editors/layer_editors.h"
 #include "src/layer/grid2d_objinfo_service.h"
 #include "src/layer/grid_layer2d.h"
 #include "src/layer/layer_services.h"
@@ -12,6 +15,11 @@
 #include "src/render/tos4_lr2d_render_services.h"
 #include "src/sources/scene_editor_services.h"
 #include "src/sources/segy_params.h"
+#include "src/style/classes/range_scale_dialog.h"
+#include "src/style/classes/value_scale_dialog.h"
+#include "src/style/dialogs/style_dialogs.h"
+#include "src/style/pickers/figure_dialog.h"
+#include "zu/platform/zuk_basic.h"
 
 namespace zu {
 namespace {
@@ -22,7 +30,15 @@ using factory = util::single_service_factory<service, interface, visitor>;
 template <class service>
 using render_factory = factory<service, layer_2d_renderer_extension_service_impl,
                                layer_2d_renderer_extension_service_visitor_impl>;
+template <class service>
+using editor_factory = factory<service, layer_2d_editor_extension_service_impl,
+                               layer_2d_editor_extension_service_visitor_impl>;
 using vacant = util::vacant_service_factory;
+
+/// The only host in which layers of nodes with coordinates are edited by this bundle.
+bool host_is_zumiraqt() {
+  return std::wcsstr(zu_options_get_main_module_path(), L"zumiraqt") != nullptr;
+}
 
 constexpr wchar_t scene_2d[] = ZU_NAMESPACE(L"/scene/2d");
 constexpr wchar_t layer_2d_path[] = ZU_NAMESPACE(L"/layer/2d");
@@ -45,17 +61,18 @@ factory<toolkit::layer2d_externalization_service<grid_layer2d, c_grid_lr2d, c_gr
 factory<toolkit::layer2d_render_service<grid_layer2d, c_grid_lr2d>,
         layer_2d_renderer_extension_service_impl, layer_2d_renderer_extension_service_visitor_impl>
     grid_render_service(none);
-vacant grid_layer2d_editor(layer_2d_path);
-vacant grid_layer2d_hillshade(layer_2d_path);
-vacant grid_layer2d_isoline(layer_2d_path);
+editor_factory<grid_layer2d_editor> grid_editor_service(layer_2d_path);
+editor_factory<grid_layer2d_hillshade> grid_hillshade_service(layer_2d_path);
+editor_factory<grid_layer2d_isoline> grid_isoline_service(layer_2d_path);
 factory<grid2d_objinfo_service, objinfo_service_impl, objinfo_service_visitor_impl>
     grid_objinfo_service(none);
 vacant grid2d_tools_service(tool);
 vacant grid2d_table_view_service(none);
 render_factory<rastr_lr2d_render_service> raster_render_service(none);
 dialog_factory<dialog::segy_params> segy_params;
-vacant tos4_coord_xy_layer2d_editor(layer_2d_path);
-vacant tos4_grid1d_layer2d_editor(layer_2d_path);
+editor_factory<tos4_coord_xy_layer2d_editor> tos_coord_editor_service(layer_2d_path,
+                                                                      host_is_zumiraqt());
+editor_factory<tos4_grid1d_layer2d_editor> tos_profile_editor_service(layer_2d_path);
 render_factory<tos4_grid1d_lr2d_render_service> tos_profile_render_service(none);
 render_factory<tos4_grid2d_lr2d_render_service> tos_grid_render_service(none);
 render_factory<tos4_grid3d_lr2d_render_service> tos_slice_render_service(none);

@@ -80,13 +80,16 @@ template <class T> class service_factory : public custom_service_factory_impl {
 /// The factory of a service with one interface.
 template <class T, class I_impl, class I_visitor>
 class single_service_factory : public service_factory<T> {
+  using typename service_factory<T>::holders;
+
  public:
-  explicit single_service_factory(const wchar_t* name_space)
-      : service_factory<T>(name_space, one_holder()) {}
+  /// Unless it is offered, the host meets the factory and is delivered nothing.
+  explicit single_service_factory(const wchar_t* name_space, bool offered = true)
+      : service_factory<T>(name_space, offered ? one_holder() : holders()) {}
 
  private:
-  static typename service_factory<T>::holders one_holder() {
-    typename service_factory<T>::holders all;
+  static holders one_holder() {
+    holders all;
     all.push_back(std::make_unique<detail::ref_service_holder<T, of<I_impl>, I_impl, I_visitor>>());
     return all;
   }

@@ -161,7 +161,10 @@ class tools_visitor {
   }
   /// Adds a tool, which must outlive the tool bar; the id is the host's key to it.
   template <class T> tools_visitor& tool(const wchar_t* id, T& added) {
-    take(id, handle_of_element(added));
+    return tool(id, handle_of_element(added));
+  }
+  tools_visitor& tool(const wchar_t* id, handle added) {
+    take(id, added);
     return *this;
   }
 

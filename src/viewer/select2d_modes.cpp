@@ -100,9 +100,9 @@ void vertex_select2d_mode::abandon() { zu_pv_d2_clear(vertices_); }
 polygon_select2d_mode::polygon_select2d_mode(std::int32_t remove, Tzu_viewer* viewer)
     : vertex_select2d_mode(remove, viewer) {
   constexpr std::uint8_t light = 200, opaque = 0;
-  zu_bpgn_style_set_color(style_.get(), zu_clr_init_rgba(red, green, blue, light));
-  zu_bpln_style_set_color(zu_pgn_style_get_bpln_ptr(style_.get()),
-                          zu_clr_init_rgba(red, green, blue, opaque));
+  zu_bpgn_style_set_color(zu_pgn_style_get_bpgn_style_ptr(style_.get()), {red, green, blue, light});
+  zu_bpln_style_set_color(zu_pgn_style_get_bpln_style_ptr(style_.get()),
+                          {red, green, blue, opaque});
 }
 
 void polygon_select2d_mode::add_vertex(point_2d point) {
@@ -127,8 +127,9 @@ void polygon_select2d_mode::draw(Izu_render* render) {
 polyline_select2d_mode::polyline_select2d_mode(std::int32_t remove, Tzu_viewer* viewer)
     : vertex_select2d_mode(remove, viewer) {
   constexpr double width = 0.4;
-  zu_bpln_style_set_color(style_.get(), zu_clr_init_rgba(red, green, blue, 0));
-  zu_bpln_style_set_width(style_.get(), width);
+  Tzu_bpln_style* line = zu_pln_style_get_bpln_style_ptr(style_.get());
+  zu_bpln_style_set_color(line, {red, green, blue, 0});
+  zu_bpln_style_set_width(line, width);
 }
 
 void polyline_select2d_mode::add_vertex(point_2d point) {

@@ -32,6 +32,10 @@ ZU_API void zu_options_set_main_module_path(const wchar_t* path);
 ZU_API const wchar_t* zu_options_get_style_libs_path(void);
 /// Null or no text goes back to the folder above.
 ZU_API void zu_options_set_style_libs_path(const wchar_t* path);
+/// The folder of the style libraries that come with the program, one folder a language ("ru", "en")
+/// in it: ../share/zugrid/style_libs beside the program's folder. No text once the host has set a
+/// folder of its own above. Never null; the text lives until the next call.
+ZU_API const wchar_t* zu_options_get_own_style_libs_path(void);
 
 /// Whether a section that is opened gets its reduced copies at once, which reads all of it. Off
 /// until the host says otherwise.
@@ -145,9 +149,6 @@ ZU_API uint32_t zu_clr_init_rgba(uint8_t r, uint8_t g, uint8_t b, uint8_t a);
 #endif
 /// The colour of such a word.
 ZU_API Tzu_color zu_clr_init_int(uint32_t word);
-
-/// The middle between two numbers, without overflow.
-ZU_API double zu_halfway(double a, double b);
 
 // --- Lists
 

@@ -17,6 +17,9 @@ ZU_API void zu_dib_set_nxy(Tzu_dib* dib, uint64_t nx, uint64_t ny);
 ZU_API uint32_t* zu_dib_get_arr(Tzu_dib* dib);
 ZU_API uint64_t zu_dib_get_nx(const Tzu_dib* dib);
 ZU_API uint64_t zu_dib_get_ny(const Tzu_dib* dib);
+/// Makes pixels ready for a view: `a` becomes an opacity, 255 opaque, and the colours are mixed
+/// with it, rounded to the nearest. For bitmaps that are not drawn again.
+ZU_API void zu_dib_premultiply_alpha(Tzu_dib* dib);
 /// Bitmaps of this process that have pixels now, and how often pixels were taken: for tests.
 ZU_API uint64_t zu_dib_get_live_count(void);
 ZU_API uint64_t zu_dib_get_made_count(void);

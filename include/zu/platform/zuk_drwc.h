@@ -48,12 +48,25 @@ ZU_API void zu_drwc_set_clip_none(Tzu_drwc* drwc);
 /// Unlike a clip it has no soft edges, and `zu_drwc_set_clip_none` leaves it.
 ZU_API void zu_drwc_set_region(Tzu_drwc* drwc, const Tzu_box_d2* millimetres);
 
-/// Draws polylines given in millimetres. An invisible style, a width that is not above 0 and a
-/// wholly transparent colour draw nothing; a vertex that is not finite breaks its line. If the set
-/// carries a level and the style asks for it, lines longer than three times its number bear
-/// it where they are straight enough, upright, in a gap of the line, about once in 100 mm; no
-/// number leaves the page or the region or covers another one.
+/// Draws a symbol at each of `count` places given in millimetres, one after the other. The figure
+/// or the character stands with its middle at the place, moved by the style's offsets and turned
+/// about its own middle. An invisible style, a size that is not above 0 and a wholly transparent
+/// colour draw nothing; a place that is not finite is passed over. A complex style in use draws its
+/// layers in place of it, each at all places before the next.
+ZU_API void zu_drwc_draw_pnt(Tzu_drwc* drwc, uint64_t count, const double* x_mm, const double* y_mm,
+                             const Tzu_pnt_style* style);
+
+/// Draws polylines given in millimetres, then the symbols at their vertices, beginnings and ends. A
+/// part that is invisible, a width or size that is not above 0 and a wholly transparent colour draw
+/// nothing; a vertex that is not finite breaks its line. A closed line has neither beginning nor
+/// end. If the set carries a level and the style asks for it, lines longer than three times its
+/// number bear it where they are straight enough, upright, in a gap of the line, about once in 100
+/// mm; no number leaves the page or the region or covers another one.
 ZU_API void zu_drwc_draw_pln(Tzu_drwc* drwc, const Tzu_ov_d2* lines, const Tzu_pln_style* style);
+
+/// Fills a polygon given in millimetres (even-odd, rings closed or not), then draws its contour and
+/// the symbols at its vertices.
+ZU_API void zu_drwc_draw_pgn(Tzu_drwc* drwc, const Tzu_ov_d2* rings, const Tzu_pgn_style* style);
 
 /// Which point of a text lies at the given place: low is the base line, high the top of its
 /// capitals.
@@ -77,6 +90,11 @@ ZU_API void zu_drwc_draw_text_w(Tzu_drwc* drwc, double x_mm, double y_mm, double
 ZU_API double zu_drwc_text_size_w(const Tzu_drwc* drwc, double height_mm, const wchar_t* text);
 /// Fills a box over what is there; its sides are not rounded to pixels.
 ZU_API void zu_drwc_fill_box(Tzu_drwc* drwc, const Tzu_box_d2* millimetres, Tzu_color color);
+/// Names of the font families of this system, in the order of the alphabet, are added to the list.
+ZU_API void zu_fnt_type_list(Tzu_wstrings* names);
+/// Adds the characters that a font has itself, rising, without blanks and control characters. The
+/// font that stands in for one that is not installed gives its own.
+ZU_API void zu_fnt_type_list_characters(const Tzu_fnt_type* font, Tzu_ints* characters);
 
 /// Brackets what is drawn between them as a named object; objects nest, and an end with another
 /// name than that of the innermost open one has no effect. A PDF lists its objects in its outline,

@@ -3,6 +3,7 @@
 
 #include "zu/platform/zuk_drwc.h"
 #include "zu/platform/zuk_lr2d.h"
+#include "zu/platform/zuk_scn_2d.h"
 
 typedef struct Izu_render Izu_render;
 
@@ -29,8 +30,11 @@ ZU_API int32_t zu_render_get_plane(const Izu_render* render);
 /// Draws polylines given in render coordinates, as `zu_drwc_draw_pln` draws millimetres.
 ZU_API void zu_render_cr_pln(Izu_render* render, const Tzu_ov_d2* lines,
                              const Tzu_pln_style* style);
-/// Fills a polygon given in render coordinates (even-odd, rings closed or not) and draws its
-/// contour. A clip that is in force is lifted.
+/// Draws a symbol at each vertex of the lists, given in render coordinates, as `zu_drwc_draw_pnt`
+/// does.
+ZU_API void zu_render_cr_pnt(Izu_render* render, const Tzu_ov_d2* points,
+                             const Tzu_pnt_style* style);
+/// Draws a polygon given in render coordinates, as `zu_drwc_draw_pgn` draws millimetres.
 ZU_API void zu_render_cr_pgn(Izu_render* render, const Tzu_ov_d2* rings,
                              const Tzu_pgn_style* style);
 /// Draws the nodes of a layer of the type "tos_2crd_lr2d" as square points in the colours of its
@@ -38,3 +42,8 @@ ZU_API void zu_render_cr_pgn(Izu_render* render, const Tzu_ov_d2* rings,
 /// scene's colour of the selection, or their own. A layer of another type is left alone, and what
 /// cannot be read is not drawn.
 ZU_API void zu_tos_2crd_lr2d_draw(Izu_render* render, Izu_layer* layer);
+/// Draws a layer of the types of zuk_plot_lr2d.h; false, and nothing drawn, for another.
+ZU_API bool zu_plot_lr2d_draw(Izu_render* render, Izu_layer* layer);
+/// Draws the visible axes of a scene along the sides of the page, numbers at steps of 1, 2 or 5
+/// times a power of ten.
+ZU_API void zu_scn_2d_draw_axes(Izu_render* render, Tzu_scn_2d* scene);

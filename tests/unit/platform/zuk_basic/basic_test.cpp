@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "tests/unit/platform/taken_text.h"
+#include "zu/platform/zuk_palettes.h"
 
 namespace {
 

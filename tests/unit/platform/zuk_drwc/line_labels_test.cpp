@@ -5,6 +5,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "platform/zuk_styles/symbols.h"
 #include "tests/unit/platform/zuk_drwc/saved_document.h"
 
 namespace zu::platform {
@@ -121,8 +122,8 @@ void draw_level(const drwc_ptr& drwc, std::optional<double> level, bool label) {
   Tzu_pv_d2* list = zu_ov_d2_add(set.get());
   for (Tzu_vtx_d2 v : {Tzu_vtx_d2{10, 10}, {90, 10}}) zu_pv_d2_add_vtx(list, &v);
   if (level) zu_ov_d2_set_level(set.get(), *level);
-  Tzu_pln_style style{};
-  style.width = 0.2, style.visible = true, style.label = label;
+  Tzu_pln_style style;
+  style.line.width = 0.2, style.number_visible = label;
   zu_drwc_draw_pln(drwc.get(), set.get(), &style);
 }
 

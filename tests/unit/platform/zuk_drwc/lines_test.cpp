@@ -5,6 +5,7 @@
 #include <limits>
 #include <vector>
 
+#include "platform/zuk_styles/symbols.h"
 #include "tests/unit/platform/zuk_drwc/made_picture.h"
 
 namespace zu::test {
@@ -15,11 +16,10 @@ constexpr double infinity = std::numeric_limits<double>::infinity();
 using vertices = std::vector<Tzu_vtx_d2>;
 
 Tzu_pln_style black(double width) {
-  Tzu_pln_style style{};
-  style.width = width;
-  style.visible = true;
-  style.cap = zu_cap_butt;
-  style.join = zu_join_miter;
+  Tzu_pln_style style;
+  style.line.width = width;
+  style.line.cap = zu_cap_butt;
+  style.line.join = zu_join_miter;
   return style;
 }
 
@@ -96,13 +96,13 @@ TEST(lines, caps_end_at_the_vertex_or_half_a_width_beyond) {
   for (auto [cap, beyond] : {std::pair{zu_cap_butt, 0}, {zu_cap_square, 255}}) {
     drwc_ptr drwc = made_picture(side, side);
     Tzu_pln_style style = black(4);
-    style.cap = cap;
+    style.line.cap = cap;
     draw_line(drwc, {{10, 10}, {20, 10}}, style);
     EXPECT_EQ(row(drwc, 11, 19, 22), (opacities{255, beyond, beyond, 0})) << cap;
   }
   drwc_ptr drwc = made_picture(side, side);
   Tzu_pln_style style = black(8);
-  style.cap = zu_cap_round;
+  style.line.cap = zu_cap_round;
   draw_line(drwc, {{10, 10}, {20, 10}}, style);
   EXPECT_EQ(pixel(drwc, side, side, 23, 10).opacity > 200, true);
   EXPECT_EQ(pixel(drwc, side, side, 23, 13).opacity, 0);
@@ -117,7 +117,7 @@ TEST(lines, joins_fill_the_corner_or_cut_it) {
   for (const auto& r : rows) {
     drwc_ptr drwc = made_picture(side, side);
     Tzu_pln_style style = black(16);
-    style.join = r.join;
+    style.line.join = r.join;
     draw_line(drwc, {{4, 20}, {20, 20}, {20, 4}}, style);
     EXPECT_EQ(pixel(drwc, side, side, 27, 27).opacity > 128, r.corner) << r.join;
     EXPECT_EQ(pixel(drwc, side, side, 24, 24).opacity > 128, r.beside) << r.join;
@@ -134,7 +134,7 @@ TEST(lines, the_first_corner_of_a_ring_is_joined_like_the_others) {
 TEST(lines, dashes_are_on_and_off_in_millimetres) {
   drwc_ptr drwc = made_picture(side, side);
   Tzu_pln_style style = black(2);
-  style.dashes[0] = 3, style.dashes[1] = 2, style.dash_count = 2;
+  style.line.dashes = {3, 2};
   draw_line(drwc, {{5, 10}, {35, 10}}, style);
   EXPECT_EQ(row(drwc, 10, 4, 14), (opacities{0, 255, 255, 255, 0, 0, 255, 255, 255, 0, 0}));
 }
@@ -142,7 +142,7 @@ TEST(lines, dashes_are_on_and_off_in_millimetres) {
 TEST(lines, dashes_keep_their_places_where_a_line_enters_the_page) {
   drwc_ptr whole = made_picture(side, side), entering = made_picture(side, side);
   Tzu_pln_style style = black(2);
-  style.dashes[0] = 3, style.dashes[1] = 4, style.dash_count = 2;
+  style.line.dashes = {3, 4};
   draw_line(whole, {{0, 10}, {40, 10}}, style);
   draw_line(entering, {{-70000, 10}, {40, 10}}, style);
   EXPECT_EQ(row(whole, 10, 0, 39), row(entering, 10, 0, 39));
@@ -152,7 +152,7 @@ TEST(lines, dashes_that_make_no_pattern_are_a_solid_line) {
   for (double bad : {-1.0, 0.0, std::nan(""), infinity, 1e-9}) {
     drwc_ptr drwc = made_picture(side, side);
     Tzu_pln_style style = black(2);
-    style.dashes[0] = style.dashes[1] = bad, style.dash_count = 2;
+    style.line.dashes = {bad, bad};
     draw_line(drwc, {{5, 10}, {9, 10}}, style);
     EXPECT_EQ(row(drwc, 10, 5, 8), (opacities{255, 255, 255, 255})) << bad;
   }
@@ -162,7 +162,7 @@ TEST(lines, a_colours_transparency_shows_what_is_below_and_crossings_are_not_dar
   drwc_ptr drwc = made_picture(side, side);
   zu_drwc_fill(drwc.get(), {255, 255, 255, 0});
   Tzu_pln_style style = black(4);
-  style.color = {255, 0, 0, 128};
+  style.line.color = {255, 0, 0, 128};
   ov_ptr set(zu_ov_d2_create());
   for (vertices line : {vertices{{20, 0}, {20, 40}}, {{0, 20}, {40, 20}}}) {
     Tzu_pv_d2* list = zu_ov_d2_add(set.get());
@@ -179,8 +179,8 @@ TEST(lines, a_colours_transparency_shows_what_is_below_and_crossings_are_not_dar
 
 TEST(lines, what_has_nothing_to_show_draws_nothing) {
   Tzu_pln_style invisible = black(2), clear = black(2);
-  invisible.visible = false;
-  clear.color.a = 255;
+  invisible.line_visible = false;
+  clear.line.color.a = 255;
   for (const Tzu_pln_style& style : {invisible, clear, black(0), black(-1), black(std::nan(""))}) {
     drwc_ptr drwc = made_picture(side, side);
     draw_line(drwc, {{5, 10}, {35, 10}}, style);

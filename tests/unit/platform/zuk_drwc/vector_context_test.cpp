@@ -1,5 +1,6 @@
 #include <cmath>
 
+#include "platform/zuk_styles/symbols.h"
 #include "tests/unit/platform/zuk_drwc/saved_document.h"
 
 namespace zu::test {
@@ -19,9 +20,9 @@ void draw_cross(const drwc_ptr& drwc) {
     zu_pv_d2_add_vtx(list, &a);
     zu_pv_d2_add_vtx(list, &b);
   }
-  Tzu_pln_style style{};
-  style.width = 1, style.visible = true;
-  style.color = {255, 0, 0, 0};
+  Tzu_pln_style style;
+  style.line.width = 1;
+  style.line.color = {255, 0, 0, 0};
   zu_drwc_draw_pln(drwc.get(), set.get(), &style);
 }
 

@@ -6,6 +6,7 @@
 
 #include "platform/zuk_basic/owned.h"
 #include "platform/zuk_basic/text_of.h"
+#include "platform/zuk_styles/parameters.h"
 #include "zu/platform/zuk_io.h"
 #include "zu/platform/zuk_rtr_lr2d.h"
 #include "zu/platform/zuk_tos_lr2d.h"
@@ -94,7 +95,7 @@ TEST(layer_state, a_profile_comes_back_as_it_was) {
   zu_tos_grid_lr1d_set_affine_trnsf(layer.get(), &affine);
   zu_stl_prm_get_pln_style_ptr(zu_stl_mngr_get_simple_sp_ptr(zu_lr_get_style_mngr_ptr(layer.get())),
                                0)
-      ->width = 2.5;
+      ->line.width = 2.5;
 
   layer_ptr read = reread("tos_grid_lr1d", layer.get());
   EXPECT_EQ(
@@ -107,7 +108,7 @@ TEST(layer_state, a_profile_comes_back_as_it_was) {
   EXPECT_EQ(got->dy, 4);
   EXPECT_EQ(got->angle, 1e-5);
   Tzu_stl_prm* simple = zu_stl_mngr_get_simple_sp_ptr(zu_lr_get_style_mngr_ptr(read.get()));
-  EXPECT_EQ(zu_stl_prm_get_pln_style_ptr(simple, 0)->width, 2.5);
+  EXPECT_EQ(zu_stl_prm_get_pln_style_ptr(simple, 0)->line.width, 2.5);
 }
 
 TEST(layer_state, what_an_empty_tree_does_not_say_stays) {

@@ -10,6 +10,7 @@
 #include "platform/zuk_basic/owned.h"
 #include "platform/zuk_basic/text_of.h"
 #include "platform/zuk_basic/utf8.h"
+#include "platform/zuk_styles/symbols.h"
 #include "zu/platform/zuk_rtr_lr2d.h"
 #include "zu/platform/zuk_tos_lr2d.h"
 
@@ -166,11 +167,10 @@ TEST(scene_selection, keeps_the_line_of_the_selection) {
   owned<zu_scn_2d_destroy> scene(zu_scn_2d_create());
   EXPECT_EQ(zu_scn_2d_get_selected_style_pln(scene.get()), nullptr);
   Tzu_pln_style line;
-  zu_pln_style_init(&line);
-  line.width = 3;
+  line.line.width = 3;
   zu_scn_2d_set_selected_style_pln(scene.get(), &line);
   ASSERT_NE(zu_scn_2d_get_selected_style_pln(scene.get()), nullptr);
-  EXPECT_EQ(zu_scn_2d_get_selected_style_pln(scene.get())->width, 3);
+  EXPECT_EQ(zu_scn_2d_get_selected_style_pln(scene.get())->line.width, 3);
   zu_scn_2d_set_selected_style_pln(scene.get(), nullptr);
   EXPECT_EQ(zu_scn_2d_get_selected_style_pln(scene.get()), nullptr);
 }

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/zuk_styles/symbols.h"
 #include "zu/platform/zuk_render.h"
 
 namespace {
@@ -64,8 +65,8 @@ TEST_F(render, draws_lines_given_in_its_own_coordinates_and_leaves_them_as_they_
   Tzu_ov_d2* set = zu_ov_d2_create();
   Tzu_pv_d2* line = zu_ov_d2_add(set);
   for (Tzu_vtx_d2 v : {Tzu_vtx_d2{1020, 2020}, {1100, 2020}}) zu_pv_d2_add_vtx(line, &v);
-  Tzu_pln_style style{};
-  style.width = 2, style.visible = true;
+  Tzu_pln_style style;
+  style.line.width = 2, style.line.cap = zu_cap_butt;
   zu_render_cr_pln(render_, set, &style);
   EXPECT_EQ(zu_pv_d2_get_arr(line)[1].x, 1100);
   zu_ov_d2_destroy(set);
@@ -91,8 +92,8 @@ TEST_F(render, fills_a_polygon_and_its_hole_stays_empty) {
   ring(1020, 2020, 1100, 2080);
   ring(1040, 2040, 1060, 2060);
   Tzu_pgn_style* style = zu_pgn_style_create();
-  zu_bpgn_style_set_color(style, zu_clr_init_rgba(10, 20, 30, 0));
-  zu_pgn_style_get_bpln_ptr(style)->visible = false;
+  zu_bpgn_style_set_color(zu_pgn_style_get_bpgn_style_ptr(style), {10, 20, 30, 0});
+  zu_pgn_style_set_pln_visible(style, false);
   zu_render_cr_pgn(render_, set, style);
   zu_pgn_style_destroy(style);
   zu_ov_d2_destroy(set);

@@ -101,7 +101,8 @@ TEST(color_arrays, begin_and_end_with_their_first_and_last_colour) {
     Tzu_color colors[2] = {};
     ASSERT_TRUE(zu_clr_arrays_generate_ex(id, 2, colors, 0));
     EXPECT_EQ(word(colors[0]), word(stored.front())) << id;
-    EXPECT_EQ(word(colors[1]), word(stored.back())) << id;
+    bool goes_round = std::string(zu_clr_arrays_get_name(id)) == "hue_circle";
+    EXPECT_EQ(word(colors[1]), word(goes_round ? stored.front() : stored.back())) << id;
     Tzu_color one{0, 0, 0, 9};
     ASSERT_TRUE(zu_clr_arrays_generate_ex(id, 1, &one, 0));
     EXPECT_EQ(one.g, stored.front().g) << id;
@@ -194,9 +195,9 @@ TEST(color_arrays, turn_by_turn_are_the_stored_ones_from_the_first_again) {
 }
 
 /// Those that tools offer as a row of single colours.
-constexpr const char* palettes[] = {"mineral",       "fresh",   "calm",          "red",
-                                    "orange_yellow", "green",   "turquoise",     "blue",
-                                    "violet",        "rainbow", "gentle_rainbow"};
+constexpr const char* palettes[] = {"mineral",       "fresh",   "calm",           "red",
+                                    "orange_yellow", "green",   "turquoise",      "blue",
+                                    "violet",        "rainbow", "gentle_rainbow", "hue_circle"};
 
 TEST(color_arrays, offered_as_palettes_have_neighbours_that_differ) {
   for (const char* name : palettes) {

@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/zuk_styles/parameters.h"
 #include "platform/zuk_xml_data/nodes.h"
 #include "tests/unit/platform/taken_text.h"
 #include "zu/platform/zuk_xml_data.h"
@@ -47,18 +48,17 @@ class style_maker {
   }
   Tzu_pln_style line() {
     Tzu_pln_style made;
-    zu_pln_style_init(&made);
-    made.width = length();
-    made.dash_count = below(zu_line_dashes + 1);
-    for (int i = 0; i < made.dash_count; ++i) made.dashes[i] = length();
-    made.cap = below(3), made.join = below(3);
-    made.color = color();
-    made.visible = flag(), made.label = flag();
+    made.line.width = length();
+    made.line.dashes.resize(static_cast<std::size_t>(below(zu_line_dashes + 1)));
+    for (double& each : made.line.dashes) each = length();
+    made.line.cap = below(3), made.line.join = below(3);
+    made.line.color = color();
+    made.line_visible = flag(), made.number_visible = flag();
     return made;
   }
   void fill(Tzu_stl_prm* style) {
     for (int i = 0; i < 2; ++i) style->colors[i] = color();
-    for (int i = 0; with_lines_ && i < 2; ++i) style->lines[i] = line();
+    for (int i = 0; with_lines_ && i < 2; ++i) *zu_stl_prm_get_pln_style_ptr(style, i) = line();
   }
   void fill(Tzu_scale_prm* row) {
     row->visible = flag();
@@ -177,15 +177,17 @@ class facts {
     for (int each : {c.r, c.g, c.b, c.a}) add(each);
   }
   void add(const Tzu_pln_style& line) {
-    for (double each : {line.width, line.cap + 0.0, line.join + 0.0, line.dash_count + 0.0,
-                        line.visible + 0.0, line.label + 0.0})
+    for (double each : {line.line.width, line.line.cap + 0.0, line.line.join + 0.0,
+                        line.line_visible + 0.0, line.number_visible + 0.0})
       add(each);
-    for (int i = 0; i < line.dash_count; ++i) add(line.dashes[i]);
-    add(line.color);
+    add(static_cast<double>(line.line.dashes.size()));
+    for (double each : line.line.dashes) add(each);
+    add(line.line.color);
   }
   void add(const Tzu_stl_prm& style) {
     for (int i = 0; i < 2; ++i) add(style.colors[i]);
-    for (int i = 0; i < 2; ++i) add(style.lines[i]);
+    zu::platform::style_parameters copy(style);  // of which lines may be made
+    for (int i = 0; i < 2; ++i) add(*zu_stl_prm_get_pln_style_ptr(&copy, i));
   }
   void add(const Tzu_scale_prm* row) {
     add(row->visible);

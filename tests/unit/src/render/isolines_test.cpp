@@ -46,12 +46,11 @@ class isoline_pass : public testing::TestWithParam<bool> {
     zu_isoline_style_set_use(style.get(), true);
     zu_isoline_style_set_propname(style.get(), L"east");
     steps(20, 1000);
-    Tzu_pln_style line;
-    zu_pln_style_init(&line);
-    line.color = red;
-    zu_isoline_style_set_thin_style(style.get(), &line);
-    line.color = blue;
-    zu_isoline_style_set_bold_style(style.get(), &line);
+    owned<zu_pln_style_destroy> line(zu_pln_style_create());
+    zu_bpln_style_set_color(zu_pln_style_get_bpln_style_ptr(line.get()), red);
+    zu_isoline_style_set_thin_style(style.get(), line.get());
+    zu_bpln_style_set_color(zu_pln_style_get_bpln_style_ptr(line.get()), blue);
+    zu_isoline_style_set_bold_style(style.get(), line.get());
     params.isoline_style = style.get();
     params.stl_mngr = manager.get();
   }

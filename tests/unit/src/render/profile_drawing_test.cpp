@@ -20,19 +20,21 @@ using tests::rgba;
 constexpr rgba nothing{0, 0, 0, 0};
 constexpr rgba line{200, 0, 0, 255}, selected_line{0, 0, 200, 255}, scene_line{0, 200, 0, 255};
 
-Tzu_pln_style line_of(const rgba& c) {
-  Tzu_pln_style style;
-  zu_pln_style_init(&style);
-  style.width = 1.0;
-  style.color = {static_cast<std::uint8_t>(c[0]), static_cast<std::uint8_t>(c[1]),
-                 static_cast<std::uint8_t>(c[2]), 0};
+using owned_line = owned<zu_pln_style_destroy>;
+
+owned_line line_of(const rgba& c) {
+  owned_line style(zu_pln_style_create());
+  Tzu_bpln_style* line = zu_pln_style_get_bpln_style_ptr(style.get());
+  zu_bpln_style_set_width(line, 1.0);
+  zu_bpln_style_set_color(line, {static_cast<std::uint8_t>(c[0]), static_cast<std::uint8_t>(c[1]),
+                                 static_cast<std::uint8_t>(c[2]), 0});
   return style;
 }
 
 void style(Tzu_stl_prm* prm) {
-  Tzu_pln_style normal = line_of(line), selected = line_of(selected_line);
-  zu_pln_style_assign(zu_stl_prm_get_pln_style_ptr(prm, 0), &normal);
-  zu_pln_style_assign(zu_stl_prm_get_pln_style_ptr(prm, 1), &selected);
+  owned_line normal = line_of(line), selected = line_of(selected_line);
+  zu_pln_style_assign(zu_stl_prm_get_pln_style_ptr(prm, 0), normal.get());
+  zu_pln_style_assign(zu_stl_prm_get_pln_style_ptr(prm, 1), selected.get());
 }
 
 /// Forty samples, at x = 0.5 to 39.5; one level curve a band, at these heights.
@@ -93,8 +95,9 @@ TEST(profile, by_values_a_band_has_the_class_of_its_name_and_else_the_other_one)
     style(zu_scale_prm_get_stl_prm_ptr(zu_val_scale_get_scale_prm_ptr(scale, i)));
   zu_scale_prm_set_visible(zu_val_scale_get_scale_prm_ptr(scale, 1), false);
   Tzu_scale_prm* other = zu_val_scale_get_other_prm_ptr(scale);
-  Tzu_pln_style green = line_of({0, 99, 0, 255});
-  zu_pln_style_assign(zu_stl_prm_get_pln_style_ptr(zu_scale_prm_get_stl_prm_ptr(other), 0), &green);
+  owned_line green = line_of({0, 99, 0, 255});
+  zu_pln_style_assign(zu_stl_prm_get_pln_style_ptr(zu_scale_prm_get_stl_prm_ptr(other), 0),
+                      green.get());
   for (bool visible : {true, false}) {
     zu_scale_prm_set_visible(other, visible);
     page shown = b.drawn();
@@ -122,8 +125,8 @@ TEST(profile, selected_samples_show_in_the_scenes_line_or_in_their_own) {
                      {false, true, selected_line}};
   for (const auto& c : cases) {
     profile_bench b(curves("profile_selected.tif", {10.5}));
-    Tzu_pln_style of_scene = line_of(scene_line);
-    if (c.of_scene) zu_scn_2d_set_selected_style_pln(b.scene.get(), &of_scene);
+    owned_line of_scene = line_of(scene_line);
+    if (c.of_scene) zu_scn_2d_set_selected_style_pln(b.scene.get(), of_scene.get());
     zu_lr_set_own_selected_style_flag(b.layer.get(), c.own);
     b.select({18, 19, 20, 21, 22});
     page shown = b.drawn();

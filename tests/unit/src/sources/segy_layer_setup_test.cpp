@@ -9,6 +9,7 @@
 #include "src/data/ui_monitor.h"
 #include "src/layer/grid_layer2d.h"
 #include "tests/unit/platform/zuk_file_segy/made_section.h"
+#include "zu/platform/zuk_palettes.h"
 #include "zu/platform/zuk_scn_2d.h"
 
 namespace {

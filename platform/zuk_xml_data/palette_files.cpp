@@ -104,12 +104,12 @@ std::wstring user_file() {
 bool zu_xml_data_save_clr_palettes(Tzu_xml_save_2d* xml, const wchar_t* path,
                                    const Tzu_clr_palettes* list) {
   return list != nullptr &&
-         telling(xml, [&](std::wstring& reason) { return save(path, list, reason); });
+         zu::platform::telling(xml, [&](std::wstring& reason) { return save(path, list, reason); });
 }
 bool zu_xml_data_load_clr_palettes(Tzu_xml_save_2d* xml, const wchar_t* path,
                                    Tzu_clr_palettes* list) {
   return list != nullptr &&
-         telling(xml, [&](std::wstring& reason) { return load(path, list, reason); });
+         zu::platform::telling(xml, [&](std::wstring& reason) { return load(path, list, reason); });
 }
 
 Tzu_clr_palettes* zu_get_user_palettes() {

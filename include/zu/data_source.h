@@ -74,7 +74,8 @@ struct histogram_visitor_impl : plain_interface<histogram_visitor_impl> {
 };
 using histogram_visitor = of<histogram_visitor_impl>;
 
-/// Statistics that a source keeps of itself; false where it would have to read for them.
+/// Statistics that a source keeps of itself; false where it would have to read for them. For its
+/// histogram alone it reads if need be.
 struct stat_source_impl : plain_interface<stat_source_impl> {
   static constexpr char name[] = "zu_stat_source_interface_9";
   virtual bool minimum(std::int64_t /*field*/, double*) { return false; }

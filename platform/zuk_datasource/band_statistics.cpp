@@ -1,31 +1,17 @@
 #include "platform/zuk_datasource/band_statistics.h"
 
 #include <algorithm>
-#include <atomic>
 #include <cmath>
 #include <limits>
-#include <mutex>
-#include <thread>
 
-#include "platform/zuk_basic/utf8.h"
+#include "platform/zuk_datasource/band_scan.h"
 #include "platform/zuk_datasource/elements.h"
-#include "platform/zuk_datasource/gdal_messages.h"
-#include "zu/data_source.h"
-#include "zu/platform/zuk_basic.h"
 
 namespace zu::platform {
 
 namespace {
 
-constexpr double largest = std::numeric_limits<double>::max();
 constexpr double infinite = std::numeric_limits<double>::infinity();
-
-bool is_valid(double x, const valid_cells& valid) {
-  bool finite = std::fabs(x) <= largest;
-  if (!valid.has_nodata) return finite;
-  double scale = std::max(std::fabs(x), std::fabs(valid.nodata));
-  return finite & (std::fabs(x - valid.nodata) > std::max(1e-6, scale * 1e-5));
-}
 
 // Sums are taken about the first valid cell, so that no digits are lost where the mean is large,
 // and in four lanes that do not wait for each other.
@@ -58,63 +44,6 @@ partial_statistics run_of(const cell* cells, std::size_t count, const valid_cell
   }
   return {static_cast<std::uint64_t>(counted[0]), low[0], high[0], about + sum[0] / counted[0],
           std::max(0.0, squares[0] - sum[0] * sum[0] / counted[0])};
-}
-
-// One thread's way of reading the rows of blocks of a band.
-class block_row_scan {
- public:
-  block_row_scan(GDALRasterBand& band)
-      : band_(band), type_(element_type_of(band)), valid_(valid_cells_of(band)) {
-    band.GetBlockSize(&width_, &height_);
-    buffer_.resize(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_) *
-                   element_width(type_));
-  }
-  int rows() const { return (band_.GetYSize() - 1) / height_ + 1; }
-  bool complete() const { return complete_; }
-  bool any() const { return any_; }
-
-  partial_statistics read(int row) {
-    partial_statistics out;
-    for (int column = 0; std::int64_t(column) * width_ < band_.GetXSize(); ++column) {
-      int nx = std::min(width_, band_.GetXSize() - column * width_);
-      int ny = std::min(height_, band_.GetYSize() - row * height_);
-      if (!read_block(column, row, nx, ny)) {
-        complete_ = false;
-        continue;
-      }
-      any_ = true;
-      std::size_t pitch = static_cast<std::size_t>(width_) * element_width(type_);
-      auto across = static_cast<std::size_t>(nx), down = static_cast<std::size_t>(ny);
-      if (nx == width_) across *= down, down = 1;
-      for (std::size_t y = 0; y < down; ++y)
-        out.add(statistics_of_run(buffer_.data() + y * pitch, type_, across, valid_));
-    }
-    return out;
-  }
-
- private:
-  // Past the block cache: nothing of a whole grid will be wanted again soon.
-  bool read_block(int column, int row, int nx, int ny) {
-    if (!GDALDataTypeIsComplex(band_.GetRasterDataType()))
-      return band_.ReadBlock(column, row, buffer_.data()) == CE_None;
-    auto bytes = static_cast<GSpacing>(element_width(type_));
-    return band_.RasterIO(GF_Read, column * width_, row * height_, nx, ny, buffer_.data(), nx, ny,
-                          gdal_type_of(type_), bytes, bytes * width_, nullptr) == CE_None;
-  }
-
-  GDALRasterBand& band_;
-  std::int32_t type_;
-  valid_cells valid_;
-  int width_ = 0, height_ = 0;
-  std::vector<std::byte> buffer_;
-  bool complete_ = true, any_ = false;
-};
-
-// The dataset for a second thread; null where one thread does the work.
-dataset_ptr helper_of(open_dataset& dataset) {
-  std::string reason;
-  if (!dataset.read_only() || !EQUAL(dataset.gdal().GetDriverName(), "GTiff")) return nullptr;
-  return open_by_name(dataset.path(), true, reason);
 }
 
 }  // namespace
@@ -159,46 +88,15 @@ Tzu_field_stat summary(const partial_statistics& all, bool estimate) {
 
 bool exact_statistics(open_dataset& dataset, int band, const std::wstring& name,
                       bool (*progress)(double, void*), void* user, Tzu_field_stat& out) {
-  gdal_messages said;
-  GDALRasterBand& own_band = *dataset.gdal().GetRasterBand(band);
-  block_row_scan own(own_band);
-  std::vector<partial_statistics> parts(static_cast<std::size_t>(own.rows()));
-  std::atomic<int> next = 0;
-  std::atomic<bool> stopped = false, all_read = true, any = false;
-  auto work = [&](block_row_scan& scan, auto after_row) {
-    for (int row; !stopped && (row = next++) < own.rows(); after_row())
-      parts[static_cast<std::size_t>(row)] = scan.read(row);
-    if (!scan.complete()) all_read = false;
-    if (scan.any()) any = true;
+  GDALRasterBand& cells_of = *dataset.gdal().GetRasterBand(band);
+  const std::int32_t type = element_type_of(cells_of);
+  const valid_cells valid = valid_cells_of(cells_of);
+  // One sum a row, so that the result does not hang on which thread read what.
+  std::vector<partial_statistics> parts(static_cast<std::size_t>(block_rows(cells_of)));
+  auto take = [&](int row, int, const void* cells, std::size_t count) {
+    parts[static_cast<std::size_t>(row)].add(statistics_of_run(cells, type, count, valid));
   };
-  std::string helper_said;
-  std::jthread second;
-  dataset_ptr helper = own.rows() > 1 ? helper_of(dataset) : nullptr;
-  if (helper != nullptr)
-    second = std::jthread([&] {
-      gdal_messages heard;
-      try {
-        block_row_scan scan(*helper->gdal().GetRasterBand(band));
-        work(scan, [] {});
-        helper_said = heard.reason(dataset.path(), "");
-      } catch (...) {
-        stopped = true;
-      }
-    });
-  work(own, [&] {
-    double share = std::min(1.0, static_cast<double>(next) / own.rows());
-    if (progress != nullptr && !progress(share, user)) stopped = true;
-  });
-  if (second.joinable()) second.join();
-  if (stopped) return false;
-  if (!all_read) {
-    std::string cut = truncation_of(own_band, dataset.path());
-    std::string reason = "a tile cannot be read: " + said.reason(dataset.path(), helper_said);
-    bool lost = !cut.empty() || !any;
-    zu_problems_add(name.c_str(), lost ? zu_problem_read : zu_problem_part,
-                    from_utf8(cut.empty() ? reason : cut).c_str());
-    if (lost) return false;
-  }
+  if (!scan_band(dataset, band, name, progress, user, take)) return false;
   partial_statistics all;
   for (const partial_statistics& part : parts) all.add(part);
   out = summary(all, false);

@@ -1,8 +1,11 @@
 #pragma once
 // Minimum, maximum, mean and deviation of the valid cells of a band, in one pass.
 
+#include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <string>
 
 #include "platform/zuk_datasource/band_reader.h"
@@ -17,6 +20,13 @@ struct valid_cells {
   double nodata = 0;
 };
 valid_cells valid_cells_of(GDALRasterBand& band);
+
+inline bool is_valid(double x, const valid_cells& valid) {
+  bool finite = std::fabs(x) <= std::numeric_limits<double>::max();
+  if (!valid.has_nodata) return finite;
+  double scale = std::max(std::fabs(x), std::fabs(valid.nodata));
+  return finite & (std::fabs(x - valid.nodata) > std::max(1e-6, scale * 1e-5));
+}
 
 /// Moments of a part of the cells, about the part's own mean.
 struct partial_statistics {
@@ -34,8 +44,7 @@ partial_statistics statistics_of_run(const void* cells, std::int32_t type, std::
 /// What the parts add up to; all zero if nothing was valid.
 Tzu_field_stat summary(const partial_statistics& all, bool estimate);
 
-/// Reads every block of `band` (from 1) once. A second thread helps with a GeoTIFF. False if
-/// stopped, if the file is truncated or if no cell could be read.
+/// Of all cells of `band` (from 1). False as `scan_band`.
 bool exact_statistics(open_dataset& dataset, int band, const std::wstring& name,
                       bool (*progress)(double share, void* user), void* user, Tzu_field_stat& out);
 

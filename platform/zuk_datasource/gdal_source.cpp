@@ -11,6 +11,7 @@
 #include "platform/zuk_datasource/band_statistics.h"
 #include "platform/zuk_datasource/gdal_block.h"
 #include "platform/zuk_datasource/gdal_messages.h"
+#include "platform/zuk_datasource/histogram_counts.h"
 
 namespace zu::platform {
 
@@ -270,6 +271,18 @@ bool gdal_source::compute_stat(std::int64_t field, std::uint64_t most,
   bool sampled = most > 0 && reader.columns() * reader.rows() > most;
   if (sampled) return sample_statistics(reader, most, *out);
   return exact_statistics(*dataset_, static_cast<int>(field) + 1, name_, progress, user, *out);
+}
+
+bool gdal_source::histogram(std::int64_t field, histogram_visitor visitor) {
+  return visit_histogram(*this, field, visitor);
+}
+
+bool gdal_source::compute_histogram(std::int64_t field, std::uint64_t classes, double minimum,
+                                    double maximum, bool (*progress)(double, void*), void* user,
+                                    std::int64_t* counts) {
+  if (band(field) == nullptr || sample_type(field) == element_none) return false;
+  return exact_histogram(*dataset_, static_cast<int>(field) + 1, name_, {minimum, maximum, classes},
+                         progress, user, counts);
 }
 
 }  // namespace zu::platform

@@ -28,6 +28,7 @@ class gdal_source final : public polymorphic<data_source_impl>,
   bool maximum(std::int64_t field, double* out) override;
   bool mean(std::int64_t field, double* out) override;
   bool stddev(std::int64_t field, double* out) override;
+  bool histogram(std::int64_t field, histogram_visitor visitor) override;
 
   std::int32_t grid_type() override;
   bool sizes(std::int32_t* three) override;
@@ -53,6 +54,9 @@ class gdal_source final : public polymorphic<data_source_impl>,
   void part(std::uint32_t index, string_visitor name, string_visitor description) override;
   bool compute_stat(std::int64_t field, std::uint64_t most, bool (*progress)(double, void*),
                     void* user, Tzu_field_stat* out) override;
+  bool compute_histogram(std::int64_t field, std::uint64_t classes, double minimum, double maximum,
+                         bool (*progress)(double, void*), void* user,
+                         std::int64_t* counts) override;
 
  private:
   GDALRasterBand* band(std::int64_t field);  // null if there is none

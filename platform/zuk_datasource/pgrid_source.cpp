@@ -7,6 +7,7 @@
 #include "platform/zuk_basic/utf8.h"
 #include "platform/zuk_datasource/band_statistics.h"
 #include "platform/zuk_datasource/gdal_block.h"
+#include "platform/zuk_datasource/histogram_counts.h"
 #include "zu/platform/zuk_basic.h"
 #include "zu/platform/zuk_file_tos4.h"
 
@@ -269,6 +270,42 @@ bool pgrid_source::compute_stat(std::int64_t field, std::uint64_t most,
     rest.count *= static_cast<std::uint64_t>(missing);
     all.add(rest);
     *out = summary(all, level > 0);
+    return true;
+  } catch (const std::exception& failure) {
+    zu_problems_add(name_.c_str(), zu_problem_read, from_utf8(failure.what()).c_str());
+    return false;
+  }
+}
+
+bool pgrid_source::histogram(std::int64_t field, histogram_visitor visitor) {
+  return visit_histogram(*this, field, visitor);
+}
+
+bool pgrid_source::compute_histogram(std::int64_t field, std::uint64_t classes, double minimum,
+                                     double maximum, bool (*progress)(double, void*), void* user,
+                                     std::int64_t* counts) {
+  auto* found = property(field);
+  if (found == nullptr) return false;
+  valid_cells valid{found->has_nodata && std::isfinite(found->nodata),
+                    found->has_nodata ? found->nodata : 0};
+  try {
+    pgrid_file::reading state(*file_);
+    const tile_level& whole_grid = file_->plan().level(0);
+    std::int64_t missing = whole_grid.size[0] * whole_grid.size[1] * file_->head().size[2];
+    histogram_counts all({minimum, maximum, classes});
+    std::vector<std::byte> nothing = empty_sample(*found);
+    std::size_t pitch = static_cast<std::size_t>(file_->head().tile[0]) * nothing.size();
+    bool whole = file_->for_tiles(
+        static_cast<std::size_t>(field), 0, [&](const pgrid_file::seen_tile& tile) {
+          missing -= tile.nx * tile.ny;
+          for (std::int64_t y = 0; y < tile.ny; ++y)
+            all.add(tile.samples + static_cast<std::size_t>(y) * pitch, found->type,
+                    static_cast<std::size_t>(tile.nx), valid);
+          return progress == nullptr || progress(tile.share, user);
+        });
+    if (!whole) return false;
+    all.add_repeated(nothing.data(), found->type, missing, valid);
+    all.add_to(counts);
     return true;
   } catch (const std::exception& failure) {
     zu_problems_add(name_.c_str(), zu_problem_read, from_utf8(failure.what()).c_str());

@@ -28,6 +28,7 @@ class pgrid_source final : public polymorphic<data_source_impl>,
   bool maximum(std::int64_t field, double* out) override;
   bool mean(std::int64_t field, double* out) override;
   bool stddev(std::int64_t field, double* out) override;
+  bool histogram(std::int64_t field, histogram_visitor visitor) override;
 
   std::int32_t grid_type() override { return file_->head().type; }
   bool sizes(std::int32_t* three) override;
@@ -49,6 +50,9 @@ class pgrid_source final : public polymorphic<data_source_impl>,
   void georeference_text(string_visitor visitor) override;
   bool compute_stat(std::int64_t field, std::uint64_t most, bool (*progress)(double, void*),
                     void* user, Tzu_field_stat* out) override;
+  bool compute_histogram(std::int64_t field, std::uint64_t classes, double minimum, double maximum,
+                         bool (*progress)(double, void*), void* user,
+                         std::int64_t* counts) override;
 
  private:
   const grid_property* property(std::int64_t field);  // null if there is none

@@ -9,6 +9,7 @@
 #include "platform/zuk_datasource/cell_runs.h"
 #include "platform/zuk_datasource/elements.h"
 #include "platform/zuk_datasource/gdal_block.h"
+#include "platform/zuk_datasource/histogram_counts.h"
 
 namespace zu::platform {
 
@@ -282,6 +283,31 @@ bool segy_source::compute_stat(std::int64_t field, std::uint64_t most,
   }
   *out = summary(all, estimate);
   return all.count > 0;
+}
+
+bool segy_source::histogram(std::int64_t field, histogram_visitor visitor) {
+  return visit_histogram(*this, field, visitor);
+}
+
+bool segy_source::compute_histogram(std::int64_t field, std::uint64_t classes, double minimum,
+                                    double maximum, bool (*progress)(double, void*), void* user,
+                                    std::int64_t* counts) {
+  if (field != 0) return false;
+  segy_reader reader(file_, pyramid_, name_);
+  constexpr std::uint64_t at_once = 256;
+  std::uint64_t columns = reader.columns(), rows = reader.rows();
+  histogram_counts all({minimum, maximum, classes});
+  std::vector<std::byte> cells(std::min(at_once, columns) * rows * element_width(reader.type()));
+  for (std::uint64_t first = 0; first < columns; first += at_once) {
+    std::uint64_t count = std::min(at_once, columns - first);
+    grid_window window{static_cast<std::int64_t>(first), 0, count, rows, count, rows};
+    if (reader.read(window, cells.data(), reader.type(), 0, 0) != read_done) return false;
+    all.add(cells.data(), reader.type(), count * rows, {});
+    double share = static_cast<double>(first + count) / static_cast<double>(columns);
+    if (progress != nullptr && !progress(share, user)) return false;
+  }
+  all.add_to(counts);
+  return true;
 }
 
 }  // namespace zu::platform

@@ -54,6 +54,8 @@ class segy_source final : public polymorphic<data_source_impl>,
   void field_name(std::int64_t field, string_visitor visitor) override;
   bool find_field(const wchar_t* name, std::int64_t* index) override;
 
+  bool histogram(std::int64_t field, histogram_visitor visitor) override;
+
   std::int32_t grid_type() override;
   bool sizes(std::int32_t* three) override;
   bool matrix3x3(double* nine) override;
@@ -70,6 +72,9 @@ class segy_source final : public polymorphic<data_source_impl>,
   void georeference_text(string_visitor visitor) override;
   bool compute_stat(std::int64_t field, std::uint64_t most, bool (*progress)(double, void*),
                     void* user, Tzu_field_stat* out) override;
+  bool compute_histogram(std::int64_t field, std::uint64_t classes, double minimum, double maximum,
+                         bool (*progress)(double, void*), void* user,
+                         std::int64_t* counts) override;
 
  private:
   double lowest() const;  // y of row 0

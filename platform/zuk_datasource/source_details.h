@@ -21,11 +21,18 @@ struct source_details_impl : plain_interface<source_details_impl> {
                             void* /*user*/, Tzu_field_stat*) {
     return false;
   }
+  /// As zu_datasource_compute_histogram; adds to the counts.
+  virtual bool compute_histogram(std::int64_t /*field*/, std::uint64_t /*classes*/,
+                                 double /*minimum*/, double /*maximum*/, bool (*)(double, void*),
+                                 void* /*user*/, std::int64_t* /*counts*/) {
+    return false;
+  }
   using operations =
       in_order<&source_details_impl::field_info, &source_details_impl::driver,
                &source_details_impl::rows_run_south, &source_details_impl::georeference_text,
                &source_details_impl::georeference_file, &source_details_impl::part_count,
-               &source_details_impl::part, &source_details_impl::compute_stat>;
+               &source_details_impl::part, &source_details_impl::compute_stat,
+               &source_details_impl::compute_histogram>;
 };
 
 }  // namespace zu::platform

@@ -120,6 +120,17 @@ bool zu_datasource_compute_stat(Tzu_handle source, int64_t field, uint64_t most,
                                                   progress, user, out);
 }
 
+bool zu_datasource_compute_histogram(Tzu_handle source, int64_t field, uint64_t classes,
+                                     double minimum, double maximum,
+                                     bool (*progress)(double share, void* user), void* user,
+                                     int64_t* counts) {
+  constexpr uint64_t most = 1 << 24;
+  if (counts == nullptr || classes == 0 || classes > most || !(minimum <= maximum)) return false;
+  std::fill_n(counts, classes, 0);
+  return call<&source_details_impl::compute_histogram>(
+      cast<source_details_impl>(source), field, classes, minimum, maximum, progress, user, counts);
+}
+
 bool zu_datasource_write_pgrid_w(Tzu_handle source, const wchar_t* path,
                                  const Tzu_pgrid_options* options,
                                  bool (*progress)(double share, void* user), void* user) {

@@ -27,14 +27,29 @@ class number_set_visitor : public floatings_visitor_impl {
   std::set<double>& out_;
 };
 
+constexpr std::uint64_t histogram_classes = 256;
+
+void set_counts(Tzu_histogramm_data* out, std::uint64_t classes, const std::int64_t* counts) {
+  zu_histogramm_clear(out);
+  zu_histogramm_set_params(out, classes);
+  for (std::uint64_t i = 0; i < classes; ++i)
+    zu_histogramm_set(out, i, static_cast<double>(counts[i]));
+}
+
+/// Shows a share of the work in a progress window; false when the person stopped it.
+bool show_share(double share, void* progress) {
+  constexpr std::int64_t whole = 100;
+  auto* window = static_cast<Tzu_progress*>(progress);
+  if (window == nullptr) return true;
+  zu_progress_show64(window, static_cast<std::int64_t>(share * whole), whole);
+  return !zu_progress_get_stopped(window);
+}
+
 class histogram_filler : public histogram_visitor_impl {
  public:
   explicit histogram_filler(Tzu_histogramm_data* out) : out_(out) {}
   void visit(std::uint64_t classes, const std::int64_t* counts) override {
-    zu_histogramm_clear(out_);
-    zu_histogramm_set_params(out_, classes);
-    for (std::uint64_t i = 0; i < classes; ++i)
-      zu_histogramm_set(out_, i, static_cast<double>(counts[i]));
+    set_counts(out_, classes, counts);
   }
 
  private:
@@ -177,6 +192,11 @@ std::wstring generic_datasource::unique_field_name(const std::wstring& base) con
   return candidate;
 }
 
+bool generic_datasource::show(std::uint64_t done, std::uint64_t total) {
+  return progress_ == nullptr ||
+         show_share(static_cast<double>(done) / static_cast<double>(total), progress_);
+}
+
 field_statistics& generic_datasource::basic(std::int64_t field) {
   field_statistics& record = dictionary_[field];
   if (!record.basic_done) compute_basic_stat(field, record);
@@ -208,6 +228,18 @@ double generic_datasource::field_stddev(std::int64_t field) {
   return record.stddev;
 }
 
+bool generic_datasource::read_statistics(std::int64_t field, std::uint64_t most,
+                                         Tzu_progress* progress) {
+  Tzu_field_stat read = {};
+  if (!zu_datasource_compute_stat(source_, field, most, &show_share, progress, &read)) return false;
+  field_statistics& record = dictionary_[field];
+  record.minimum = read.minimum, record.maximum = read.maximum;
+  record.mean = read.mean, record.stddev = read.stddev;
+  record.count = read.count;
+  record.basic_done = record.stddev_done = true;
+  return true;
+}
+
 void generic_datasource::fill_stat(Tzu_stat* stat, std::int64_t field) {
   zu_stat_set_minimum(stat, field_minimum(field));
   zu_stat_set_maximum(stat, field_maximum(field));
@@ -223,7 +255,24 @@ bool generic_datasource::field_histogram(std::int64_t field, Tzu_histogramm_data
 
 void generic_datasource::fill_histogram(Tzu_stat* stat, std::int64_t field) {
   Tzu_histogramm_data* histogram = zu_stat_get_histogramm(stat, nullptr);
-  zu_stat_set_histogramm(stat, field_histogram(field, histogram));
+  bool given = field_histogram(field, histogram);
+  if (given) zu_histogramm_set_limits(histogram, field_minimum(field), field_maximum(field));
+  zu_stat_set_histogramm(stat, given);
+}
+
+bool generic_datasource::read_histogram(Tzu_stat* stat, std::int64_t field,
+                                        Tzu_progress* progress) {
+  std::vector<std::int64_t> counts(histogram_classes);
+  double minimum = field_minimum(field), maximum = field_maximum(field);
+  bool read = zu_datasource_compute_histogram(source_, field, counts.size(), minimum, maximum,
+                                              &show_share, progress, counts.data());
+  Tzu_histogramm_data* histogram = zu_stat_get_histogramm(stat, nullptr);
+  if (read) {
+    zu_histogramm_set_limits(histogram, minimum, maximum);
+    set_counts(histogram, counts.size(), counts.data());
+  }
+  zu_stat_set_histogramm(stat, read);
+  return read;
 }
 
 bool generic_datasource::field_unique_values(std::int64_t field, std::int64_t limit,

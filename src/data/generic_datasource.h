@@ -10,6 +10,7 @@
 
 #include "zu/data_source.h"
 #include "zu/platform/zuk_datasource.h"
+#include "zu/platform/zuk_msgs.h"
 #include "zu/platform/zuk_prg.h"
 #include "zu/platform/zuk_stat.h"
 
@@ -78,13 +79,27 @@ class generic_datasource {
   double field_mean(std::int64_t field);
   double field_stddev(std::int64_t field);
   std::uint64_t field_count(std::int64_t field);  ///< valid values
+  /// Has the platform read a field in one pass, so that the five above know it: all of it, or, if
+  /// it has more than `most` cells (0: no limit), a sample. The window of `progress`, which may be
+  /// null, shows it. False if it was stopped, or if the source is none of the platform's.
+  bool read_statistics(std::int64_t field, std::uint64_t most, Tzu_progress* progress);
   void fill_stat(Tzu_stat* stat, std::int64_t field);
   bool field_histogram(std::int64_t field, Tzu_histogramm_data* out);
+  /// With the field's limits; valid if the source gives one.
   void fill_histogram(Tzu_stat* stat, std::int64_t field);
+  /// The same in 256 classes by one pass of the platform's, with a window; false as above.
+  bool read_histogram(Tzu_stat* stat, std::int64_t field, Tzu_progress* progress);
   bool field_unique_values(std::int64_t field, std::int64_t limit, std::set<double>& out);
   bool field_unique_values(std::int64_t field, std::int64_t limit, std::vector<std::wstring>& out);
 
+  /// The window that shows how far a reading of all rows is, from now on; null is none. A reading
+  /// that a person stops there fails.
+  void show_in(Tzu_progress* progress) { progress_ = progress; }
+
  protected:
+  /// Shows a share of such a reading; false when the person stopped it.
+  bool show(std::uint64_t done, std::uint64_t total);
+
   data_source source_;
   stat_source stat_;
 
@@ -93,7 +108,27 @@ class generic_datasource {
   field_statistics& basic(std::int64_t field);
 
   bool owns_source_ = false;
+  Tzu_progress* progress_ = nullptr;
   std::map<std::int64_t, field_statistics> dictionary_;
+};
+
+/// A progress window for readings of a source, for the time of its life.
+class shown_reading {
+ public:
+  explicit shown_reading(generic_datasource& source)
+      : source_(source), progress_(zu_progress_create(1)) {
+    source_.show_in(progress_);
+  }
+  ~shown_reading() {
+    source_.show_in(nullptr);
+    zu_progress_destroy(progress_);
+  }
+  shown_reading(const shown_reading&) = delete;
+  shown_reading& operator=(const shown_reading&) = delete;
+
+ private:
+  generic_datasource& source_;
+  Tzu_progress* progress_;
 };
 
 /// A number as the texts of fields have it: "%.15lg", with a point in every locale.

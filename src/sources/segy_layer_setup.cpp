@@ -5,8 +5,7 @@
 #include "src/bundle/owned.h"
 #include "src/bundle/strings.h"
 #include "src/data/ui_monitor.h"
-#include "src/style/deviation_classes.h"
-#include "src/style/range_classes.h"
+#include "src/style/classes/builders.h"
 #include "zu/platform/zuk_os.h"
 #include "zu/platform/zuk_scn_2d.h"
 

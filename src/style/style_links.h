@@ -3,11 +3,22 @@
 
 #include <functional>
 
+#include "src/style/page/pixels.h"
 #include "src/style/style_kinds.h"
 #include "src/toolkit/buttons.h"
 
 namespace zu::style {
 namespace detail {
+
+/// Gives a view the sample of a style, so many pixels large; no call if it shows nothing.
+template <class kind>
+void visit_sample(typename kind::argument style, std::uint32_t width, std::uint32_t height,
+                  bitmap_visitor visitor) {
+  constexpr double dots_per_mm = 96 / 25.4;  // of an ordinary screen
+  owned<zu_dib_destroy> pixels(zu_dib_create());
+  if (kind::preview(style, width, height, dots_per_mm, pixels.get()))
+    visit_pixels(pixels.get(), visitor);
+}
 
 /// A style of its own and its sample.
 template <class kind> class style_sample : public toolkit::image {
@@ -24,7 +35,9 @@ template <class kind> class style_sample : public toolkit::image {
     if (accepted) redraw();
     return accepted;
   }
-  void picture(bitmap_visitor visitor) override;
+  void picture(bitmap_visitor visitor) override {
+    visit_sample<kind>(value(), width_, height_, visitor);
+  }
 
  private:
   typename kind::holder held_ = kind::create();

@@ -50,6 +50,16 @@ ZU_API bool zu_datasource_compute_stat(Tzu_handle source, int64_t field, uint64_
                                        bool (*progress)(double share, void* user), void* user,
                                        Tzu_field_stat* out);
 
+/// Counts the valid cells of a field in so many equal classes between the limits, both inclusive: a
+/// cell on a boundary belongs to the class above, on the last one to the class below. Equal limits
+/// put what lies on them into the first class. Reads all of the field; `progress` as above. False,
+/// and all counts 0, if stopped or nothing could be read, for limits that fall and for no classes
+/// or more than 16,777,216.
+ZU_API bool zu_datasource_compute_histogram(Tzu_handle source, int64_t field, uint64_t classes,
+                                            double minimum, double maximum,
+                                            bool (*progress)(double share, void* user), void* user,
+                                            int64_t* counts);
+
 /// What of a source goes into a grid file.
 typedef struct Tzu_pgrid_options {
   const int64_t* fields;  ///< in the order wanted; null: all

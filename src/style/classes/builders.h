@@ -92,7 +92,7 @@ void round_boundaries(Tzu_rng_scale* scale, std::int32_t digits);
 /// What captions of classes are made of.
 enum class caption_form { both = 1, minimum = 2, maximum = 3 };
 /// Captions of all rows from their boundaries, in the language in force; "other" keeps its own.
-/// The forms of one number leave the tails' captions too.
+/// The tails keep theirs in every form.
 void captions(Tzu_rng_scale* scale, caption_form form = caption_form::both);
 
 /// Spreads a numbered array of colours over lower tail, classes and upper tail; transparencies

@@ -257,10 +257,13 @@ TEST(statistics, fill_the_platforms_objects) {
   EXPECT_EQ(zu_stat_get_average(stat, &valid), 6);
   EXPECT_NEAR(zu_stat_get_stddev(stat, &valid), std::sqrt(2), 1e-12);
   data.fill_histogram(stat, 0);
+  EXPECT_TRUE(zu_stat_has_histogramm(stat));
   Tzu_histogramm_data* histogram = zu_stat_get_histogramm(stat, nullptr);
   ASSERT_EQ(zu_histogramm_get_size(histogram), 3u);
   EXPECT_EQ(zu_histogramm_get(histogram, 0), 3);
   EXPECT_EQ(zu_histogramm_get(histogram, 2), 7);
+  EXPECT_EQ(zu_histogramm_get_bnd_min(histogram, 0), 5);
+  EXPECT_EQ(zu_histogramm_get_bnd_max(histogram, 2), 7);
   zu_stat_destroy(stat);
   made_source without(1, 1);
   without.add(L"z", {1});

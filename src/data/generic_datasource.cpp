@@ -192,6 +192,11 @@ std::wstring generic_datasource::unique_field_name(const std::wstring& base) con
   return candidate;
 }
 
+bool generic_datasource::show(std::uint64_t done, std::uint64_t total) {
+  return progress_ == nullptr ||
+         show_share(static_cast<double>(done) / static_cast<double>(total), progress_);
+}
+
 field_statistics& generic_datasource::basic(std::int64_t field) {
   field_statistics& record = dictionary_[field];
   if (!record.basic_done) compute_basic_stat(field, record);

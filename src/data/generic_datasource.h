@@ -92,7 +92,14 @@ class generic_datasource {
   bool field_unique_values(std::int64_t field, std::int64_t limit, std::set<double>& out);
   bool field_unique_values(std::int64_t field, std::int64_t limit, std::vector<std::wstring>& out);
 
+  /// The window that shows how far a reading of all rows is, from now on; null is none. A reading
+  /// that a person stops there fails.
+  void show_in(Tzu_progress* progress) { progress_ = progress; }
+
  protected:
+  /// Shows a share of such a reading; false when the person stopped it.
+  bool show(std::uint64_t done, std::uint64_t total);
+
   data_source source_;
   stat_source stat_;
 
@@ -101,7 +108,27 @@ class generic_datasource {
   field_statistics& basic(std::int64_t field);
 
   bool owns_source_ = false;
+  Tzu_progress* progress_ = nullptr;
   std::map<std::int64_t, field_statistics> dictionary_;
+};
+
+/// A progress window for readings of a source, for the time of its life.
+class shown_reading {
+ public:
+  explicit shown_reading(generic_datasource& source)
+      : source_(source), progress_(zu_progress_create(1)) {
+    source_.show_in(progress_);
+  }
+  ~shown_reading() {
+    source_.show_in(nullptr);
+    zu_progress_destroy(progress_);
+  }
+  shown_reading(const shown_reading&) = delete;
+  shown_reading& operator=(const shown_reading&) = delete;
+
+ private:
+  generic_datasource& source_;
+  Tzu_progress* progress_;
 };
 
 /// A number as the texts of fields have it: "%.15lg", with a point in every locale.

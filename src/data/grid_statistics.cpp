@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <iterator>
 #include <limits>
 #include <new>
@@ -14,8 +15,35 @@
 namespace zu::data {
 namespace {
 
+// Of a read, in place of the source's own results.
+constexpr std::int32_t read_stopped = 3;
+
 /// Doubles of one tile.
 using chunk_buffer = std::vector<double>;
+
+/// Numbers met not long ago, so that those of a field of few values are sought in a tree once.
+class recent_numbers {
+ public:
+  recent_numbers() : places_(std::size_t{1} << bits) {}
+  /// False for a number that surely came before.
+  bool is_new(double number) {
+    std::uint64_t word = 0;
+    std::memcpy(&word, &number, sizeof word);
+    // Knuth, The Art of Computer Programming 3, 6.4: multiplicative hashing.
+    place& at = places_[(word * 0x9E3779B97F4A7C15U) >> (64 - bits)];
+    if (at.used && at.word == word) return false;
+    at = {word, true};
+    return true;
+  }
+
+ private:
+  static constexpr unsigned bits = 12;
+  struct place {
+    std::uint64_t word = 0;
+    bool used = false;
+  };
+  std::vector<place> places_;
+};
 
 /// Elements of a tile; 0 if the block gives none or they cannot be counted.
 std::uint64_t tile_elements(grid_block block, bool unit_without) {
@@ -38,7 +66,7 @@ bool allocate(chunk_buffer& buffer, std::uint64_t elements) {
 }  // namespace
 
 /// Reads a field linearly and calls `take(samples, count, test)` for each chunk until it says
-/// false. The result of the last read; nothing without a block, 2 without a buffer.
+/// false. The result of the last read; nothing without a block, 2 without a buffer, 3 if stopped.
 template <class function>
 std::optional<std::int32_t> grid_datasource::each_chunk(std::int64_t field, bool unit_tile_without,
                                                         const function& take) {
@@ -55,6 +83,7 @@ std::optional<std::int32_t> grid_datasource::each_chunk(std::int64_t field, bool
   for (std::uint64_t start = 0; start < total;) {
     std::uint64_t count = std::min<std::uint64_t>(buffer.size(), total - start);
     if (count == 0) return result;
+    if (!show(start, total)) return read_stopped;
     result = read_linear(*this, block.get(), start, count, buffer.data(), element_float64);
     if (result != 1 || !take(buffer.data(), count, test)) return result;
     start += count;
@@ -128,11 +157,12 @@ bool grid_datasource::field_value_texts(std::int64_t field, std::vector<std::wst
 
 bool grid_datasource::field_unique_numbers(std::int64_t field, std::int64_t limit,
                                            std::set<double>& out) {
+  recent_numbers seen;
   // The limit is looked at after a whole chunk only.
   auto result = each_chunk(
       field, true, [&](const double* samples, std::uint64_t count, const nodata_test& test) {
         for (std::uint64_t i = 0; i < count; ++i)
-          if (test.valid(samples[i])) out.insert(samples[i]);
+          if (seen.is_new(samples[i]) && test.valid(samples[i])) out.insert(samples[i]);
         return limit < 0 || out.size() < static_cast<std::uint64_t>(limit);
       });
   return result == 1;
@@ -167,14 +197,17 @@ bool grid_datasource::field_groups(const std::vector<std::int64_t>& fields, std:
     if (!allocate(r.samples, chunk)) return false;
   std::uint64_t total = static_cast<std::uint64_t>(grid[0]) * static_cast<std::uint64_t>(grid[1]) *
                         static_cast<std::uint64_t>(grid[2]);
+  recent_numbers seen;
   for (std::uint64_t start = 0; start < total; start += chunk) {
     std::uint64_t count = std::min(chunk, total - start);
+    if (!show(start, total)) return false;
     for (reader& r : readers)
       if (read_linear(*this, r.block.get(), start, count, r.samples.data(), element_float64) != 1)
         return false;
     for (std::uint64_t i = 0; i < count; ++i) {
-      if (!readers[0].test.valid(readers[0].samples[i])) continue;
-      auto [entry, is_new] = out.try_emplace(number_text(readers[0].samples[i]));
+      double number = readers[0].samples[i];
+      if (!seen.is_new(number) || !readers[0].test.valid(number)) continue;
+      auto [entry, is_new] = out.try_emplace(number_text(number));
       if (!is_new) continue;
       for (std::size_t other = 1; other < readers.size(); ++other)
         if (readers[other].test.valid(readers[other].samples[i]))

@@ -6,7 +6,6 @@
 #include "src/bundle/strings.h"
 #include "src/data/ui_monitor.h"
 #include "src/style/classes/builders.h"
-#include "src/style/range_classes.h"
 #include "zu/platform/zuk_os.h"
 #include "zu/platform/zuk_scn_2d.h"
 

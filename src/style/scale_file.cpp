@@ -1,12 +1,15 @@
 #include "src/style/scale_file.h"
 
 #include "src/bundle/strings.h"
-#include "src/style/range_classes.h"
+#include "src/style/classes/builders.h"
+#include "src/style/classes/scale_dialogs.h"
 #include "src/style/scale_traits.h"
 #include "zu/platform/zuk_os.h"
 
 namespace zu::style {
 namespace {
+
+constexpr std::int32_t first_colors = 5;  // from blue through white to red
 
 std::wstring place_of_user(const std::wstring& path, bool make) {
   return text_of([&](Tzu_string_adp* a) { zu_os_get_user_place_w(path.c_str(), make, a); });
@@ -49,7 +52,9 @@ bool set_up_range_scale(Tzu_stl_mngr* manager, const data::open_reference& sourc
     zu_stl_mngr_set_rng_prop_name_w(manager, field.c_str());  // the file's own may be another
     return true;
   }
-  if (!fill_range_scale(zu_stl_mngr_get_rng_scale_ptr(manager), source, field)) return false;
+  Tzu_rng_scale* scale = zu_stl_mngr_get_rng_scale_ptr(manager);
+  if (!fill_from_data(scale, source, field)) return false;
+  spread_colors(scale, first_colors);
   if (!path.empty() && !save_range_scale(path, manager))
     save_range_scale(place_of_user(path, true), manager);
   return true;

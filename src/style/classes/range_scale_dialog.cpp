@@ -1,0 +1,126 @@
+#include "src/style/classes/range_scale_dialog.h"
+
+#include <random>
+
+#include "src/style/classes/scale_dialogs.h"
+#include "src/toolkit/dialog.h"
+
+namespace zu {
+namespace dialog {
+namespace {
+
+constexpr std::int32_t no_statistic_text = 10439, statistic_text = 10440;
+constexpr std::uint32_t decimals = 6;
+
+std::vector<double> boundaries_of(const Tzu_rng_scale* scale) {
+  std::vector<double> all{zu_rng_scale_get_min_value(scale)};
+  for (std::uint64_t i = 0; i < zu_rng_scale_get_size(scale); ++i) {
+    all.push_back(zu_rng_scale_get_min(scale, i));
+    all.push_back(zu_rng_scale_get_max(scale, i));
+  }
+  all.push_back(zu_rng_scale_get_max_value(scale));
+  return all;
+}
+
+}  // namespace
+
+range_scale::range_scale(Tzu_rng_scale* scale, Tzu_stat* stat, const data::open_reference& source,
+                         const std::wstring& field)
+    : scale_(scale),
+      trial_(zu_stl_mngr_create("clr_mngr_style")),
+      quantiles_(known_,
+                 [this](Tzu_rng_scale* to, std::uint32_t count, style::class_limits limits,
+                        std::int32_t digits) {
+                   style::set_quantiles(
+                       to, {known_.histogram, count, limits.minimum, limits.maximum, digits});
+                 }),
+      natural_(known_,
+               [this](Tzu_rng_scale* to, std::uint32_t count, style::class_limits limits,
+                      std::int32_t digits) {
+                 style::set_natural_breaks(
+                     to, known_.source,
+                     {known_.field, count, limits.minimum, limits.maximum, digits}, &known_.seed);
+               }),
+      geometrical_(known_, [](Tzu_rng_scale* to, std::uint32_t count, style::class_limits limits,
+                              std::int32_t digits) {
+        style::set_geometrical(to, {count, limits.minimum, limits.maximum, digits});
+      }) {
+  known_.source = source, known_.field = field;
+  known_.seed = std::random_device()();  // of the preview and of the scale, which so agree
+  read_statistics(stat);
+  offer_methods();
+  for (style::detail::method_page* page : pages_) {
+    page->load(scale_);
+    page->on_change = [this] { show_preview(); };
+    stack_.place(*page);
+  }
+  choose(zu_rng_scale_get_rng_type(scale_));
+  method_.assign_value(type_);
+  method_.on_change = [this](std::int32_t type) { choose(type); };
+  buttons_.on_accept = [this] {
+    pages_[static_cast<std::size_t>(type_)]->build(scale_);
+    return true;
+  };
+  information_.place(minimum_).place(maximum_).place(mean_).place(deviation_);
+  information_.place(has_statistic_, 4);
+  information_.cells().set_column_stretch(1).set_column_stretch(3);
+  method_row_.place(method_).set_column_stretch(1);
+  root_.place(information_).place(method_row_).place(stack_).place(preview_).place(buttons_);
+  root_.set_row_stretch(3);
+}
+
+void range_scale::read_statistics(Tzu_stat* stat) {
+  auto known = [&](auto ask) {
+    bool valid = false;
+    double value = ask(stat, &valid);
+    return valid ? value : 0.0;
+  };
+  known_.minimum = known(&zu_stat_get_minimum), known_.maximum = known(&zu_stat_get_maximum);
+  known_.mean = known(&zu_stat_get_average), known_.deviation = known(&zu_stat_get_stddev);
+  bool valid = false;
+  Tzu_histogramm_data* histogram = zu_stat_get_histogramm(stat, &valid);
+  known_.histogram = valid ? histogram : nullptr;
+  auto show = [](toolkit::floating_output& output, double value) {
+    output.set_decimals(decimals);
+    output.assign(value);
+  };
+  show(minimum_, known_.minimum), show(maximum_, known_.maximum);
+  show(mean_, known_.mean), show(deviation_, known_.deviation);
+  has_statistic_.set_text(zu_stat_has_statistic(stat) ? statistic_text : no_statistic_text);
+}
+
+void range_scale::offer_methods() {
+  bool has_data = known_.source.opener != nullptr;
+  method_.add(10417, 0, zu_range_equal);
+  if (has_data) method_.add(10421, 0, zu_range_natural).add(10419, 0, zu_range_deviation);
+  method_.add(10420, 0, zu_range_logarithmic).add(10422, 0, zu_range_geometrical);
+  method_.add(10423, 0, zu_range_manual);
+}
+
+void range_scale::choose(std::int32_t type) {
+  bool known = type >= 0 && type < static_cast<std::int32_t>(methods);
+  type_ = known ? type : static_cast<std::int32_t>(zu_range_equal);
+  stack_.assign(static_cast<std::uint32_t>(type_));
+  show_preview();
+}
+
+void range_scale::show_preview() {
+  Tzu_rng_scale* trial = zu_stl_mngr_get_rng_scale_ptr(trial_.get());
+  zu_rng_scale_assign(trial, scale_);
+  pages_[static_cast<std::size_t>(type_)]->build(trial);
+  preview_.assign(known_.histogram, boundaries_of(trial));
+}
+
+}  // namespace dialog
+
+namespace style {
+
+bool run_range_scale_dialog(Tzu_rng_scale* scale, Tzu_stat* stat,
+                            const data::open_reference& source, const std::wstring& field) {
+  if (scale == nullptr || stat == nullptr) return false;
+  dialog::range_scale dialog(scale, stat, source, field);
+  return toolkit::run_dialog(dialog);
+}
+
+}  // namespace style
+}  // namespace zu

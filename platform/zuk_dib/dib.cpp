@@ -41,6 +41,18 @@ void zu_dib_set_nxy(Tzu_dib* dib, uint64_t nx, uint64_t ny) {
 uint32_t* zu_dib_get_arr(Tzu_dib* dib) { return dib != nullptr ? dib->pixels : nullptr; }
 uint64_t zu_dib_get_nx(const Tzu_dib* dib) { return dib != nullptr ? dib->nx : 0; }
 uint64_t zu_dib_get_ny(const Tzu_dib* dib) { return dib != nullptr ? dib->ny : 0; }
+void zu_dib_premultiply_alpha(Tzu_dib* dib) {
+  guarded(dib, [](Tzu_dib& d) {
+    if (d.pixels == nullptr) return;
+    constexpr uint32_t full = 255;
+    for (uint32_t* p = d.pixels; p != d.pixels + d.nx * d.ny; ++p) {
+      uint32_t opacity = full - (*p >> 24), mixed = opacity << 24;
+      for (int shift : {0, 8, 16})
+        mixed |= ((*p >> shift & full) * opacity + full / 2) / full << shift;
+      *p = mixed;
+    }
+  });
+}
 uint64_t zu_dib_get_live_count() { return live; }
 uint64_t zu_dib_get_made_count() { return made; }
 

@@ -5,8 +5,6 @@
 #include <utility>
 
 #include "platform/zuk_drwc/cut_ring.h"
-#include "platform/zuk_drwc/line_numbers.h"
-#include "platform/zuk_drwc/stroke.h"
 #include "platform/zuk_drwc/text_line.h"
 
 namespace zu::platform {
@@ -24,11 +22,6 @@ std::int64_t rounded(double pixels) {
 
 /// The pixel that holds the low side of a box narrower than a pixel.
 std::int64_t pixel_at(double side) { return static_cast<std::int64_t>(std::floor(side + hair)); }
-
-void set_color(cairo_t* cairo, Tzu_color color) {
-  cairo_set_source_rgba(cairo, color.r / 255.0, color.g / 255.0, color.b / 255.0,
-                        (255 - color.a) / 255.0);
-}
 
 }  // namespace
 
@@ -81,40 +74,16 @@ drawing_context::saved_state drawing_context::clipped_to(const pixel_box& box) {
   return saved;
 }
 
-void drawing_context::draw_lines(const Tzu_ov_d2& lines, const Tzu_pln_style& style) {
-  pixel_box box = region();
-  const Tzu_bpln_style& line = style.line;
-  if (!style.line_visible || !(line.width > 0) || line.color.a == 255 || box.is_empty()) return;
-  strokes drawn(line, per_mm_, 2 * (width_ + height_), !accurate_);
-  double margin = drawn.margin();
-  const Tzu_box_d2 near_the_page{-margin, -margin, width_ + margin, height_ + margin};
-  const Tzu_box_d2 shown{static_cast<double>(box.x0), height_ - static_cast<double>(box.y1),
-                         static_cast<double>(box.x1), height_ - static_cast<double>(box.y0)};
-  line_numbers numbers(cairo_.get(), per_mm_, shown, labels_, lines, style);
-  auto& set = const_cast<Tzu_ov_d2&>(lines);  // read only; the getters give what may be edited
-  std::vector<Tzu_vtx_d2> way;
-  for (std::uint64_t i = 0; i < zu_ov_d2_get_size(&set); ++i) {
-    Tzu_pv_d2* list = zu_ov_d2_get_pv_ptr(&set, i);
-    const Tzu_vtx_d2* vertices = zu_pv_d2_get_arr(list);
-    way.assign(vertices, vertices + zu_pv_d2_get_size(list));
-    for (Tzu_vtx_d2& v : way) v = {v.x * per_mm_, height_ - v.y * per_mm_};
-    for (const line_piece& piece : cut_line(way.data(), way.size(), near_the_page))
-      for (line_piece& part : numbers.parted(piece)) drawn.parts.push_back(std::move(part));
-  }
-  if (drawn.parts.empty()) return;
-  saved_state saved = clipped_to(line.color.a == 0 ? bled_region() : region());
-  stroke_lines(drawn);
-  numbers.draw();
-  inked();
+void drawing_context::set_color(Tzu_color color) {
+  cairo_set_source_rgba(cairo_.get(), color.r / 255.0, color.g / 255.0, color.b / 255.0,
+                        (255 - color.a) / 255.0);
 }
-
-void drawing_context::stroke_lines(const strokes& lines) { stroke(cairo_.get(), lines); }
 
 void drawing_context::fill_box(const Tzu_box_d2& mm, Tzu_color color) {
   Tzu_box_d2 all = page(), shown;
   if (color.a == 255 || !zu_box_d2_cross(&mm, &all, &shown)) return;
   saved_state saved = clipped_to(region());
-  set_color(cairo_.get(), color);
+  set_color(color);
   cairo_new_path(cairo_.get());
   cairo_rectangle(cairo_.get(), shown.x0 * per_mm_, height_ - shown.y1 * per_mm_,
                   (shown.x1 - shown.x0) * per_mm_, (shown.y1 - shown.y0) * per_mm_);
@@ -134,7 +103,7 @@ void drawing_context::draw_text(double x_mm, double y_mm, double height_mm, int 
   // Cairo counts pixels in 24 bits.
   if (std::abs(x) > far_off || std::abs(y) > far_off) return;
   saved_state saved = clipped_to(region());
-  set_color(cairo_.get(), color);
+  set_color(color);
   text.draw(x, y, 0);
   inked();
 }
@@ -143,23 +112,30 @@ double drawing_context::text_width(double height_mm, const std::string& utf8) co
   return text_line(cairo_.get(), utf8, height_mm * per_mm_).width() / per_mm_;
 }
 
-void drawing_context::set_clip(const Tzu_ov_d2* polygon) {
-  clear_clip();
-  auto* rings = const_cast<Tzu_ov_d2*>(polygon);  // read only; the getters give what may be edited
+void drawing_context::add_rings(const Tzu_ov_d2& polygon) {
+  auto* rings = const_cast<Tzu_ov_d2*>(&polygon);  // read only; the getters give what may be edited
   // Cairo keeps 24 bits of whole pixels: what lies far outside would come back on the other side.
   const Tzu_box_d2 near_the_page{-width_, -height_, 2 * width_, 2 * height_};
   cairo_new_path(cairo_.get());
   for (std::uint64_t i = 0; i < zu_ov_d2_get_size(rings); ++i) {
-    Tzu_pv_d2* list = zu_ov_d2_get_pv_ptr(rings, i);
-    const Tzu_vtx_d2* vertices = zu_pv_d2_get_arr(list);
-    std::vector<Tzu_vtx_d2> ring;
-    for (std::uint64_t k = 0; k < zu_pv_d2_get_size(list); ++k)
-      ring.push_back({vertices[k].x * per_mm_, height_ - vertices[k].y * per_mm_});
+    std::vector<Tzu_vtx_d2> ring = in_pixels(zu_ov_d2_get_pv_ptr(rings, i));
     for (const Tzu_vtx_d2& v : cut_ring(ring, near_the_page)) cairo_line_to(cairo_.get(), v.x, v.y);
     cairo_close_path(cairo_.get());
     cairo_new_sub_path(cairo_.get());
   }
   cairo_set_fill_rule(cairo_.get(), CAIRO_FILL_RULE_EVEN_ODD);
+}
+
+std::vector<Tzu_vtx_d2> drawing_context::in_pixels(Tzu_pv_d2* list) const {
+  const Tzu_vtx_d2* vertices = zu_pv_d2_get_arr(list);
+  std::vector<Tzu_vtx_d2> found(vertices, vertices + zu_pv_d2_get_size(list));
+  for (Tzu_vtx_d2& v : found) v = {v.x * per_mm_, height_ - v.y * per_mm_};
+  return found;
+}
+
+void drawing_context::set_clip(const Tzu_ov_d2* polygon) {
+  clear_clip();
+  add_rings(*polygon);
   cairo_clip(cairo_.get());
   clipped_ = true;
 }

@@ -14,6 +14,10 @@
 
 namespace zu::platform {
 
+class line_numbers;
+class mark;
+struct line_piece;
+struct mark_place;
 struct strokes;
 
 class drawing_context {
@@ -31,6 +35,10 @@ class drawing_context {
   virtual void fill(Tzu_color color) = 0;
   virtual void draw(const Tzu_dib_draw_record& record, const Tzu_dib& dib) = 0;
   void draw_lines(const Tzu_ov_d2& lines, const Tzu_pln_style& style);
+  /// Places in millimetres.
+  void draw_points(std::uint64_t count, const double* x, const double* y,
+                   const Tzu_pnt_style& style);
+  void draw_polygon(const Tzu_ov_d2& rings, const Tzu_pgn_style& style);
   /// The height is that of the font; the anchor is a `Tzu_text_anchor`. Throws std::bad_alloc.
   void draw_text(double x_mm, double y_mm, double height_mm, int anchor, Tzu_color color,
                  const std::string& utf8);
@@ -71,6 +79,11 @@ class drawing_context {
   [[nodiscard]] saved_state clipped_to(const pixel_box& box);
   virtual void inked() {}
   virtual void stroke_lines(const strokes& lines);
+  /// Draws a symbol that is not empty at all places, one over the other.
+  virtual void put_marks(const mark& drawn, const std::vector<mark_place>& places);
+  /// Marks of a picture keep to its pixels.
+  virtual bool has_pixels() const { return false; }
+  void set_color(Tzu_color color);
   /// Takes note of an object inside another one (0: the page itself); what it is to be called by as
   /// the outer one of others.
   virtual int note_object(int, const std::wstring&) { return 0; }
@@ -85,6 +98,15 @@ class drawing_context {
   cairo_ptr cairo_;                 ///< user space: pixels of the page, y downwards
 
  private:
+  /// Draws lines with a style's plain fields or its layers.
+  void stroke_styled(const Tzu_ov_d2& lines, const Tzu_bpln_style& style,
+                     const Tzu_bnum_style* numbered);
+  void put_styled(const std::vector<mark_place>& places, const Tzu_bpnt_style& style);
+  void fill_rings(const Tzu_ov_d2& rings, Tzu_color color);
+  /// The path of a polygon, and the rule by which it is filled.
+  void add_rings(const Tzu_ov_d2& polygon);
+  std::vector<Tzu_vtx_d2> in_pixels(Tzu_pv_d2* list) const;
+
   struct open_object {
     std::wstring name;
     int noted;

@@ -86,6 +86,15 @@ void zu_drwc_draw_pln(Tzu_drwc* drwc, const Tzu_ov_d2* lines, const Tzu_pln_styl
   if (lines == nullptr || style == nullptr) return;
   drawn_by(drwc, [&](drawing_context& d) { d.draw_lines(*lines, *style); });
 }
+void zu_drwc_draw_pnt(Tzu_drwc* drwc, uint64_t count, const double* x_mm, const double* y_mm,
+                      const Tzu_pnt_style* style) {
+  if (x_mm == nullptr || y_mm == nullptr || style == nullptr) return;
+  drawn_by(drwc, [&](drawing_context& d) { d.draw_points(count, x_mm, y_mm, *style); });
+}
+void zu_drwc_draw_pgn(Tzu_drwc* drwc, const Tzu_ov_d2* rings, const Tzu_pgn_style* style) {
+  if (rings == nullptr || style == nullptr) return;
+  drawn_by(drwc, [&](drawing_context& d) { d.draw_polygon(*rings, *style); });
+}
 void zu_drwc_draw_text_w(Tzu_drwc* drwc, double x_mm, double y_mm, double height_mm, int32_t anchor,
                          Tzu_color color, const wchar_t* text) {
   drawn_by(drwc, [&](drawing_context& d) {

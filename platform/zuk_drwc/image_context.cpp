@@ -5,6 +5,7 @@
 #include <new>
 #include <utility>
 
+#include "platform/zuk_drwc/mark_stamps.h"
 #include "platform/zuk_drwc/save_picture.h"
 #include "platform/zuk_drwc/stroke.h"
 
@@ -72,6 +73,21 @@ void image_context::stroke_lines(const strokes& lines) {
   auto upper = std::async(std::launch::async, stroke_rows, std::uint64_t{0}, ny_ / 2);
   stroke_rows(ny_ / 2, ny_);
   upper.get();
+  cairo_surface_mark_dirty(surface_.get());
+}
+
+void image_context::put_marks(const mark& drawn, const std::vector<mark_place>& places) {
+  bool turned =
+      std::any_of(places.begin(), places.end(), [](const mark_place& p) { return p.turn != 0; });
+  if (clipped_ || turned || drawn.reach() > mark_stamps::largest_reach)
+    return drawing_context::put_marks(drawn, places);
+  pixel_box shown = region();
+  auto rows = static_cast<std::int64_t>(ny_);
+  const pixel_box bounds{shown.x0, rows - shown.y1, shown.x1, rows - shown.y0};
+  cairo_surface_flush(surface_.get());
+  mark_stamps stamps(drawn);
+  for (const mark_place& place : places)
+    stamps.put(words_of(surface_.get()), stride_of(surface_.get()), bounds, drawn.middle(place));
   cairo_surface_mark_dirty(surface_.get());
 }
 

@@ -23,6 +23,8 @@ class image_context : public drawing_context {
 
  protected:
   void stroke_lines(const strokes& lines) override;
+  void put_marks(const mark& drawn, const std::vector<mark_place>& places) override;
+  bool has_pixels() const override { return true; }
 
  private:
   void draw_clipped(const pixel_box& place, const Tzu_dib& dib, std::uint8_t alpha);

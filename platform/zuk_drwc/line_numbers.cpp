@@ -8,7 +8,7 @@
 namespace zu::platform {
 namespace {
 
-constexpr double font_size = 2.5, spacing = 100;  // millimetres
+constexpr double spacing = 100;  // millimetres
 
 /// The shortest text of a number with up to 15 digits.
 std::string number_text(double value) {
@@ -23,11 +23,11 @@ std::string number_text(double value) {
 
 line_numbers::line_numbers(cairo_t* cairo, double per_mm, const Tzu_box_d2& shown,
                            std::vector<Tzu_box_d2>& taken, const Tzu_ov_d2& lines,
-                           const Tzu_pln_style& style)
+                           const Tzu_bnum_style* style)
     : taken_(taken) {
   double level;
-  if (!style.number_visible || !zu_ov_d2_get_level(&lines, &level) || !std::isfinite(level)) return;
-  text_.emplace(cairo, number_text(level), font_size * per_mm);
+  if (style == nullptr || !zu_ov_d2_get_level(&lines, &level) || !std::isfinite(level)) return;
+  text_.emplace(cairo, number_text(level), zu_bnum_style_get_size(style) * per_mm);
   request_ = {text_->width(), text_->capital_height(), spacing * per_mm, shown};
 }
 

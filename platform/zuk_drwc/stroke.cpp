@@ -4,6 +4,8 @@
 #include <cmath>
 #include <cstdint>
 
+#include "platform/zuk_styles/symbols.h"
+
 namespace zu::platform {
 namespace {
 

@@ -5,7 +5,7 @@
 
 #include "platform/zuk_drwc/cairo_owned.h"
 #include "platform/zuk_drwc/cut_line.h"
-#include "platform/zuk_styles/symbols.h"
+#include "zu/platform/zuk_symbols.h"
 
 namespace zu::platform {
 
@@ -18,8 +18,10 @@ struct strokes {
   Tzu_color color;
   bool thinned;  ///< vertices a fraction of a pixel apart are not wanted
 
-  /// The pen of a style, without lines; not wider than `most`.
+  /// The pen of a style's plain fields, without lines; not wider than `most`.
   strokes(const Tzu_bpln_style& style, double per_mm, double most, bool thinned);
+  /// Whether the pen leaves no trace.
+  bool are_invisible() const { return !(width > 0) || color.a == 255; }
   /// How far outside of what shows a line may be cut, so that neither caps nor corners of what was
   /// cut off are missed.
   double margin() const;

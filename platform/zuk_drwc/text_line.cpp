@@ -24,12 +24,14 @@ void unhint(PangoContext* context) {
 
 }  // namespace
 
-text_line::text_line(cairo_t* cairo, const std::string& utf8, double size)
+text_line::text_line(cairo_t* cairo, const std::string& utf8, double size,
+                     const std::string& family)
     : cairo_(cairo), layout_(pango_cairo_create_layout(cairo)) {
   if (!layout_ || !(size > 0) || size > largest_size) throw std::bad_alloc();
   unhint(pango_layout_get_context(layout_.get()));
   std::unique_ptr<PangoFontDescription, released_by<pango_font_description_free>> font(
-      pango_font_description_from_string("DejaVu Sans"));
+      pango_font_description_new());
+  pango_font_description_set_family(font.get(), family.c_str());
   pango_font_description_set_absolute_size(font.get(), size * PANGO_SCALE);
   pango_layout_set_font_description(layout_.get(), font.get());
   pango_layout_set_single_paragraph_mode(layout_.get(), TRUE);
@@ -48,6 +50,18 @@ double text_line::capital_height() const {
   PangoRectangle ink;
   pango_layout_line_get_extents(pango_layout_get_line_readonly(letter.get(), 0), &ink, nullptr);
   return static_cast<double>(-ink.y) / PANGO_SCALE;
+}
+
+Tzu_box_d2 text_line::ink() const {
+  PangoRectangle box;
+  pango_layout_line_get_extents(pango_layout_get_line_readonly(layout_.get(), 0), &box, nullptr);
+  auto length = [](int units) { return static_cast<double>(units) / PANGO_SCALE; };
+  return {length(box.x), length(box.y), length(box.x + box.width), length(box.y + box.height)};
+}
+
+void text_line::add_path(double x, double y) const {
+  cairo_move_to(cairo_, x, y);
+  pango_cairo_layout_line_path(cairo_, pango_layout_get_line_readonly(layout_.get(), 0));
 }
 
 void text_line::draw(double x, double y, double angle) const {

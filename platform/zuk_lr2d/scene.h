@@ -8,6 +8,7 @@
 
 #include "platform/zuk_basic/event_channel.h"
 #include "platform/zuk_lr2d/own_state.h"
+#include "platform/zuk_scn_2d/axes.h"
 #include "platform/zuk_scn_2d/prf_data.h"
 #include "platform/zuk_styles/symbols.h"
 #include "zu/platform/zuk_lr2d.h"
@@ -34,5 +35,7 @@ struct Tzu_scn_2d {
   Tzu_optional_color selected{{255, 220, 0, 64}, 0};  // unset, but to be seen on any map
   std::optional<Tzu_pln_style> selected_line;
   Tzu_prf_data profile;
+  Tzu_margins margins;
+  Tzu_axes axes;
   Tzu_event_channel channel;
 };

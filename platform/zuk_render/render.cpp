@@ -2,9 +2,9 @@
 #include <new>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/zuk_basic/guarded.h"
-#include "platform/zuk_styles/symbols.h"
 #include "zu/platform/zuk_render.h"
 
 using zu::platform::guarded;
@@ -85,18 +85,25 @@ void zu_render_cr_pln(Izu_render* render, const Tzu_ov_d2* lines, const Tzu_pln_
     zu_drwc_draw_pln(r.drwc, page.get(), style);
   });
 }
+void zu_render_cr_pnt(Izu_render* render, const Tzu_ov_d2* points, const Tzu_pnt_style* style) {
+  if (points == nullptr || style == nullptr) return;
+  guarded(render, [&](Izu_render& r) {
+    page_set page = on_page(r, points);
+    std::vector<double> xs, ys;
+    for (uint64_t i = 0; i < zu_ov_d2_get_size(page.get()); ++i) {
+      Tzu_pv_d2* list = zu_ov_d2_get_pv_ptr(page.get(), i);
+      for (uint64_t k = 0; k < zu_pv_d2_get_size(list); ++k) {
+        xs.push_back(zu_pv_d2_get_arr(list)[k].x);
+        ys.push_back(zu_pv_d2_get_arr(list)[k].y);
+      }
+    }
+    zu_drwc_draw_pnt(r.drwc, xs.size(), xs.data(), ys.data(), style);
+  });
+}
 void zu_render_cr_pgn(Izu_render* render, const Tzu_ov_d2* rings, const Tzu_pgn_style* style) {
   if (rings == nullptr || style == nullptr) return;
   guarded(render, [&](Izu_render& r) {
     page_set page = on_page(r, rings);
-    Tzu_box_d2 whole{};
-    zu_drwc_get_page(r.drwc, &whole);
-    zu_drwc_set_clip_pgn(r.drwc, 0, page.get());
-    if (style->fill_visible) zu_drwc_fill_box(r.drwc, &whole, style->fill.color);
-    zu_drwc_set_clip_none(r.drwc);
-    Tzu_pln_style contour;
-    contour.line = style->contour;
-    contour.line_visible = style->contour_visible;
-    zu_drwc_draw_pln(r.drwc, page.get(), &contour);
+    zu_drwc_draw_pgn(r.drwc, page.get(), style);
   });
 }

@@ -8,6 +8,13 @@ using zu::platform::guarded;
 
 uint64_t zu_scn_get_count(const Tzu_scn_2d* scene) { return zu_scn_2d_get_layer_count(scene); }
 
+void zu_scn_begin_update(Tzu_scn_2d* scene) {
+  if (scene != nullptr) scene->channel.begin();
+}
+void zu_scn_end_update(Tzu_scn_2d* scene) {
+  guarded(scene, [](Tzu_scn_2d& s) { s.channel.end(); });
+}
+
 Tzu_prf_data* zu_scn_2d_get_prf_data_ptr(Tzu_scn_2d* scene) {
   return scene != nullptr ? &scene->profile : nullptr;
 }

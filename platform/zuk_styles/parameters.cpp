@@ -116,6 +116,14 @@ void set_size(Tzu_stl_prm& style, int index, sized kind, double millimetres) {
 
 }  // namespace zu::platform
 
+Tzu_stl_prm_more::Tzu_stl_prm_more(const Tzu_stl_prm_more& from) {
+  for (int i = 0; i < 2; ++i) {
+    zu::platform::copy_part(points[i], from.points[i]);
+    zu::platform::copy_part(lines[i], from.lines[i]);
+    zu::platform::copy_part(polygons[i], from.polygons[i]);
+  }
+}
+
 using zu::platform::color_of;
 using zu::platform::guarded;
 using zu::platform::style_parameters;

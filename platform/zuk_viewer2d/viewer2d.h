@@ -23,6 +23,7 @@ struct Tzu_viewer2d : Tzu_viewer {
   /// Of the window; that of a unit square while it has no size.
   Tzu_box_d2 box() const;
   bool has_size() const { return window_.has_area(); }
+  const zu::platform::window_size& window() const { return window_; }
   bool is_anisotropic() const { return anisotropic_; }
   void set_anisotropic(bool anisotropic);
   void set_scale(double sx, double sy);

@@ -5,6 +5,7 @@
 
 #include "platform/zuk_basic/guarded.h"
 #include "platform/zuk_viewer2d/viewer2d.h"
+#include "zu/platform/zuk_scn_2d.h"
 
 using zu::platform::guarded;
 
@@ -16,6 +17,25 @@ constexpr double mm_a_metre = 1000;
 template <class number> double number_of(const Tzu_viewer2d* viewer, number give) {
   return guarded(viewer, 0.0,
                  [&](const Tzu_viewer2d& v) { return v.has_size() ? double(give(v)) : 0.0; });
+}
+
+/// Around a box of the scene: the margins that the scene asks for, or a fiftieth of it.
+void leave_room(const Tzu_viewer2d& viewer, Tzu_box_d2& box) {
+  constexpr double part = 0.02;
+  const Tzu_margins* margins = zu_scn_2d_get_margins_ptr(viewer.scene);
+  if (!zu_margins_get_visible(margins)) return zu_box_d2_inflate_cf(&box, part);
+  // The box shall fill what the margins leave of the window.
+  auto grow = [](double& low, double& high, double length, double before, double after) {
+    double left = length - before - after;
+    if (!(left > 0)) return;
+    double per_mm = (high - low) / left;
+    low -= per_mm * before;
+    high += per_mm * after;
+  };
+  grow(box.x0, box.x1, viewer.window().width(), zu_margins_get_lft(margins),
+       zu_margins_get_rgt(margins));
+  grow(box.y0, box.y1, viewer.window().height(), zu_margins_get_btm(margins),
+       zu_margins_get_top(margins));
 }
 
 }  // namespace
@@ -59,13 +79,12 @@ bool zu_viewer2d_get_box_cr_sml(const Tzu_viewer2d* viewer, Tzu_box_d2* box) {
   });
 }
 void zu_viewer2d_zoom_to_scn(Tzu_viewer2d* viewer) {
-  constexpr double margin = 0.02;
   Tzu_box_d2 box{};
   if (!zu_scn_2d_get_clipped_box(zu_viewer2d_get_scn_2d(viewer), &box)) return;
   double x = zu_viewer2d_size_mm2cr_x(viewer, 10.0), y = zu_viewer2d_size_mm2cr_y(viewer, 10.0);
   if (!(box.x1 > box.x0)) box.x0 -= x, box.x1 += x;
   if (!(box.y1 > box.y0)) box.y0 -= y, box.y1 += y;
-  zu_box_d2_inflate_cf(&box, margin);
+  leave_room(*viewer, box);
   zu_viewer2d_set_zoom_box(viewer, &box);
 }
 void zu_viewer2d_set_anisotropic(Tzu_viewer2d* viewer, bool anisotropic) {

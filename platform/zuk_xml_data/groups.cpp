@@ -15,11 +15,11 @@
 using zu::platform::attribute;
 using zu::platform::emptied;
 using zu::platform::guarded;
-using zu::platform::has_lines;
-using zu::platform::load_line;
+using zu::platform::kind_of;
+using zu::platform::load_line_under;
 using zu::platform::load_style;
 using zu::platform::node_ptr;
-using zu::platform::save_line;
+using zu::platform::save_line_under;
 using zu::platform::save_style;
 using zu::platform::text_of;
 
@@ -40,11 +40,13 @@ bool load_manager(Tzu_xnode* group, const char* type, Tzu_stl_mngr* manager) {
   if (mode >= zu_style_simple && mode <= zu_style_rule)
     zu_stl_mngr_set_mode(fresh.get(), static_cast<std::int32_t>(mode));
   if (node_ptr simple(zu_xnode_get_node_w(group, L"simple")); simple)
-    load_style(simple.get(), *zu_stl_mngr_get_simple_sp_ptr(fresh.get()), has_lines(fresh.get()));
+    load_style(simple.get(), *zu_stl_mngr_get_simple_sp_ptr(fresh.get()), kind_of(fresh.get()));
   node_ptr values(zu_xnode_get_node_w(group, L"values"));
   node_ptr ranges(zu_xnode_get_node_w(group, L"ranges"));
   if (values && !zu::platform::load_value_scale(values.get(), fresh.get())) return false;
   if (ranges && !zu::platform::load_range_scale(ranges.get(), fresh.get())) return false;
+  node_ptr rules(zu_xnode_get_node_w(group, L"rules"));
+  if (rules && !zu::platform::load_rule_scale(rules.get(), fresh.get())) return false;
   zu_stl_mngr_assign(manager, fresh.get());
   return true;
 }
@@ -61,11 +63,13 @@ void zu_xml_save_style_save_mngr_style(void*, Tzu_xnode* node, const wchar_t* ke
     zu_xnode_set_attr_int_w(group.get(), L"mode", zu_stl_mngr_get_mode(&m));
     node_ptr simple(zu_xnode_add_node_w(group.get(), L"simple"));
     save_style(simple.get(), *zu_stl_mngr_get_simple_sp_ptr(const_cast<Tzu_stl_mngr*>(&m)),
-               has_lines(&m));
+               kind_of(&m));
     node_ptr values(zu_xnode_add_node_w(group.get(), L"values"));
     zu::platform::save_value_scale(values.get(), &m);
     node_ptr ranges(zu_xnode_add_node_w(group.get(), L"ranges"));
     zu::platform::save_range_scale(ranges.get(), &m);
+    node_ptr rules(zu_xnode_add_node_w(group.get(), L"rules"));
+    zu::platform::save_rule_scale(rules.get(), &m);
   });
 }
 
@@ -134,9 +138,9 @@ void zu_xml_save_style_save_isoline_style(void*, Tzu_xnode* node, const wchar_t*
     zu_xnode_set_attr_dbl_w(to, L"bold_step", zu_isoline_style_get_bold_step(&s));
     Tzu_pln_style line;
     zu_isoline_style_get_thin_style(&s, &line);
-    save_line(to, L"thin", line);
+    save_line_under(to, L"thin", line);
     zu_isoline_style_get_bold_style(&s, &line);
-    save_line(to, L"bold", line);
+    save_line_under(to, L"bold", line);
   });
 }
 
@@ -157,10 +161,10 @@ bool zu_xml_save_style_load_isoline_style(void*, Tzu_xnode* node, const wchar_t*
         to, zu_xnode_get_attr_dbl_w(from, L"bold_step", zu_isoline_style_get_bold_step(to)));
     Tzu_pln_style line;
     zu_isoline_style_get_thin_style(to, &line);
-    load_line(from, L"thin", line);
+    load_line_under(from, L"thin", line);
     zu_isoline_style_set_thin_style(to, &line);
     zu_isoline_style_get_bold_style(to, &line);
-    load_line(from, L"bold", line);
+    load_line_under(from, L"bold", line);
     zu_isoline_style_set_bold_style(to, &line);
     zu_isoline_style_assign(&s, to);
     return true;

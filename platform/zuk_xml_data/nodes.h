@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "zu/platform/zuk_io.h"
 
@@ -13,9 +14,9 @@ struct node_closed {
 };
 using node_ptr = std::unique_ptr<Tzu_xnode, node_closed>;
 
-/// The last text that `ask` delivers to an adapter; empty if there is none.
-template <class function> std::wstring text_of(function&& ask) {
-  std::wstring text;
+/// The last text that `ask` delivers to an adapter; `otherwise` if there is none.
+template <class function> std::wstring text_of(function&& ask, std::wstring otherwise = {}) {
+  std::wstring text = std::move(otherwise);
   auto sink = [](const wchar_t* t, void* user) { *static_cast<std::wstring*>(user) = t; };
   std::unique_ptr<Tzu_string_adp, void (*)(Tzu_string_adp*)> adapter(
       zu_string_adp_create(nullptr, sink, &text), &zu_string_adp_destroy);

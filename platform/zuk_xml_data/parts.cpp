@@ -1,120 +1,73 @@
 #include "platform/zuk_xml_data/parts.h"
 
-#include <algorithm>
-#include <charconv>
-#include <cmath>
-#include <string>
-#include <vector>
+#include <string_view>
 
-#include "platform/zuk_basic/utf8.h"
 #include "platform/zuk_styles/parameters.h"
 #include "platform/zuk_xml_data/nodes.h"
+#include "platform/zuk_xml_data/values.h"
 
 namespace zu::platform {
 namespace {
 
-constexpr const wchar_t* color_keys[] = {L"color", L"selected"};
-constexpr const wchar_t* line_keys[] = {L"line", L"selected_line"};
-
-template <class number> std::wstring written(const number* numbers, int count) {
-  std::string text;
-  for (int i = 0; i < count; ++i) {
-    char buffer[32];
-    if (i > 0) text += ' ';
-    text.append(buffer, std::to_chars(buffer, buffer + sizeof buffer, numbers[i]).ptr);
-  }
-  return from_utf8(text);
-}
-
-/// The numbers of a text, a blank between two; none at all if anything else stands there.
-template <class number> std::vector<number> numbers_in(const std::wstring& wide) {
-  std::string text = to_utf8(wide);
-  std::vector<number> all;
-  for (const char *at = text.data(), *end = at + text.size(); at < end;) {
-    number value;
-    auto read = std::from_chars(at, end, value);
-    if (read.ec != std::errc() || (read.ptr != end && *read.ptr != ' ')) return {};
-    all.push_back(value);
-    at = read.ptr == end ? end : read.ptr + 1;
-  }
-  return all;
-}
-
-bool is_length(double millimetres) { return std::isfinite(millimetres) && millimetres >= 0.0; }
-
-void save_color(Tzu_xnode* node, const wchar_t* key, Tzu_color c) {
-  const unsigned bytes[] = {c.r, c.g, c.b, c.a};
-  zu_xnode_set_attr_wstr(node, key, written(bytes, 4).c_str());
-}
-
-void load_color(Tzu_xnode* node, const wchar_t* key, Tzu_color& color) {
-  std::vector<std::uint8_t> bytes = numbers_in<std::uint8_t>(attribute(node, key));
-  if (bytes.size() == 4) color = {bytes[0], bytes[1], bytes[2], bytes[3]};
-}
-
-void load_choice(Tzu_xnode* node, const wchar_t* key, std::int32_t& choice) {
-  std::int64_t read = zu_xnode_get_attr_int_w(node, key, choice);
-  if (read >= 0 && read <= 2) choice = static_cast<std::int32_t>(read);
-}
-
-void load_dashes(Tzu_xnode* node, Tzu_bpln_style& line) {
-  std::vector<double> dashes = numbers_in<double>(attribute(node, L"dashes"));
-  bool lengths = std::all_of(dashes.begin(), dashes.end(), is_length);
-  if (lengths && !dashes.empty() && dashes.size() <= zu_line_dashes) line.dashes = dashes;
-}
+/// The names that a style is written under, the drawn one and that of what is selected.
+using keys = const wchar_t* const[2];
+constexpr keys color_keys = {L"color", L"selected"};
+constexpr keys point_keys = {L"point", L"selected_point"};
+constexpr keys line_keys = {L"line", L"selected_line"};
+constexpr keys polygon_keys = {L"polygon", L"selected_polygon"};
 
 }  // namespace
 
-void save_line(Tzu_xnode* node, const wchar_t* key, const Tzu_pln_style& style) {
-  node_ptr group = emptied(node, key);
-  const Tzu_bpln_style& line = style.line;
-  zu_xnode_set_attr_dbl_w(group.get(), L"width", line.width);
-  if (!line.dashes.empty())
-    zu_xnode_set_attr_wstr(
-        group.get(), L"dashes",
-        written(line.dashes.data(), static_cast<int>(line.dashes.size())).c_str());
-  zu_xnode_set_attr_int_w(group.get(), L"cap", line.cap);
-  zu_xnode_set_attr_int_w(group.get(), L"join", line.join);
-  save_color(group.get(), L"color", line.color);
-  zu_xnode_set_attr_bool_w(group.get(), L"visible", style.line_visible);
-  zu_xnode_set_attr_bool_w(group.get(), L"label", style.number_visible);
+manager_kind kind_of(const Tzu_stl_mngr* manager) {
+  std::string_view type = zu_stl_mngr_get_style_type(manager);
+  if (type == "pnt_mngr_style") return manager_kind::points;
+  if (type == "pln_mngr_style") return manager_kind::lines;
+  return type == "pgn_mngr_style" ? manager_kind::polygons : manager_kind::colors;
 }
 
-void load_line(Tzu_xnode* node, const wchar_t* key, Tzu_pln_style& style) {
-  node_ptr group(zu_xnode_get_node_w(node, key));
-  if (!group) return;
-  Tzu_bpln_style& line = style.line;
-  double width = zu_xnode_get_attr_dbl_w(group.get(), L"width", line.width);
-  if (is_length(width)) line.width = width;
-  load_dashes(group.get(), line);
-  load_choice(group.get(), L"cap", line.cap);
-  load_choice(group.get(), L"join", line.join);
-  load_color(group.get(), L"color", line.color);
-  style.line_visible = zu_xnode_get_attr_bool_w(group.get(), L"visible", style.line_visible);
-  style.number_visible = zu_xnode_get_attr_bool_w(group.get(), L"label", style.number_visible);
+void save_line_under(Tzu_xnode* node, const wchar_t* key, const Tzu_pln_style& style) {
+  save_line(emptied(node, key).get(), style);
 }
 
-void save_style(Tzu_xnode* node, const Tzu_stl_prm& style, bool lines) {
-  style_parameters copy(style);  // of which a line may be made
-  for (int i = 0; i < 2; ++i) save_color(node, color_keys[i], style.colors[i]);
-  for (int i = 0; lines && i < 2; ++i)
-    save_line(node, line_keys[i], *zu_stl_prm_get_pln_style_ptr(&copy, i));
+void load_line_under(Tzu_xnode* node, const wchar_t* key, Tzu_pln_style& style) {
+  if (node_ptr group(zu_xnode_get_node_w(node, key)); group) load_line(group.get(), style);
 }
 
-void load_style(Tzu_xnode* node, Tzu_stl_prm& style, bool lines) {
-  for (int i = 0; i < 2; ++i) load_color(node, color_keys[i], style.colors[i]);
-  for (int i = 0; lines && i < 2; ++i)
-    load_line(node, line_keys[i], *zu_stl_prm_get_pln_style_ptr(&style, i));
+void save_style(Tzu_xnode* node, const Tzu_stl_prm& style, manager_kind kind) {
+  style_parameters copy(style);  // of which symbols may be made
+  for (int i = 0; i < 2; ++i) {
+    save_color(node, color_keys[i], style.colors[i]);
+    if (kind == manager_kind::points)
+      save_point(emptied(node, point_keys[i]).get(), *zu_stl_prm_get_pnt_style_ptr(&copy, i));
+    if (kind == manager_kind::lines)
+      save_line_under(node, line_keys[i], *zu_stl_prm_get_pln_style_ptr(&copy, i));
+    if (kind == manager_kind::polygons)
+      save_polygon(emptied(node, polygon_keys[i]).get(), *zu_stl_prm_get_pgn_style_ptr(&copy, i));
+  }
 }
 
-void save_row(Tzu_xnode* node, const Tzu_scale_prm& row, bool lines) {
+void load_style(Tzu_xnode* node, Tzu_stl_prm& style, manager_kind kind) {
+  for (int i = 0; i < 2; ++i) {
+    load_color(node, color_keys[i], style.colors[i]);
+    if (kind == manager_kind::lines)
+      load_line_under(node, line_keys[i], *zu_stl_prm_get_pln_style_ptr(&style, i));
+    if (node_ptr point(zu_xnode_get_node_w(node, point_keys[i]));
+        point && kind == manager_kind::points)
+      load_point(point.get(), *zu_stl_prm_get_pnt_style_ptr(&style, i));
+    if (node_ptr polygon(zu_xnode_get_node_w(node, polygon_keys[i]));
+        polygon && kind == manager_kind::polygons)
+      load_polygon(polygon.get(), *zu_stl_prm_get_pgn_style_ptr(&style, i));
+  }
+}
+
+void save_row(Tzu_xnode* node, const Tzu_scale_prm& row, manager_kind kind) {
   zu_xnode_set_attr_bool_w(node, L"visible", row.visible);
-  save_style(node, row.style, lines);
+  save_style(node, row.style, kind);
 }
 
-void load_row(Tzu_xnode* node, Tzu_scale_prm& row, bool lines) {
-  row.visible = zu_xnode_get_attr_bool_w(node, L"visible", row.visible);
-  load_style(node, row.style, lines);
+void load_row(Tzu_xnode* node, Tzu_scale_prm& row, manager_kind kind) {
+  load_flag(node, L"visible", row.visible);
+  load_style(node, row.style, kind);
 }
 
 }  // namespace zu::platform

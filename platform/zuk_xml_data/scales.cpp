@@ -1,7 +1,5 @@
 #include "platform/zuk_xml_data/scales.h"
 
-#include <string_view>
-
 #include "platform/zuk_xml_data/nodes.h"
 #include "platform/zuk_xml_data/parts.h"
 
@@ -43,15 +41,42 @@ constexpr range_end range_ends[] = {
     {L"other", &zu_rng_scale_get_other_prm_ptr, &zu_rng_scale_get_other_caption_w,
      &zu_rng_scale_set_other_caption_w, nullptr, nullptr}};
 
-}  // namespace
-
-bool has_lines(const Tzu_stl_mngr* manager) {
-  return zu_stl_mngr_get_style_type(manager) == std::string_view("pln_mngr_style");
+void save_rows(Tzu_xnode* group, Tzu_val_scale* scale, manager_kind kind) {
+  node_ptr other(zu_xnode_add_node_w(group, L"other"));
+  save_caption(other.get(), [&](Tzu_string_adp* a) { zu_val_scale_get_other_caption_w(scale, a); });
+  save_row(other.get(), *zu_val_scale_get_other_prm_ptr(scale), kind);
+  for (std::uint64_t i = 0; i < zu_val_scale_get_size(scale); ++i) {
+    node_ptr node(zu_xnode_add_node_w(group, L"row"));
+    std::wstring text = text_of([&](Tzu_string_adp* a) { zu_val_scale_get_text_w(scale, i, a); });
+    zu_xnode_set_attr_wstr(node.get(), L"text", text.c_str());
+    save_caption(node.get(), [&](Tzu_string_adp* a) { zu_val_scale_get_caption_w(scale, i, a); });
+    save_row(node.get(), *zu_val_scale_get_scale_prm_ptr(scale, i), kind);
+  }
 }
+
+bool load_rows(Tzu_xnode* group, Tzu_val_scale* scale, manager_kind kind) {
+  std::uint64_t rows = row_count(group);
+  if (rows > most_rows) return false;
+  zu_val_scale_set_size(scale, rows);
+  if (zu_val_scale_get_size(scale) != rows) return false;
+  if (node_ptr other(zu_xnode_get_node_w(group, L"other")); other) {
+    zu_val_scale_set_other_caption_w(scale, attribute(other.get(), L"caption").c_str());
+    load_row(other.get(), *zu_val_scale_get_other_prm_ptr(scale), kind);
+  }
+  node_ptr node(zu_xnode_get_node_w(group, L"row"));
+  for (std::uint64_t i = 0; i < rows; ++i, node.reset(zu_xnode_next_node_w(node.get()))) {
+    zu_val_scale_set_text_w(scale, i, attribute(node.get(), L"text").c_str());
+    zu_val_scale_set_caption_w(scale, i, attribute(node.get(), L"caption").c_str());
+    load_row(node.get(), *zu_val_scale_get_scale_prm_ptr(scale, i), kind);
+  }
+  return true;
+}
+
+}  // namespace
 
 void save_range_scale(Tzu_xnode* group, const Tzu_stl_mngr* manager) {
   Tzu_rng_scale* scale = zu_stl_mngr_get_rng_scale_ptr(editable(manager));
-  bool lines = has_lines(manager);
+  manager_kind kind = kind_of(manager);
   std::wstring field =
       text_of([&](Tzu_string_adp* a) { zu_stl_mngr_get_rng_prop_name_w(manager, a); });
   zu_xnode_set_attr_wstr(group, L"field", field.c_str());
@@ -62,20 +87,20 @@ void save_range_scale(Tzu_xnode* group, const Tzu_stl_mngr* manager) {
     node_ptr node(zu_xnode_add_node_w(group, end.key));
     if (end.value != nullptr) zu_xnode_set_attr_dbl_w(node.get(), L"value", end.value(scale));
     save_caption(node.get(), [&](Tzu_string_adp* a) { end.caption(scale, a); });
-    save_row(node.get(), *end.row(scale), lines);
+    save_row(node.get(), *end.row(scale), kind);
   }
   for (std::uint64_t i = 0; i < zu_rng_scale_get_size(scale); ++i) {
     node_ptr node(zu_xnode_add_node_w(group, L"row"));
     zu_xnode_set_attr_dbl_w(node.get(), L"min", zu_rng_scale_get_min(scale, i));
     zu_xnode_set_attr_dbl_w(node.get(), L"max", zu_rng_scale_get_max(scale, i));
     save_caption(node.get(), [&](Tzu_string_adp* a) { zu_rng_scale_get_caption_w(scale, i, a); });
-    save_row(node.get(), *zu_rng_scale_get_scale_prm_ptr(scale, i), lines);
+    save_row(node.get(), *zu_rng_scale_get_scale_prm_ptr(scale, i), kind);
   }
 }
 
 bool load_range_scale(Tzu_xnode* group, Tzu_stl_mngr* manager) {
   Tzu_rng_scale* scale = zu_stl_mngr_get_rng_scale_ptr(manager);
-  bool lines = has_lines(manager);
+  manager_kind kind = kind_of(manager);
   std::uint64_t rows = row_count(group);
   if (rows > most_rows) return false;
   zu_rng_scale_set_size(scale, rows);
@@ -96,55 +121,36 @@ bool load_range_scale(Tzu_xnode* group, Tzu_stl_mngr* manager) {
     if (end.value != nullptr)
       end.set_value(scale, zu_xnode_get_attr_dbl_w(node.get(), L"value", end.value(scale)));
     end.set_caption(scale, attribute(node.get(), L"caption").c_str());
-    load_row(node.get(), *end.row(scale), lines);
+    load_row(node.get(), *end.row(scale), kind);
   }
   node_ptr node(zu_xnode_get_node_w(group, L"row"));
   for (std::uint64_t i = 0; i < rows; ++i, node.reset(zu_xnode_next_node_w(node.get()))) {
     zu_rng_scale_set_min(scale, i, zu_xnode_get_attr_dbl_w(node.get(), L"min", 0.0));
     zu_rng_scale_set_max(scale, i, zu_xnode_get_attr_dbl_w(node.get(), L"max", 0.0));
     zu_rng_scale_set_caption_w(scale, i, attribute(node.get(), L"caption").c_str());
-    load_row(node.get(), *zu_rng_scale_get_scale_prm_ptr(scale, i), lines);
+    load_row(node.get(), *zu_rng_scale_get_scale_prm_ptr(scale, i), kind);
   }
   return true;
 }
 
 void save_value_scale(Tzu_xnode* group, const Tzu_stl_mngr* manager) {
-  Tzu_val_scale* scale = zu_stl_mngr_get_val_scale_ptr(editable(manager));
-  bool lines = has_lines(manager);
   std::wstring field =
       text_of([&](Tzu_string_adp* a) { zu_stl_mngr_get_val_prop_name_w(manager, a); });
   zu_xnode_set_attr_wstr(group, L"field", field.c_str());
-  node_ptr other(zu_xnode_add_node_w(group, L"other"));
-  save_caption(other.get(), [&](Tzu_string_adp* a) { zu_val_scale_get_other_caption_w(scale, a); });
-  save_row(other.get(), *zu_val_scale_get_other_prm_ptr(scale), lines);
-  for (std::uint64_t i = 0; i < zu_val_scale_get_size(scale); ++i) {
-    node_ptr node(zu_xnode_add_node_w(group, L"row"));
-    std::wstring text = text_of([&](Tzu_string_adp* a) { zu_val_scale_get_text_w(scale, i, a); });
-    zu_xnode_set_attr_wstr(node.get(), L"text", text.c_str());
-    save_caption(node.get(), [&](Tzu_string_adp* a) { zu_val_scale_get_caption_w(scale, i, a); });
-    save_row(node.get(), *zu_val_scale_get_scale_prm_ptr(scale, i), lines);
-  }
+  save_rows(group, zu_stl_mngr_get_val_scale_ptr(editable(manager)), kind_of(manager));
 }
 
 bool load_value_scale(Tzu_xnode* group, Tzu_stl_mngr* manager) {
-  Tzu_val_scale* scale = zu_stl_mngr_get_val_scale_ptr(manager);
-  bool lines = has_lines(manager);
-  std::uint64_t rows = row_count(group);
-  if (rows > most_rows) return false;
-  zu_val_scale_set_size(scale, rows);
-  if (zu_val_scale_get_size(scale) != rows) return false;
   zu_stl_mngr_set_val_prop_name_w(manager, attribute(group, L"field").c_str());
-  if (node_ptr other(zu_xnode_get_node_w(group, L"other")); other) {
-    zu_val_scale_set_other_caption_w(scale, attribute(other.get(), L"caption").c_str());
-    load_row(other.get(), *zu_val_scale_get_other_prm_ptr(scale), lines);
-  }
-  node_ptr node(zu_xnode_get_node_w(group, L"row"));
-  for (std::uint64_t i = 0; i < rows; ++i, node.reset(zu_xnode_next_node_w(node.get()))) {
-    zu_val_scale_set_text_w(scale, i, attribute(node.get(), L"text").c_str());
-    zu_val_scale_set_caption_w(scale, i, attribute(node.get(), L"caption").c_str());
-    load_row(node.get(), *zu_val_scale_get_scale_prm_ptr(scale, i), lines);
-  }
-  return true;
+  return load_rows(group, zu_stl_mngr_get_val_scale_ptr(manager), kind_of(manager));
+}
+
+void save_rule_scale(Tzu_xnode* group, const Tzu_stl_mngr* manager) {
+  save_rows(group, zu_stl_mngr_get_rule_scale_ptr(editable(manager)), kind_of(manager));
+}
+
+bool load_rule_scale(Tzu_xnode* group, Tzu_stl_mngr* manager) {
+  return load_rows(group, zu_stl_mngr_get_rule_scale_ptr(manager), kind_of(manager));
 }
 
 }  // namespace zu::platform

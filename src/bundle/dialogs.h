@@ -19,8 +19,16 @@ struct data_grid_schema_dialog {
 struct segy_preview_dialog {
   static constexpr wchar_t id[] = L"zu_segy_preview_dialog";
 };
+<<<<<<< HEAD
 struct figure {
   static constexpr wchar_t id[] = L"zu_common_figure_dialog";
+=======
+struct range_scale {
+  static constexpr wchar_t id[] = L"zu_common_plugin_range_scale_dialog";
+};
+struct value_scale {
+  static constexpr wchar_t id[] = L"zu_common_plugin_value_scale_dialog";
+>>>>>>> border
 };
 struct data_filter_dialog {
   static constexpr wchar_t id[] = L"zu_plugin_common_data_filter_dailog";
@@ -43,15 +51,6 @@ struct data_calculator_dialog {
 
 namespace detail {
 
-struct polygon_style {
-  static constexpr wchar_t id[] = L"zu_common_polygon_style_dialog";
-};
-struct line_style {
-  static constexpr wchar_t id[] = L"zu_common_line_style_dialog";
-};
-struct point_style {
-  static constexpr wchar_t id[] = L"zu_common_point_style_dialog";
-};
 struct lib_style {
   static constexpr wchar_t id[] = L"zu_common_lib_style_dialog";
 };

@@ -38,8 +38,9 @@ std::optional<double> parse_word(std::string_view text) {
   if (word == "inf" || word == "infinity") return std::numeric_limits<double>::infinity();
   bool is_nan = word == "nan";
   if (word.rfind("nan(", 0) == 0 && word.back() == ')')
-    is_nan = std::all_of(word.begin() + 4, word.end() - 1,
-                         [](char c) { return is_one_of(c, "0123456789abcdefghijklmnopqrstuvwxyz_"); });
+    is_nan = std::all_of(word.begin() + 4, word.end() - 1, [](char c) {
+      return is_one_of(c, "0123456789abcdefghijklmnopqrstuvwxyz_");
+    });
   return is_nan ? std::optional(std::numeric_limits<double>::quiet_NaN()) : std::nullopt;
 }
 

@@ -2,7 +2,9 @@
 #include "src/bundle/strings.h"
 #include "src/style/classes/builders.h"
 #include "src/style/classes/scale_dialogs.h"
+#include "src/style/number_text.h"
 #include "src/style/scale_traits.h"
+#include "src/style/style_traits.h"
 #include "zu/platform/zuk_xml_data.h"
 
 #include <algorithm>
@@ -34,8 +36,8 @@ std::wstring number(const Tzu_rng_scale* scale, double value) {
 void set_bounds_between_neighbours(Tzu_rng_scale* scale, std::uint64_t index) {
   std::uint64_t size = zu_rng_scale_get_size(scale);
   bool is_last = index + 1 >= size;
-  double lower = index == 0 ? zu_rng_scale_get_min_value(scale)
-                            : zu_rng_scale_get_max(scale, index - 1);
+  double lower =
+      index == 0 ? zu_rng_scale_get_min_value(scale) : zu_rng_scale_get_max(scale, index - 1);
   double upper =
       is_last ? zu_rng_scale_get_max_value(scale) : zu_rng_scale_get_min(scale, index + 1);
   if (lower == upper && size > 1) {
@@ -115,7 +117,7 @@ std::int64_t range_scale_traits::append(Tzu_rng_scale* scale) {
   auto index = static_cast<std::uint64_t>(std::min(active, size));
   for (auto* spread : {&zu_rng_scale_clr_gradient, &zu_rng_scale_hue_gradient,
                        &zu_rng_scale_transparency_gradient, &zu_rng_scale_size_gradient})
-    spread(scale, index, index + 2, primary_kind);
+    spread(scale, index, index + 2, primary);
   set_bounds_between_neighbours(scale, index);
   zu_rng_scale_set_default_caption(scale, index);
   return static_cast<std::int64_t>(index) + first_entry;

@@ -1,11 +1,14 @@
 #include "src/style/scale_file.h"
 
-#include "src/bundle/owned.h"
 #include "src/bundle/strings.h"
+<<<<<<< HEAD
 #include "src/style/classes/builders.h"
 #include "src/style/classes/scale_dialogs.h"
+=======
+#include "src/style/range_classes.h"
+#include "src/style/scale_traits.h"
+>>>>>>> border
 #include "zu/platform/zuk_os.h"
-#include "zu/platform/zuk_xml_data.h"
 
 namespace zu::style {
 namespace {
@@ -16,17 +19,8 @@ std::wstring place_of_user(const std::wstring& path, bool make) {
   return text_of([&](Tzu_string_adp* a) { zu_os_get_user_place_w(path.c_str(), make, a); });
 }
 
-bool load_range_scale(const std::wstring& path, Tzu_stl_mngr* manager) {
-  if (!zu_os_file_exists(path.c_str())) return false;
-  owned<zu_xml_save_2d_destroy> xml(zu_xml_save_2d_create());
-  return zu_xml_data_load_rng_scale_w(xml.get(), path.c_str(), manager,
-                                      zu_stl_mngr_get_style_type(manager));
-}
-
 bool save_range_scale(const std::wstring& path, const Tzu_stl_mngr* manager) {
-  owned<zu_xml_save_2d_destroy> xml(zu_xml_save_2d_create());
-  return zu_xml_data_save_rng_scale_w(xml.get(), path.c_str(), manager,
-                                      zu_stl_mngr_get_style_type(manager));
+  return range_scale_traits::save(path, manager, zu_stl_mngr_get_style_type(manager));
 }
 
 }  // namespace
@@ -45,19 +39,32 @@ std::wstring scale_file_path(const std::wstring& source, const std::wstring& fie
   return source.substr(0, has_extension ? point : source.size()) + L"." + part + extension;
 }
 
+bool load_scale_file(const std::wstring& path, Tzu_stl_mngr* manager, const char* key,
+                     bool (*read)(const std::wstring& path, Tzu_stl_mngr*, const char* key)) {
+  if (path.empty()) return false;
+  auto loaded = [&](const std::wstring& place) {
+    return zu_os_file_exists(place.c_str()) && read(place, manager, key);
+  };
+  return loaded(path) || loaded(place_of_user(path, false));
+}
+
 bool set_up_range_scale(Tzu_stl_mngr* manager, const data::open_reference& source,
                         const std::wstring& field) {
   std::wstring path = scale_file_path(source.name, field, range_scale_extension);
-  bool has_place = !path.empty();
-  if (has_place &&
-      (load_range_scale(path, manager) || load_range_scale(place_of_user(path, false), manager))) {
+  if (load_scale_file(path, manager, zu_stl_mngr_get_style_type(manager),
+                      &range_scale_traits::load)) {
     zu_stl_mngr_set_rng_prop_name_w(manager, field.c_str());  // the file's own may be another
     return true;
   }
+<<<<<<< HEAD
   Tzu_rng_scale* scale = zu_stl_mngr_get_rng_scale_ptr(manager);
   if (!fill_from_data(scale, source, field)) return false;
   spread_colors(scale, first_colors);
   if (has_place && !save_range_scale(path, manager))
+=======
+  if (!fill_range_scale(zu_stl_mngr_get_rng_scale_ptr(manager), source, field)) return false;
+  if (!path.empty() && !save_range_scale(path, manager))
+>>>>>>> border
     save_range_scale(place_of_user(path, true), manager);
   return true;
 }

@@ -17,6 +17,12 @@ inline constexpr wchar_t range_scale_extension[] = L"._rg";
 std::wstring scale_file_path(const std::wstring& source, const std::wstring& field,
                              const wchar_t* extension);
 
+/// Reads a file of a scale by `read`, or, where that cannot be had, the file of the same name in
+/// the user's own place. False if there is neither, or the last one cannot be read. `key` as in
+/// `zu_xml_data_load_rng_scale_w`.
+bool load_scale_file(const std::wstring& path, Tzu_stl_mngr* manager, const char* key,
+                     bool (*read)(const std::wstring& path, Tzu_stl_mngr*, const char* key));
+
 /// The range scale of a field for a manager: from the file beside the data, or, where that cannot
 /// be read, ten equal classes, which are then written there. A folder of data that cannot be
 /// written has its place in the user's own. False if there is neither file nor field; the scale is

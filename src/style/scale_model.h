@@ -4,6 +4,7 @@
 // kept here. Without manager or scale every operation does nothing and tells nobody.
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "src/bundle/owned.h"
@@ -125,10 +126,22 @@ template <class style_traits_type, class scale_traits_type> class scale_model {
 
   // --- Adding, removing, moving: all tell.
 
-  /// Value and rule: an empty row after the active one, else at the end. Range: a class.
-  void append() { change(&scale_traits::append); }
-  void remove_marked() { change(&scale_traits::remove_marked); }
-  /// Marked rows go before a row.
+  /// Value and rule: an empty row after the active one, else at the end. Range: a class at the
+  /// active index. Gives the new row; -1 without a scale.
+  std::int64_t append() {
+    scale_type* s = scale();
+    if (s == nullptr) return -1;
+    std::int64_t row = scale_traits::append(s);
+    changed();
+    return row;
+  }
+  void remove_marked() {
+    if (scale_type* s = scale()) {
+      scale_traits::remove_marked(s);
+      changed();
+    }
+  }
+  /// Marked rows go before a row; tells, also if that row is none to move to.
   void move_marked(std::int64_t row) {
     if (scale_type* s = scale()) {
       if (row >= 0) scale_traits::move_marked(s, row);
@@ -189,12 +202,6 @@ template <class style_traits_type, class scale_traits_type> class scale_model {
     scale_type* s = scale();
     std::optional<double> number = parse_number(text);
     if (s != nullptr && row >= 0 && number) set(s, row, *number);
-  }
-  void change(void (*work)(scale_type*)) {
-    if (scale_type* s = scale()) {
-      work(s);
-      changed();
-    }
   }
   template <class function> void change_rows(bool only_marked, function&& work) {
     if (scale() == nullptr) return;

@@ -2,10 +2,12 @@
 // What tools do to all rows of a scale at once, or to the marked ones if they are several. All work
 // on the primary style alone, and tell `changed` unless there is no scale.
 
-#include <algorithm>
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "src/style/scale_file.h"
 #include "src/style/scale_model.h"
 #include "zu/platform/zuk_palettes.h"
 
@@ -20,6 +22,15 @@ template <class model> std::vector<std::int64_t> rows_of(const model& m, bool on
     if (!only_marked || m.is_marked(row)) rows.push_back(row);
   return rows;
 }
+
+/// Their parameters.
+template <class model> std::vector<Tzu_stl_prm*> styles_of(const model& m, bool only_marked) {
+  std::vector<Tzu_stl_prm*> styles;
+  for (std::int64_t row : rows_of(m, only_marked)) styles.push_back(m.get_style_prm(row));
+  return styles;
+}
+
+inline constexpr std::int32_t default_colours = 5;  ///< array of scales that data have filled
 
 /// Gives the parameters, in order, the colours of a numbered array or, if it is not null, of a
 /// palette; their transparencies stay.
@@ -36,16 +47,12 @@ struct sorted_row {
 /// numbers; `descending` turns the finished list, ties included.
 std::vector<std::int64_t> sorted_order(std::vector<sorted_row> rows, bool as_text, bool descending);
 
-/// Whether the row's caption and style were found in library `index` of the global ones.
+/// Library `index` of the global ones, or null.
 Tzu_style_lib* global_library(std::int32_t index);
-std::wstring caption_in_library(Tzu_style_lib* library, std::int32_t number, bool& found);
+/// Caption of the item with that number, if there is one.
+std::optional<std::wstring> caption_in_library(Tzu_style_lib* library, std::int32_t number);
+/// Legend `index` of the current project, or null.
 Tzu_mapleg* legend_of_project(std::int32_t index);
-
-/// The file beside the data was read into the manager's scale.
-bool load_scale_file(const std::wstring& path, Tzu_stl_mngr* manager, const char* key,
-                     bool (*load)(const std::wstring&, Tzu_stl_mngr*, const char*));
-std::wstring automatic_path(const data::open_reference& source, const std::wstring& field,
-                            const wchar_t* extension);
 
 }  // namespace detail
 
@@ -53,10 +60,7 @@ std::wstring automatic_path(const data::open_reference& source, const std::wstri
 template <class model>
 void apply_colours(model& m, std::int32_t id, const Tzu_clr_palette* palette, std::int32_t flag) {
   if (m.scale() == nullptr) return;
-  std::vector<Tzu_stl_prm*> styles;
-  for (std::int64_t row : detail::rows_of(m, m.several_marked()))
-    styles.push_back(m.get_style_prm(row));
-  detail::spread_colours(styles, id, palette, flag);
+  detail::spread_colours(detail::styles_of(m, m.several_marked()), id, palette, flag);
   m.changed();
 }
 
@@ -115,10 +119,12 @@ template <class model> void import_range_rules(model& m) {
 /// A class in a range scale, bounded and styled between its neighbours; in other scales a row.
 template <class model> void insert_class(model& m) { m.append(); }
 
-/// Makes the boundaries anew from the data as they are now.
+/// Makes the boundaries of a range scale anew from the data as they are now, where its method can
+/// be repeated.
 template <class model> void rescale(model& m) {
-  if (m.scale() != nullptr && model::scale_traits::rescale(m.scale(), m.source, m.field()))
-    m.changed();
+  if (m.scale() == nullptr) return;
+  model::scale_traits::rescale(m.scale(), m.source, m.field());
+  m.changed();
 }
 
 /// Captions and styles by the numbers that the rows' values are, from one of the global libraries.
@@ -128,10 +134,9 @@ template <class model> void apply_library(model& m, std::int32_t index) {
   for (std::int64_t row : detail::rows_of(m, m.several_marked())) {
     std::optional<std::int32_t> number = model::scale_traits::library_number(m.scale(), row);
     if (!number) continue;
-    bool found = false;
-    std::wstring caption = detail::caption_in_library(library, *number, found);
-    if (!found) continue;
-    m.set_caption(row, caption);
+    std::optional<std::wstring> caption = detail::caption_in_library(library, *number);
+    if (!caption) continue;
+    m.set_caption(row, *caption);
     model::style_traits::take_from_library(m.get_style_prm(row), library, *number);
   }
   m.changed();
@@ -151,12 +156,12 @@ template <class model> void load_default_scale(model& m) {
   using traits = typename model::scale_traits;
   if (m.scale() == nullptr) return;
   std::wstring field = m.field();
-  std::wstring path = detail::automatic_path(m.source, field, traits::extension);
-  if (!detail::load_scale_file(path, m.mngr, model::style_traits::manager_key, &traits::load)) {
+  std::wstring path = scale_file_path(m.source.name, field, traits::extension);
+  if (load_scale_file(path, m.mngr, model::style_traits::manager_key, &traits::load)) {
+    m.set_field(field);  // the file's own may be another
+  } else {
     traits::fill(m.scale(), m.source, field);
-    std::vector<Tzu_stl_prm*> styles;
-    for (std::int64_t row : detail::rows_of(m, false)) styles.push_back(m.get_style_prm(row));
-    detail::spread_colours(styles, 5, nullptr, 0);
+    detail::spread_colours(detail::styles_of(m, false), detail::default_colours, nullptr, 0);
   }
   m.changed();
 }

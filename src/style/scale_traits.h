@@ -39,8 +39,8 @@ struct text_scale_traits {
   static void set_order(Tzu_val_scale* scale, const Tzu_ints* order);
   static std::int64_t active_row(const Tzu_val_scale* scale);
   static void set_active_row(Tzu_val_scale* scale, std::int64_t row);
-  /// After the active row; at the end if there is none.
-  static void append(Tzu_val_scale* scale);
+  /// A row after the active one; at the end if there is none. Gives it.
+  static std::int64_t append(Tzu_val_scale* scale);
 
   static std::wstring value(const Tzu_val_scale* scale, std::int64_t row);
   static void set_value(Tzu_val_scale* scale, std::int64_t row, const std::wstring& text);
@@ -141,8 +141,8 @@ struct range_scale_traits {
   static void set_order(Tzu_rng_scale* scale, const Tzu_ints* order);  ///< of classes, from 0
   static std::int64_t active_row(const Tzu_rng_scale* scale);
   static void set_active_row(Tzu_rng_scale* scale, std::int64_t row);
-  /// A class at the active index, bounded and styled between its neighbours.
-  static void append(Tzu_rng_scale* scale);
+  /// A class at the active index, bounded and styled between its neighbours. Gives its row.
+  static std::int64_t append(Tzu_rng_scale* scale);
 
   static std::wstring value(const Tzu_rng_scale*, std::int64_t) { return {}; }
   static void set_value(Tzu_rng_scale*, std::int64_t, const std::wstring&) {}

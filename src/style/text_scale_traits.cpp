@@ -3,10 +3,10 @@
 #include "src/style/classes/scale_dialogs.h"
 #include "src/style/number_text.h"
 #include "src/style/scale_traits.h"
+#include "src/style/style_traits.h"
 #include "zu/platform/zuk_calculator.h"
 #include "zu/platform/zuk_xml_data.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace zu::style {
@@ -102,13 +102,13 @@ void text_scale_traits::gradient(Tzu_val_scale* scale, gradient_kind which, bool
   std::uint64_t size = zu_val_scale_get_size(scale);
   if (only_marked)
     f.marked(scale, kind);
-  else if (size > 1)
+  else if (size != 1)
     f.between(scale, 0, size - 1, kind);
 }
 
 void text_scale_traits::style_by_legend(Tzu_val_scale* scale, Tzu_mapleg* legend,
                                         bool only_marked) {
-  zu_val_scale_style_by_mapleg(scale, legend, only_marked, 0);
+  zu_val_scale_style_by_mapleg(scale, legend, only_marked, primary);
 }
 
 std::optional<std::int32_t> text_scale_traits::library_number(const Tzu_val_scale* scale,

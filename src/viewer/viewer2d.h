@@ -32,6 +32,10 @@ class viewer2d : public toolkit::with_element {
 
   handle element() override { return handle_of<grid_layout_impl>(layout_); }
 
+ protected:
+  /// The tool bar above the panel.
+  toolkit::grid_layout<1, 2>& content() { return layout_; }
+
  private:
   toolkit::viewer_manager manager_;
   toolkit::viewer2d_panel panel_;

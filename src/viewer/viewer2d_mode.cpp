@@ -1,6 +1,26 @@
 #include "src/viewer/viewer2d_mode.h"
 
+#include "src/bundle/bitmaps.h"
+
 namespace zu::mode::detail {
+namespace {
+
+class cursor_picture final : public bitmap_impl {
+ public:
+  explicit cursor_picture(std::int32_t id) : id_(id) {}
+  void pixels(bytes_visitor visitor) override { get_bitmap_of_basic(id_, visitor); }
+  std::int32_t id() override { return id_; }
+
+ private:
+  std::int32_t id_;
+};
+
+}  // namespace
+
+void visit_cursor(std::int32_t id, bitmap_visitor visitor) {
+  cursor_picture picture(id);
+  call<&bitmap_visitor_impl::visit>(visitor, handle_of<bitmap_impl>(picture));
+}
 
 void drag2d_mode::press(std::uint32_t flags, point_2d point) {
   if (viewer() == nullptr || (flags & pointer_left) == 0) return;

@@ -6,6 +6,9 @@
 
 namespace zu::mode::detail {
 
+/// Gives a mode's cursor by its number.
+void visit_cursor(std::int32_t id, bitmap_visitor visitor);
+
 /// Acts on one viewer, and does nothing without it.
 class viewer2d_mode : public toolkit::viewer_extension_mode {
  public:

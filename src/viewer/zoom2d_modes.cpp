@@ -2,20 +2,8 @@
 
 #include <cmath>
 
-#include "src/bundle/bitmaps.h"
-
 namespace zu::mode::detail {
 namespace {
-
-class cursor_picture final : public bitmap_impl {
- public:
-  explicit cursor_picture(std::int32_t id) : id_(id) {}
-  void pixels(bytes_visitor visitor) override { get_bitmap_of_basic(id_, visitor); }
-  std::int32_t id() override { return id_; }
-
- private:
-  std::int32_t id_;
-};
 
 std::int32_t rounded(double pixel) { return static_cast<std::int32_t>(std::round(pixel)); }
 
@@ -34,10 +22,7 @@ zoom2d_extent zoom_extent(Tzu_viewer2d* viewer, point_2d start, point_2d current
   return e;
 }
 
-void zoom2d_mode::cursor(bitmap_visitor visitor) {
-  cursor_picture picture(kind_.cursor);
-  call<&bitmap_visitor_impl::visit>(visitor, handle_of<bitmap_impl>(picture));
-}
+void zoom2d_mode::cursor(bitmap_visitor visitor) { visit_cursor(kind_.cursor, visitor); }
 
 Tzu_box_d2 zoom2d_mode::visible() const {
   Tzu_box_d2 box{};

@@ -190,7 +190,8 @@ bool is_of_tree(const std::string& path) {
 }
 
 bool may_bundle(const include& i) {
-  if (!i.quoted) return standard.count(i.path) != 0;
+  // The compiler's own, which turns the names of types into texts.
+  if (!i.quoted) return standard.count(i.path) != 0 || i.path == "cxxabi.h";
   return begins(i.path, "src/") || begins(i.path, "zu/") || begins(i.path, "resources/");
 }
 bool may_platform(const include& i) {
@@ -215,15 +216,36 @@ bool may_border(const include& i) {
 
 // Floors of the platform, from the ground up; a library may include those of its own floor.
 const std::map<std::string, int> floors = {
-    {"zuk_api", 0},        {"zuk_basic", 0},      {"zuk_os", 0},        {"zuk_msgs", 0},
-    {"zuk_prg", 1},        {"zuk_io", 1},         {"zuk_stat", 0},      {"zuk_proj4_d2", 1},
-    {"zuk_dib", 1},                                                                             //
-    {"zuk_styles", 2},     {"zuk_file_tos4", 2},  {"zuk_file_segy", 2},                         //
-    {"zuk_calculator", 2}, {"zuk_datasource", 3}, {"zuk_xml_data", 3},  {"zuk_style_libs", 3},  //
-    {"zuk_lr2d", 4},       {"zuk_attr_data", 4},  {"zuk_scn_2d", 4},    {"zuk_rtr_lr2d", 4},
-    {"zuk_tos_lr2d", 4},                                              //
-    {"zuk_drwc", 5},       {"zuk_render", 5},     {"zuk_bmp_dc", 5},  //
-    {"zuk_viewer2d", 6},   {"zuk_select", 6},
+    {"zuk_api", 0},         //
+    {"zuk_basic", 0},       //
+    {"zuk_os", 0},          //
+    {"zuk_msgs", 0},        //
+    {"zuk_stat", 0},        //
+    {"zuk_prg", 1},         //
+    {"zuk_io", 1},          //
+    {"zuk_proj4_d2", 1},    //
+    {"zuk_dib", 1},         //
+    {"zuk_styles", 2},      //
+    {"zuk_symbols", 2},     //
+    {"zuk_palettes", 2},    //
+    {"zuk_file_tos4", 2},   //
+    {"zuk_file_segy", 2},   //
+    {"zuk_calculator", 2},  //
+    {"zuk_datasource", 3},  //
+    {"zuk_xml_data", 3},    //
+    {"zuk_style_libs", 3},  //
+    {"zuk_lr2d", 4},        //
+    {"zuk_attr_data", 4},   //
+    {"zuk_scn_2d", 4},      //
+    {"zuk_rtr_lr2d", 4},    //
+    {"zuk_tos_lr2d", 4},    //
+    {"zuk_plot_lr2d", 4},   //
+    {"zuk_drwc", 5},        //
+    {"zuk_render", 5},      //
+    {"zuk_bmp_dc", 5},      //
+    {"zuk_viewer2d", 6},    //
+    {"zuk_select", 6},      //
+    {"zuk_tld_data", 6},    //
 };
 
 /// Library of the platform that a path belongs to, folder or header; empty if to none.

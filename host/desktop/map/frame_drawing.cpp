@@ -4,9 +4,10 @@
 
 namespace zu::desktop {
 
-frame_drawing::frame_drawing(const map_layers& layers, const Tzu_scn_2d* scene,
+frame_drawing::frame_drawing(const map_layers& layers, Tzu_scn_2d* scene,
                              const frame_request& request)
     : layers_(layers),
+      scene_(scene),
       request_(request),
       page_(zu_drwc_create_image(static_cast<std::uint64_t>(request.pixels.width()),
                                  static_cast<std::uint64_t>(request.pixels.height()),
@@ -20,6 +21,11 @@ frame_drawing::frame_drawing(const map_layers& layers, const Tzu_scn_2d* scene,
   std::wstring projection =
       host::text_of([&](Tzu_string_adp* adapter) { zu_scn_2d_get_pj4wstr(scene, adapter); });
   zu_render_set_pj4wstr(render_.get(), projection.c_str());
+}
+
+void frame_drawing::draw_next() {
+  layers_.draw(next_++, render_.get());
+  if (next_ == layers_.count()) zu_scn_2d_draw_axes(render_.get(), scene_);
 }
 
 map_frame frame_drawing::frame() const {

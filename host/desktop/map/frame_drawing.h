@@ -26,11 +26,12 @@ struct frame_request {
 
 class frame_drawing {
  public:
-  /// A frame without layers. `layers` must outlive it and may change meanwhile.
-  frame_drawing(const map_layers& layers, const Tzu_scn_2d* scene, const frame_request& request);
+  /// A frame without layers. `layers` and `scene` must outlive it and may change meanwhile.
+  frame_drawing(const map_layers& layers, Tzu_scn_2d* scene, const frame_request& request);
   /// Whether there is a layer left. False at once if no memory holds the picture.
   bool is_going_on() const { return page_ && next_ < layers_.count(); }
-  void draw_next() { layers_.draw(next_++, render_.get()); }
+  /// Draws it, and after the last one the axes of the scene.
+  void draw_next();
   /// What has been drawn so far; shares its pixels with the drawing.
   map_frame frame() const;
 
@@ -40,6 +41,7 @@ class frame_drawing {
   };
 
   const map_layers& layers_;
+  Tzu_scn_2d* scene_;
   frame_request request_;
   std::shared_ptr<Tzu_drwc> page_;
   std::unique_ptr<Izu_render, ended> render_;

@@ -67,10 +67,10 @@ void grid_widget::heard(notice what) {
 }
 
 void grid_widget::read_columns() {
-  places_.row_height = fontMetrics().height() + 6;
   places_.fixed_columns = call<&grid_impl::fixed_columns>(element_);
   places_.fixed_rows = call<&grid_impl::fixed_rows>(element_);
   places_.rows = call<&grid_impl::row_count>(element_);
+  places_.row_height = fitting_row_height();
   places_.widths.assign(call<&grid_impl::column_count>(element_), 0);
   for (std::uint32_t column = 0; column < places_.widths.size(); ++column) {
     const QString name = width_name(element_, column);
@@ -83,6 +83,15 @@ void grid_widget::read_columns() {
 void grid_widget::keep_width(std::uint32_t column) const {
   const QString name = width_name(element_, column);
   if (!name.isEmpty()) keep_choice(name, QString::number(places_.widths[column]));
+}
+
+/// By the text, or by the pictures of which the first cell shows one.
+int grid_widget::fitting_row_height() const {
+  constexpr int text_margin = 6, picture_margin = 4, highest_picture = 64;
+  const int text = fontMetrics().height() + text_margin;
+  const shown_cell first = read_cell(element_, {places_.fixed_columns, places_.fixed_rows});
+  if (first.picture.isNull()) return text;
+  return std::max(text, std::min(first.picture.height(), highest_picture) + picture_margin);
 }
 
 int grid_widget::fitting_width(std::uint32_t column) const {

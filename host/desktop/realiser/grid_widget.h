@@ -50,6 +50,7 @@ class grid_widget final : public realised<grid_impl, QAbstractScrollArea> {
 
   void read_columns();
   void keep_width(std::uint32_t column) const;
+  int fitting_row_height() const;
   int fitting_width(std::uint32_t column) const;
   void read_rows();
   void show_bars();

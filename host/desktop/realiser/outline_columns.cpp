@@ -124,6 +124,7 @@ shown_column read_column(handle any_kind) {
       !is<bitmap_outline_column_impl>(any_kind, column_kind::picture, c) &&
       !is<canvas_outline_column_impl>(any_kind, column_kind::canvas, c))
     return c;
+  if (c.kind == column_kind::picture) c.sized_pictures = cast<sized_pictures_impl>(c.column);
   c.id = text_by<&any_column::id>(c.column);
   c.caption = text_by<&any_column::caption>(c.column);
   c.hint = text_by<&any_column::hint>(c.column);

@@ -23,6 +23,7 @@ enum class column_kind {
 /// A column as it stood when the list was last built. `handle` is on the table of its kind.
 struct shown_column {
   handle column;
+  handle sized_pictures;  ///< of a column of pictures that draws them in any size
   column_kind kind = column_kind::unknown;
   QString id, caption, hint;
   bool is_visible = true;

@@ -11,6 +11,7 @@
 #include <QToolTip>
 
 #include "host/desktop/realiser/outline_editors.h"
+#include "host/desktop/realiser/pictures.h"
 #include "host/desktop/realiser/realised.h"
 #include "zu/platform/zuk_drwc.h"
 
@@ -132,12 +133,15 @@ void outline_delegate::paint_picture(QPainter* painter, const QStyleOptionViewIt
                                      const QModelIndex& index) const {
   QStyleOptionViewItem option = given;
   QStyledItemDelegate::initStyleOption(&option, index);
-  const QImage picture = index.data(Qt::DecorationRole).value<QImage>();
+  const QRect inside = option.rect.adjusted(2, 1, -2, -1);
+  const bool is_sized = static_cast<bool>(column_of(index).sized_pictures);
+  const QImage picture = is_sized ? sized_picture(painter, option, index)
+                                  : index.data(Qt::DecorationRole).value<QImage>();
   option.icon = {};
   option.features &= ~QStyleOptionViewItem::HasDecoration;
   paint_panel(painter, option);
   if (picture.isNull()) return;
-  const QRect inside = option.rect.adjusted(2, 1, -2, -1);
+  if (is_sized) return painter->drawImage(inside.topLeft(), picture);
   QSize size = picture.size();
   if (size.width() > inside.width() || size.height() > inside.height())
     size.scale(inside.size(), Qt::KeepAspectRatio);
@@ -147,6 +151,24 @@ void outline_delegate::paint_picture(QPainter* painter, const QStyleOptionViewIt
   painter->drawImage(
       QStyle::alignedRect(option.direction, column_of(index).alignment, size, inside), picture);
   painter->restore();
+}
+
+QImage outline_delegate::sized_picture(QPainter* painter, const QStyleOptionViewItem& option,
+                                       const QModelIndex& index) const {
+  const QSize inside = option.rect.adjusted(2, 1, -2, -1).size();
+  if (inside.isEmpty()) return {};
+  const double scale = painter->device()->devicePixelRatioF();
+  const int dots = option.widget != nullptr ? option.widget->logicalDpiX() : 96;
+  const handle column = column_of(index).sized_pictures;
+  QImage image;
+  model_->with_item(index, [&](outline_item item) {
+    image = picture_by<&sized_pictures_impl::picture_of>(
+                column, item, std::uint32_t(qRound(inside.width() * scale)),
+                std::uint32_t(qRound(inside.height() * scale)), dots * scale / 25.4)
+                .image;
+  });
+  image.setDevicePixelRatio(scale);
+  return image;
 }
 
 void outline_delegate::paint_canvas(QPainter* painter, const QStyleOptionViewItem& given,

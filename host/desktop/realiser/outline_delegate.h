@@ -40,6 +40,8 @@ class outline_delegate final : public QStyledItemDelegate {
                     const QModelIndex& index) const;
   void paint_mark(QPainter* painter, const QStyleOptionViewItem& option,
                   const QModelIndex& index) const;
+  QImage sized_picture(QPainter* painter, const QStyleOptionViewItem& option,
+                       const QModelIndex& index) const;
   void paint_picture(QPainter* painter, const QStyleOptionViewItem& option,
                      const QModelIndex& index) const;
   void commit_and_close(QWidget* editor) const;

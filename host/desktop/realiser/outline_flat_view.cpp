@@ -105,6 +105,17 @@ int flat_view::nearest_shown_column(int from, int step) const {
   return from;
 }
 
+QItemSelectionModel::SelectionFlags flat_view::selectionCommand(const QModelIndex& index,
+                                                                const QEvent* event) const {
+  const bool is_click = event != nullptr && (event->type() == QEvent::MouseButtonPress ||
+                                             event->type() == QEvent::MouseButtonRelease);
+  if (is_click && index.isValid() && is_for_all_chosen_ && is_for_all_chosen_(index) &&
+      static_cast<const QMouseEvent*>(event)->modifiers() == Qt::NoModifier &&
+      selectionModel()->isSelected(index))
+    return QItemSelectionModel::NoUpdate;
+  return QAbstractItemView::selectionCommand(index, event);
+}
+
 QModelIndex flat_view::moveCursor(CursorAction action, Qt::KeyboardModifiers) {
   const int rows = row_count();
   if (rows == 0 || header_->count() == 0) return {};

@@ -3,6 +3,7 @@
 // ten do. All rows have one height; the vertical scroll bar counts rows.
 
 #include <QAbstractItemView>
+#include <functional>
 
 class QHeaderView;
 
@@ -19,6 +20,10 @@ class flat_view final : public QAbstractItemView {
   QHeaderView* header() const { return header_; }
   void set_row_height(int pixels);
   int row_height() const { return row_height_; }
+  /// Cells on which a click means all chosen rows: on a chosen one it leaves them chosen.
+  void set_cells_for_all_chosen(std::function<bool(const QModelIndex&)> is_one) {
+    is_for_all_chosen_ = std::move(is_one);
+  }
   void set_lines(bool shown) { lines_ = shown; }
   /// First and last row of which a part is in sight; the last is -1 if there are no rows.
   int first_row() const;
@@ -35,6 +40,8 @@ class flat_view final : public QAbstractItemView {
   void rows_in_sight_changed();
 
  protected:
+  QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                       const QEvent* event) const override;
   QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
   int horizontalOffset() const override;
   int verticalOffset() const override;
@@ -59,6 +66,7 @@ class flat_view final : public QAbstractItemView {
   void paint_row(QPainter& painter, QStyleOptionViewItem option, int row);
 
   QHeaderView* header_;
+  std::function<bool(const QModelIndex&)> is_for_all_chosen_;
   int row_height_ = 24;
   bool lines_ = false;
   int hovered_row_ = -1;

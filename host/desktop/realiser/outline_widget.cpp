@@ -79,6 +79,9 @@ outline_widget::~outline_widget() {
 void outline_widget::make_view() {
   if (model_->is_flat()) {
     view_ = flat_ = new flat_view(this);
+    flat_->set_cells_for_all_chosen([this](const QModelIndex& index) {
+      return model_->column(index.column()).kind == column_kind::picture;
+    });
     return;
   }
   view_ = tree_ = new tree_view(this);

@@ -1,22 +1,41 @@
 // The action of each kind of tool.
 
 #include <QActionGroup>
+#include <QApplication>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenu>
 #include <QPointer>
 #include <QSignalBlocker>
+#include <QStyle>
 #include <QToolButton>
 
 #include "host/desktop/realiser/answers.h"
 #include "host/desktop/realiser/number_box.h"
+#include "host/desktop/realiser/pictures.h"
 #include "host/desktop/realiser/tool_actions.h"
 #include "host/desktop/realiser/tool_icons.h"
 #include "host/desktop/realiser/visitors.h"
 
 namespace zu::desktop {
 namespace {
+
+/// A picture that a tool draws for itself or for one of its items; null if it draws none.
+QIcon drawn_icon(handle tool, std::int32_t item) {
+  auto pictures = cast<tool_pictures_impl>(tool);
+  QIcon icon;
+  if (!pictures) return icon;
+  const int side = QApplication::style()->pixelMetric(QStyle::PM_SmallIconSize);
+  for (int scale : {1, 2}) {
+    const auto pixels = std::uint32_t(side * scale);
+    QImage image = picture_by<&tool_pictures_impl::visit>(pictures, item, pixels, pixels).image;
+    if (image.isNull()) continue;
+    image.setDevicePixelRatio(scale);
+    icon.addPixmap(QPixmap::fromImage(image));
+  }
+  return icon;
+}
 
 /// An action with the view of a tool of one kind.
 template <class tool> class action_of : public tool_action, protected link<tool> {
@@ -41,7 +60,8 @@ template <class tool> class action_of : public tool_action, protected link<tool>
     setToolTip((hint.isEmpty() ? plain_name(caption) : hint) +
                (keys.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(keys)));
     setStatusTip(text_by<&tool::description>(h));
-    setIcon(tool_icon(id()));  // of the theme in force
+    const QIcon drawn = drawn_icon(h, -1);
+    setIcon(drawn.isNull() ? tool_icon(id()) : drawn);  // of the theme in force
     setEnabled(call<&tool::enabled>(h));
     setVisible(call<&tool::visible>(h));
     set_categories(texts_by<&tool::visit_categories>(h));
@@ -133,7 +153,10 @@ class category_action final : public menu_action<category_tool_impl> {
         },
         element_);
     tools_ = std::move(now);
-    for (const auto& action : tools_) menu()->addAction(action.get());
+    for (const auto& action : tools_) {
+      action->retranslate();  // one that was there before may show something else by now
+      menu()->addAction(action.get());
+    }
   }
 
   std::vector<std::shared_ptr<tool_action>> tools_;
@@ -260,6 +283,7 @@ class multiaction_action final : public menu_action<multiaction_tool_impl> {
     menu()->clear();
     for (std::uint32_t i = 0, n = call<&multiaction_tool_impl::count>(element_); i < n; ++i) {
       auto* entry = new QAction(text_by<&multiaction_tool_impl::item_text>(element_, i), menu());
+      entry->setIcon(drawn_icon(element_, std::int32_t(i)));
       menu()->addAction(entry);
       connect(entry, &QAction::triggered, this, [this, i] { execute(i); });
     }

@@ -1,8 +1,5 @@
 #include "host/desktop/realiser/tool_icons.h"
 
-#include <algorithm>
-#include <iterator>
-
 namespace zu::desktop {
 namespace {
 
@@ -12,7 +9,8 @@ struct row {
   const char* keys = "";
 };
 
-// The spelling of the ids is theirs.
+// The spelling of the ids is theirs. Tools of which there is one for each kind of layer have
+// something behind the id that stands here.
 constexpr row rows[] = {
     // the table
     {"zu_grid_layer2d_plugin_alter_schema_tool", "configure"},
@@ -62,6 +60,35 @@ constexpr row rows[] = {
     {"zu_common_style_tool_visible_flip", "edit-select-invert"},
     {"zu_common_style_tool_gradients", "color-gradient"},
     {"zu_common_style_tool_palettes", "color-management"},
+    {"zu_common_style_tool_user_palettes_setting", "configure"},
+    {"zu_common_style_tool_dyn_gradients", "user-identity"},
+    {"zu_common_style_tool_dyn_palettes", "user-identity"},
+    {"zu_common_style_tool_color_graident", "color-gradient"},
+    {"zu_common_style_tool_size_graident", "transform-scale"},
+    {"zu_common_style_tool_opacity_graident", "object-opacity"},
+    {"zu_common_style_tool_maplegs", "description"},
+    {"zu_common_style_tool_style_libs", "folder-library"},
+    {"zu_common_style_tool_style_lib_", "bookmarks"},
+    {"zu_common_style_tool_build_value_rules", "document-import"},
+    {"zu_common_style_tool_build_range_rules_range", "document-import"},
+    {"zu_common_style_tool_value_sort_strings", "view-sort"},
+    {"zu_common_style_tool_value_sort_strings_asc", "view-sort-ascending"},
+    {"zu_common_style_tool_value_sort_strings_dsc", "view-sort-descending"},
+    {"zu_common_style_tool_value_sort_numbers", "view-sort"},
+    {"zu_common_style_tool_value_sort_numbers_asc", "view-sort-ascending"},
+    {"zu_common_style_tool_value_sort_numbers_dsc", "view-sort-descending"},
+    {"zu_common_style_tool_caption_sort_strings", "view-sort"},
+    {"zu_common_style_tool_caption_sort_strings_asc", "view-sort-ascending"},
+    {"zu_common_style_tool_caption_sort_strings_dsc", "view-sort-descending"},
+    {"zu_common_style_tool_caption_sort_numbers", "view-sort"},
+    {"zu_common_style_tool_caption_sort_numbers_asc", "view-sort-ascending"},
+    {"zu_common_style_tool_caption_sort_numbers_dsc", "view-sort-descending"},
+    {"zu_common_style_tool_minimum_sort_number", "view-sort"},
+    {"zu_common_style_tool_minimum_sort_number_asc", "view-sort-ascending"},
+    {"zu_common_style_tool_minimum_sort_number_dsc", "view-sort-descending"},
+    {"zu_common_style_tool_maximum_sort_number", "view-sort"},
+    {"zu_common_style_tool_maximum_sort_number_asc", "view-sort-ascending"},
+    {"zu_common_style_tool_maximum_sort_number_dsc", "view-sort-descending"},
     // lists of styles and levels
     {"zu_plugins_common_ui_stl_mngr_list_up_tool", "go-up"},
     {"zu_plugins_common_ui_stl_mngr_list_down_tool", "go-down"},
@@ -76,10 +103,14 @@ constexpr row rows[] = {
     {"zu_txt_style_dlgs_grid_down_tool", "go-down"},
 };
 
+/// The row with the longest id that the tool's begins with.
 const row* find(const QString& id) {
-  auto found = std::find_if(std::begin(rows), std::end(rows),
-                            [&](const row& r) { return id == QLatin1String(r.id); });
-  return found != std::end(rows) ? &*found : nullptr;
+  const row* found = nullptr;
+  for (const row& r : rows)
+    if (id.startsWith(QLatin1String(r.id)) &&
+        (found == nullptr || qstrlen(r.id) > qstrlen(found->id)))
+      found = &r;
+  return found;
 }
 
 }  // namespace

@@ -7,6 +7,8 @@
 
 namespace zu::desktop {
 
+// An id that is known may have more behind it: tools of one sort on different pages do.
+
 /// The theme's icon of a tool; null for an id that has none.
 QIcon tool_icon(const QString& id);
 /// The keys of a tool; empty for most.

@@ -230,3 +230,16 @@ ZU_API void zu_hillshade_params_set_multidirectional(Tzu_hillshade_params* param
 /// itself, or there is no memory.
 ZU_API bool zu_mgrid2d_hillshade(const Tzu_mgrid2d* grid, const Tzu_hillshade_params* params,
                                  Tzu_mgrid2d* out);
+
+// --- Lists of boxes
+
+typedef struct Tzu_boxes_d2 Tzu_boxes_d2;
+ZU_API Tzu_boxes_d2* zu_boxes_d2_create(void);  ///< empty; null if out of memory
+ZU_API void zu_boxes_d2_destroy(Tzu_boxes_d2* list);
+ZU_API void zu_boxes_d2_clear(Tzu_boxes_d2* list);
+ZU_API bool zu_boxes_d2_add(Tzu_boxes_d2* list, const Tzu_box_d2* box);  ///< false: no memory
+ZU_API uint64_t zu_boxes_d2_get_size(const Tzu_boxes_d2* list);
+/// Number of the first box from `start` on that holds the point, its edges included; -1: none.
+ZU_API int64_t zu_boxes_d2_includes(const Tzu_boxes_d2* list, double x, double y, uint64_t start);
+/// The same for a box that shares area with the given one.
+ZU_API int64_t zu_boxes_d2_crosses(const Tzu_boxes_d2* list, const Tzu_box_d2* box, uint64_t start);

@@ -3,6 +3,7 @@
 
 #include "zu/platform/zuk_drwc.h"
 #include "zu/platform/zuk_lr2d.h"
+#include "zu/platform/zuk_scn_2d.h"
 
 typedef struct Izu_render Izu_render;
 
@@ -41,3 +42,8 @@ ZU_API void zu_render_cr_pgn(Izu_render* render, const Tzu_ov_d2* rings,
 /// scene's colour of the selection, or their own. A layer of another type is left alone, and what
 /// cannot be read is not drawn.
 ZU_API void zu_tos_2crd_lr2d_draw(Izu_render* render, Izu_layer* layer);
+/// Draws a layer of the types of zuk_plot_lr2d.h; false, and nothing drawn, for another.
+ZU_API bool zu_plot_lr2d_draw(Izu_render* render, Izu_layer* layer);
+/// Draws the visible axes of a scene along the sides of the page, numbers at steps of 1, 2 or 5
+/// times a power of ten.
+ZU_API void zu_scn_2d_draw_axes(Izu_render* render, Tzu_scn_2d* scene);

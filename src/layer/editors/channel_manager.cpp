@@ -47,7 +47,7 @@ template <class model> void channel_manager<model>::reload() {
     minimum_.set_range(low, high, step_);
     maximum_.set_range(low, high, step_);
   }
-  field_.reload();
+  field_.show_current();
   bars_.set_bins(bars);
   show_limits();
 }

@@ -15,6 +15,7 @@ template <class model> class channel_manager : public toolkit::with_element {
   /// Shows a channel of a layer. Neither is kept alive.
   void set_source(const data::open_reference& source, Tzu_clr_channel* channel) {
     edited_.set_source(source, channel);
+    field_.reload();
   }
   /// An empty panel.
   void clear() { set_source({}, nullptr); }

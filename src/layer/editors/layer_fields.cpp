@@ -1,6 +1,7 @@
 #include "src/layer/editors/layer_fields.h"
 
 #include "src/bundle/strings.h"
+#include "src/style/page/colorby_field.h"
 
 namespace zu::element {
 
@@ -12,17 +13,8 @@ data::open_reference source_of(Izu_layer* layer) {
   return source;
 }
 
-std::vector<std::wstring> field_names(const data::open_reference& reference) {
-  std::vector<std::wstring> names;
-  data::generic_datasource source;
-  if (!source.open(reference, data::open_read_only)) return names;
-  std::int64_t count = source.number_of_fields();
-  for (std::int64_t field = 0; field < count; ++field) names.push_back(source.field_name(field));
-  return names;
-}
-
 void overlay_field::assign_field(const data::open_reference& source, const std::wstring& name) {
-  std::vector<std::wstring> names = field_names(source);
+  std::vector<std::wstring> names = style::detail::field_names(source);
   if (names != names_) fill(std::move(names));
   assign_value(name);
 }

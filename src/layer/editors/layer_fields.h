@@ -13,8 +13,6 @@ namespace zu::element {
 
 /// The source of an entity; empty for null.
 data::open_reference source_of(Izu_layer* layer);
-/// Names of the fields of a source; none if it does not open.
-std::vector<std::wstring> field_names(const data::open_reference& source);
 
 /// A field of the source, or the one by which the layer is styled, which has no name.
 class overlay_field : public toolkit::labeled_element<toolkit::dropdownex<std::wstring>> {

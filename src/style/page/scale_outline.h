@@ -66,6 +66,11 @@ template <class model> class scale_outline : public toolkit::outline_table {
     connection_ = m.changed.connect([this] { redraw(); });
   }
 
+  void set_enabled(bool enabled) {
+    if (replace(enabled_, enabled)) redraw();
+  }
+
+  bool is_disabled() override { return !enabled_; }
   std::uint32_t row_count() override { return static_cast<std::uint32_t>(model_.row_count()); }
   std::int64_t current_row() override {
     const std::int64_t row = model_.active_row();
@@ -90,6 +95,7 @@ template <class model> class scale_outline : public toolkit::outline_table {
   static constexpr const auto& ids = key_columns<model>::ids;
 
   model& model_;
+  bool enabled_ = true;
   key_columns<model> keys_;
   scale_outline_caption_column<model> caption_;
   scale_outline_visible_column<model> visible_;

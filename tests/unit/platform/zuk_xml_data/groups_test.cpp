@@ -71,7 +71,7 @@ TEST(style_groups, what_was_written_is_what_the_settings_were) {
   Tzu_scale_prm* row = zu_rng_scale_get_scale_prm_ptr(ranges, 1);
   zu_scale_prm_set_visible(row, false);
   row->style.colors[1] = {1, 2, 3, 4};
-  row->style.lines[0].width = 0.7;
+  zu_stl_prm_get_pln_style_ptr(&row->style, 0)->line.width = 0.7;
   Tzu_val_scale* values = zu_stl_mngr_get_val_scale_ptr(saved.get());
   zu_val_scale_set_size(values, 1);
   zu_val_scale_set_text_w(values, 0, L"sand");
@@ -88,7 +88,7 @@ TEST(style_groups, what_was_written_is_what_the_settings_were) {
   row = zu_rng_scale_get_scale_prm_ptr(ranges, 1);
   EXPECT_FALSE(zu_scale_prm_get_visible(row));
   EXPECT_EQ(row->style.colors[1].b, 3);
-  EXPECT_EQ(row->style.lines[0].width, 0.7);
+  EXPECT_EQ(zu_stl_prm_get_pln_style_ptr(&row->style, 0)->line.width, 0.7);
   values = zu_stl_mngr_get_val_scale_ptr(loaded.get());
   EXPECT_EQ(text_of([&](Tzu_string_adp* a) { zu_val_scale_get_text_w(values, 0, a); }), L"sand");
 }

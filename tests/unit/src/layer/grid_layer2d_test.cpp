@@ -7,6 +7,7 @@
 
 #include "src/bundle/strings.h"
 #include "src/layer/layer_services.h"
+#include "tests/unit/src/layer/bound_layer.h"
 #include "tests/unit/src/made_grid.h"
 #include "zu/platform/zuk_io.h"
 #include "zu/platform/zuk_lr2d.h"
@@ -15,24 +16,8 @@
 namespace {
 
 using namespace zu;
+using tests::bound_layer;
 using tests::made_grid;
-
-using entity = owned<zu_lr2d_destroy>;
-
-/// A layer object bound to an entity, ended as a host ends it.
-struct bound_layer {
-  entity host{zu_lr2d_create("grid_lr2d")};
-  toolkit::reattachable<grid_layer2d, Izu_layer*>* layer =
-      new toolkit::reattachable<grid_layer2d, Izu_layer*>;
-  layer_2d handle = handle_of<layer_2d_impl>(*layer);
-
-  explicit bound_layer(const std::wstring& source = {}) {
-    zu_lr2d_set_wsource(host.get(), source.c_str());
-    zu_lr2d_set_plugin_interface(host.get(), handle);
-    call<&layer_2d_impl::bind_entity>(handle, host.get());
-  }
-  ~bound_layer() { call<&layer_2d_impl::bind_entity>(handle, static_cast<Izu_layer*>(nullptr)); }
-};
 
 std::wstring projection_of(grid_layer2d& layer) {
   return text_of([&](Tzu_string_adp* a) {
@@ -183,7 +168,7 @@ TEST(grid_layer_of_entity, knows_its_own_kind) {
   EXPECT_EQ(grid_layer_of_entity(nullptr), nullptr);
   EXPECT_TRUE(is_grid_layer(b.host.get()));
   EXPECT_FALSE(is_grid_layer(nullptr));
-  entity other(zu_lr2d_create("rtr_lr2d"));
+  owned<zu_lr2d_destroy> other(zu_lr2d_create("rtr_lr2d"));
   EXPECT_FALSE(is_grid_layer(other.get()));
   EXPECT_EQ(grid_layer_of_entity(other.get()), nullptr);
 }

@@ -1,0 +1,110 @@
+#include "src/style/dialogs/style_dialog.h"
+
+#include "src/bundle/strings.h"
+#include "src/bundle/texts.h"
+#include "zu/platform/zuk_drwc.h"
+#include "zu/platform/zuk_msgs.h"
+#include "zu/platform/zuk_os.h"
+
+namespace zu::style::detail {
+namespace {
+
+using owned_xml = owned<zu_xml_save_style_destroy>;
+
+}  // namespace
+
+template <class traits>
+style_exchange_tools<traits>::style_exchange_tools(style* edited, std::function<void()> loaded)
+    : edited_(edited), loaded_(std::move(loaded)) {
+  copy_.on_execute = [this] { copy(); };
+  paste_.on_execute = [this] { paste(); };
+  save_.on_execute = [this] { save(); };
+  load_.on_execute = [this] { load(); };
+}
+
+template <class traits>
+void style_exchange_tools<traits>::visit_tools(toolkit::tools_visitor& into) {
+  into.toolset()
+      .tool(L"zu_common_style_dialog_copy_tool", copy_)
+      .tool(L"zu_common_style_dialog_paste_tool", paste_);
+  into.toolset()
+      .tool(L"zu_common_style_dialog_save_tool", save_)
+      .tool(L"zu_common_style_dialog_load_tool", load_);
+}
+
+template <class traits> void style_exchange_tools<traits>::copy() {
+  owned_xml xml(zu_xml_save_style_create());
+  const std::wstring text =
+      text_of([&](Tzu_string_adp* a) { traits::save_text(xml.get(), edited_, a); });
+  if (!text.empty()) zu_os_set_clipboard_w(traits::clipboard_format, text.c_str(), true);
+}
+
+template <class traits> void style_exchange_tools<traits>::paste() {
+  const std::wstring text =
+      text_of([](Tzu_string_adp* a) { zu_os_get_clipboard_w(traits::clipboard_format, a); });
+  owned_xml xml(zu_xml_save_style_create());
+  if (!text.empty() && traits::load_text(xml.get(), text.c_str(), edited_)) loaded_();
+}
+
+template <class traits> void style_exchange_tools<traits>::save() {
+  const std::wstring path = text_of([](Tzu_string_adp* a) {
+    zu_ask_save_file_w(load_text(traits::file_filter).c_str(), nullptr, a);
+  });
+  owned_xml xml(zu_xml_save_style_create());
+  if (path.empty() || traits::save_file(xml.get(), path.c_str(), edited_)) return;
+  zu_show_wwarning(
+      text_of([&](Tzu_string_adp* a) { zu_xml_save_style_get_reason_w(xml.get(), a); }).c_str());
+}
+
+template <class traits> void style_exchange_tools<traits>::load() {
+  const std::wstring path = text_of(
+      [](Tzu_string_adp* a) { zu_ask_open_file_w(load_text(traits::file_filter).c_str(), a); });
+  owned_xml xml(zu_xml_save_style_create());
+  if (!path.empty() && traits::load_file(xml.get(), path.c_str(), edited_)) loaded_();
+}
+
+template <class traits> style_dialog<traits>::style_dialog() {
+  parts_.on_change = [this] { preview_.redraw(); };
+  preview_.on_draw = [this](Tzu_drwc* page) {
+    Tzu_box_d2 whole{};
+    zu_drwc_get_page(page, &whole);
+    traits::draw(page, whole.x1, whole.y1, traits::given(own_.get()));
+  };
+  libraries_.on_pick = [this](argument from) { picked(from); };
+  buttons_.on_accept = [this] {
+    if (edited_ != nullptr) traits::assign(edited_, own_.get());
+    return true;
+  };
+  preview_frame_.place(preview_);
+  side_.place(preview_frame_);
+  if (libraries_.has_libraries()) side_.place(libraries_);
+  side_.set_row_stretch(libraries_.has_libraries() ? 1 : 2);
+  columns_.place(parts_).place(side_).set_column_stretch(0);
+  root_.place(tools_).place(columns_).place(buttons_).set_row_stretch(1);
+  reload();
+}
+
+template <class traits> void style_dialog<traits>::set(style* edited) {
+  edited_ = edited;
+  traits::assign(own_.get(), edited);
+  reload();
+}
+
+template <class traits> void style_dialog<traits>::reload() {
+  parts_.set(own_.get());
+  preview_.redraw();
+}
+
+template <class traits> void style_dialog<traits>::picked(argument from) {
+  traits::assign(own_.get(), from);
+  reload();
+}
+
+template class style_exchange_tools<point_dialog_traits>;
+template class style_exchange_tools<line_dialog_traits>;
+template class style_exchange_tools<polygon_dialog_traits>;
+template class style_dialog<point_dialog_traits>;
+template class style_dialog<line_dialog_traits>;
+template class style_dialog<polygon_dialog_traits>;
+
+}  // namespace zu::style::detail

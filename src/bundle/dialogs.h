@@ -19,17 +19,6 @@ struct data_grid_schema_dialog {
 struct segy_preview_dialog {
   static constexpr wchar_t id[] = L"zu_segy_preview_dialog";
 };
-<<<<<<< HEAD
-struct figure {
-  static constexpr wchar_t id[] = L"zu_common_figure_dialog";
-=======
-struct range_scale {
-  static constexpr wchar_t id[] = L"zu_common_plugin_range_scale_dialog";
-};
-struct value_scale {
-  static constexpr wchar_t id[] = L"zu_common_plugin_value_scale_dialog";
->>>>>>> border
-};
 struct data_filter_dialog {
   static constexpr wchar_t id[] = L"zu_plugin_common_data_filter_dailog";
 };

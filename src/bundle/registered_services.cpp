@@ -15,13 +15,10 @@
 #include "src/render/tos4_lr2d_render_services.h"
 #include "src/sources/scene_editor_services.h"
 #include "src/sources/segy_params.h"
-<<<<<<< HEAD
 #include "src/style/classes/range_scale_dialog.h"
 #include "src/style/classes/value_scale_dialog.h"
-=======
 #include "src/style/dialogs/style_dialogs.h"
 #include "src/style/pickers/figure_dialog.h"
->>>>>>> border
 #include "zu/platform/zuk_basic.h"
 
 namespace zu {

@@ -1,13 +1,9 @@
 #include "src/style/scale_file.h"
 
 #include "src/bundle/strings.h"
-<<<<<<< HEAD
 #include "src/style/classes/builders.h"
 #include "src/style/classes/scale_dialogs.h"
-=======
-#include "src/style/range_classes.h"
 #include "src/style/scale_traits.h"
->>>>>>> border
 #include "zu/platform/zuk_os.h"
 
 namespace zu::style {
@@ -56,15 +52,10 @@ bool set_up_range_scale(Tzu_stl_mngr* manager, const data::open_reference& sourc
     zu_stl_mngr_set_rng_prop_name_w(manager, field.c_str());  // the file's own may be another
     return true;
   }
-<<<<<<< HEAD
   Tzu_rng_scale* scale = zu_stl_mngr_get_rng_scale_ptr(manager);
   if (!fill_from_data(scale, source, field)) return false;
   spread_colors(scale, first_colors);
-  if (has_place && !save_range_scale(path, manager))
-=======
-  if (!fill_range_scale(zu_stl_mngr_get_rng_scale_ptr(manager), source, field)) return false;
   if (!path.empty() && !save_range_scale(path, manager))
->>>>>>> border
     save_range_scale(place_of_user(path, true), manager);
   return true;
 }

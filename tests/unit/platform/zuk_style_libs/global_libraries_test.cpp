@@ -82,6 +82,17 @@ TEST_F(global_libraries, a_change_of_the_folder_is_seen_at_the_next_call) {
   EXPECT_EQ(zu_global_lib_styles_get_libs(), nullptr);
 }
 
+TEST_F(global_libraries, a_library_that_was_handed_out_stays_as_it_was) {
+  write("styles/a._ls", "old");
+  write("styles/b._ls", "same");
+  Tzu_style_libs* all = zu_global_lib_styles_get_libs();
+  Tzu_style_lib *old = zu_style_libs_get_lib_ptr(all, 0), *same = zu_style_libs_get_lib_ptr(all, 1);
+  write("styles/a._ls", "new");
+  EXPECT_EQ(names(), (captions{L"new", L"same"}));
+  EXPECT_EQ(text_of([&](Tzu_string_adp* a) { zu_style_lib_get_caption(old, a); }), L"old");
+  EXPECT_EQ(zu_style_libs_get_lib_ptr(zu_global_lib_styles_get_libs(), 1), same);
+}
+
 TEST_F(global_libraries, a_broken_file_is_left_out_and_its_reason_is_kept) {
   write("styles/a._ls", "good");
   folder.write("styles/b._ls", "<no_library/>");

@@ -193,6 +193,11 @@ std::string gdal_text(const scale_colors& scale) {
 
 }  // namespace
 
+bool color_table::has_shares() const {
+  return std::any_of(parts.begin(), parts.end(),
+                     [](const table_part& part) { return part.low.is_share; });
+}
+
 bool color_table::is_continuous() const {
   return std::any_of(parts.begin(), parts.end(),
                      [](const table_part& part) { return !same(part.from, part.to); });

@@ -39,6 +39,7 @@ struct color_table {
   std::optional<Tzu_color> below, above;  ///< the parts; none: not drawn
   std::optional<Tzu_color> other;         ///< of what nothing else holds; none: not drawn
 
+  bool has_shares() const;
   bool is_continuous() const;  ///< a colour runs from one to another somewhere
 };
 

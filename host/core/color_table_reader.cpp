@@ -177,13 +177,10 @@ class gmt_reader {
     components_ = all_numbers(parts) && (parts.size() == 8 || parts.size() == 10)
                       ? (parts.size() - 2) / 2
                       : 1;
-    if (components_ == 1 && all_numbers(parts) && (parts.size() == 5 || parts.size() == 7))
-      components_ = parts.size() - 1 - (parts.size() == 7 ? 3 : 1);
     gmt_color from = read_color(parts, next);
     if (next == parts.size() || !number_in(parts[next]))
       return add_value(key, from, parts, next, label);
     double low = at_.number(key), high = at_.number(parts[next++]);
-    if (next == parts.size()) at_.refuse("has a value without a colour");
     gmt_color to = read_color(parts, next);
     if (next < parts.size()) at_.refuse_text(parts[next], "part of a colour");
     add_part(low, high, from, to, label);
@@ -237,6 +234,7 @@ class gmt_reader {
   }
 
   gmt_color read_color(const tokens& parts, std::size_t& next) {
+    if (next + components_ > parts.size()) at_.refuse("has a value without a colour");
     if (components_ == 1) return read_word(parts[next++]);
     tokens own(parts.begin() + static_cast<std::ptrdiff_t>(next),
                parts.begin() + static_cast<std::ptrdiff_t>(next + components_));
@@ -248,6 +246,7 @@ class gmt_reader {
     std::size_t percent = word.find('@');
     std::string_view text = word.substr(0, percent);
     gmt_color read;
+    if (text.empty()) at_.refuse_text(word, "colour");
     if (text == "-") {
       read.color = {0, 0, 0, 255};
     } else if (text.front() == '#') {

@@ -104,7 +104,9 @@ std::optional<Tzu_color> color_of(Tzu_scale_prm* row) {
 
 struct scale_colors {
   explicit scale_colors(Tzu_rng_scale* scale)
-      : below(color_of(zu_rng_scale_get_min_prm_ptr(scale))),
+      : minimum(zu_rng_scale_get_min_value(scale)),
+        maximum(zu_rng_scale_get_max_value(scale)),
+        below(color_of(zu_rng_scale_get_min_prm_ptr(scale))),
         above(color_of(zu_rng_scale_get_max_prm_ptr(scale))),
         other(color_of(zu_rng_scale_get_other_prm_ptr(scale))) {
     for (std::uint64_t i = 0; i < zu_rng_scale_get_size(scale); ++i) {
@@ -121,6 +123,7 @@ struct scale_colors {
     std::optional<Tzu_color> color;
     std::string label;
   };
+  double minimum, maximum;
   std::vector<one> classes;
   std::optional<Tzu_color> below, above, other;
 };
@@ -159,13 +162,14 @@ std::string qgis_text(const scale_colors& scale) {
                   const std::string& label) {
     text += value + ',' + four(color, ',') + ',' + (label.empty() ? value : label) + '\n';
   };
-  double end = scale.classes.front().low;
+  double end = scale.minimum;
   line(text_of_number(end), scale.below, "");
   for (const auto& each : scale.classes) {
     if (each.low > end) line(text_of_number(each.low), scale.other, "");
     line(text_of_number(each.high), each.color, each.label);
     end = each.high;
   }
+  if (scale.maximum > end) line(text_of_number(scale.maximum), scale.other, "");
   line("inf", scale.above, "");
   return text;
 }
@@ -175,19 +179,21 @@ std::string gdal_text(const scale_colors& scale) {
   auto line = [&](double value, const std::optional<Tzu_color>& color) {
     text += text_of_number(value) + ' ' + four(color, ' ') + '\n';
   };
+  constexpr double infinity = std::numeric_limits<double>::infinity();
   // A class is two points: colours are mixed between points, and none lies between these.
-  auto behind = [](double value) {
-    return std::nextafter(value, std::numeric_limits<double>::infinity());
+  auto range = [&](double low, double high, const std::optional<Tzu_color>& color) {
+    line(std::nextafter(low, infinity), color);
+    line(high, color);
   };
-  double end = scale.classes.front().low;
+  double end = scale.minimum;
   line(end, scale.below);
   for (const auto& each : scale.classes) {
-    if (each.low > end) line(behind(end), scale.other), line(each.low, scale.other);
-    line(behind(each.low), each.color);
-    line(each.high, each.color);
+    if (each.low > end) range(end, each.low, scale.other);
+    range(each.low, each.high, each.color);
     end = each.high;
   }
-  line(behind(end), scale.above);
+  if (scale.maximum > end) range(end, scale.maximum, scale.other), end = scale.maximum;
+  line(std::nextafter(end, infinity), scale.above);
   return text + "nv " + four(scale.other, ' ') + '\n';
 }
 

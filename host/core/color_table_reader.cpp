@@ -7,6 +7,7 @@
 #include <fstream>
 #include <functional>
 #include <iterator>
+#include <limits>
 
 #include "host/core/color_names.h"
 #include "host/core/color_tables.h"
@@ -100,10 +101,22 @@ struct point {
   std::string label;
 };
 
+/// Points that only a rounding is between are a step at one value.
+void join_steps(std::vector<point>& points) {
+  constexpr double infinity = std::numeric_limits<double>::infinity();
+  double span = points.back().value.number - points.front().value.number;
+  for (std::size_t i = 1; i < points.size(); ++i) {
+    double before = points[i - 1].value.number;
+    if (points[i].value.number <= std::max(std::nextafter(before, infinity), before + span * 1e-12))
+      points[i].value.number = before;
+  }
+}
+
 color_table between(std::vector<point> points, const lines& at) {
   if (points.size() < 2) at.refuse("needs two values at least");
   std::stable_sort(points.begin(), points.end(),
                    [](const point& a, const point& b) { return a.value.number < b.value.number; });
+  join_steps(points);
   color_table table;
   table.below = points.front().color, table.above = points.back().color;
   for (std::size_t i = 1; i < points.size(); ++i) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 
@@ -57,9 +58,13 @@ class style_dialogs : public testing::Test {
     // No libraries but those that a test makes.
     former_libs_ = zu_options_get_style_libs_path();
     zu_options_set_style_libs_path(path("libs").c_str());
+    if (const char* former = std::getenv("XDG_DATA_HOME")) former_home_ = former;
+    setenv("XDG_DATA_HOME", folder_.c_str(), 1);
   }
   void TearDown() override {
     zu_options_set_style_libs_path(former_libs_.c_str());
+    former_home_.empty() ? unsetenv("XDG_DATA_HOME")
+                         : setenv("XDG_DATA_HOME", former_home_.c_str(), 1);
     std::filesystem::remove_all(folder_);
   }
 
@@ -68,6 +73,7 @@ class style_dialogs : public testing::Test {
   tests::held_clipboard clipboard_;
   std::filesystem::path folder_;
   std::wstring former_libs_;
+  std::string former_home_;
   owned_point point_{zu_pnt_style_create()};
   owned_line line_{zu_pln_style_create()};
   owned_polygon polygon_{zu_pgn_style_create()};
@@ -346,9 +352,20 @@ TEST_F(style_dialogs, the_preview_is_drawn_anew_at_each_change) {
   call<&canvas_impl::attach_view>(preview, element_view());
 }
 
-TEST_F(style_dialogs, without_libraries_there_is_no_list_of_styles) {
+TEST_F(style_dialogs, without_libraries_there_is_no_choice_of_one) {
   point_dialog d(point_.get());
-  EXPECT_FALSE(d.form.one<outline_impl>());
+  EXPECT_FALSE(d.form.has_label(14905));
+  EXPECT_TRUE(d.form.one<outline_impl>());  // of favourites
+}
+
+TEST_F(style_dialogs, the_style_in_the_forms_becomes_a_favourite_and_is_picked_again) {
+  point_dialog d(point_.get());
+  d.form.type(size_label, 6);
+  d.form.use_tool(L"zu_common_style_favorites_append_tool");
+  d.form.type(size_label, 1);
+  toolkit::outline_table_item_index row(0);
+  call<&outline_impl::set_current>(d.form.one<outline_impl>(), row.item());
+  EXPECT_EQ(d.form.number(size_label), 6);
 }
 
 TEST_F(style_dialogs, a_style_is_picked_from_a_library) {

@@ -73,9 +73,11 @@ class style_form {
   }
   bool accept() { return call<&button_box_impl::press>(one<button_box_impl>(), 0); }
   bool refuse() { return call<&button_box_impl::press>(one<button_box_impl>(), 1); }
+  /// Of any of the tool bars.
   void use_tool(const std::wstring& id) {
     tool_set_taker taker;
-    call<&toolbar_impl::visit>(one<toolbar_impl>(), taker.visitor());
+    for (int i = 0; auto bar = find<toolbar_impl>(elements_, i); ++i)
+      call<&toolbar_impl::visit>(bar, taker.visitor());
     execute(taker.sets, id);
   }
   template <class impl> of<impl> one() { return find<impl>(elements_); }

@@ -210,7 +210,7 @@ TEST_F(value_table, a_click_on_a_sample_edits_that_style_of_the_row) {
   EXPECT_EQ(reds(), (std::vector<int>{0, 77}));
   click(selected, 0);
   EXPECT_EQ(m.get_style(0, selection)->r, 77);
-  EXPECT_EQ(color(0).r, 0);
+  EXPECT_EQ(color(0)[0], 0);
   EXPECT_EQ(told, 2);
 }
 

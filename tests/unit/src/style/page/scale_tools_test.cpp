@@ -197,11 +197,11 @@ TEST_F(value_tools, spread_an_array_over_the_rows_as_a_ramp_or_colour_by_colour)
   std::vector<Tzu_color> ramp(3), turns(3);
   ASSERT_TRUE(zu_clr_arrays_generate_ex(8, 3, ramp.data(), 0));
   ASSERT_TRUE(zu_clr_arrays_generate_ex(8, 3, turns.data(), 1));
-  ASSERT_FALSE(ramp[1] == turns[1]);
+  ASSERT_NE(ramp[1].g, turns[1].g);
   act(L"zu_common_style_tool_rainbow_grad");
-  for (int i = 0; i < 3; ++i) EXPECT_EQ(color(i).g, ramp[i].g) << i;
+  for (int i = 0; i < 3; ++i) EXPECT_EQ(color(i)[1], ramp[static_cast<std::size_t>(i)].g);
   act(L"zu_common_style_tool_rainbow_palette");
-  for (int i = 0; i < 3; ++i) EXPECT_EQ(color(i).g, turns[i].g) << i;
+  for (int i = 0; i < 3; ++i) EXPECT_EQ(color(i)[1], turns[static_cast<std::size_t>(i)].g);
   EXPECT_EQ(told, 2);
 }
 

@@ -2,7 +2,7 @@
 
 # The floors that both are built of, without the list of what each one offers.
 zu_sources(floor_sources src/bundle)
-foreach(folder toolkit viewer)
+foreach(folder toolkit viewer data style/classes)
   zu_sources(found src/${folder})
   list(APPEND floor_sources ${found})
 endforeach()

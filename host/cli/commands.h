@@ -29,6 +29,7 @@ command add_render(CLI::App& options);
 command add_info(CLI::App& options);
 command add_convert(CLI::App& options);
 command add_probe(CLI::App& options);
+command add_classify(CLI::App& options);
 command add_project(CLI::App& options);
 command add_config(CLI::App& options);
 

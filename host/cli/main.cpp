@@ -29,6 +29,7 @@ constexpr entry commands[] = {
     {"info", "say what a grid holds", &add_info},
     {"convert", "put a grid into a .pgrid file", &add_convert},
     {"probe", "say what a grid has at a point", &add_probe},
+    {"classify", "make classes of the values of a grid", &add_classify},
     {"project", "keep scenes of layers in a file and draw them", &add_project},
     {"config", "choose what holds for all projects", &add_config},
 };

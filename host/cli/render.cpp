@@ -3,6 +3,7 @@
 #include <memory>
 #include <tuple>
 
+#include "host/cli/class_options.h"
 #include "host/cli/commands.h"
 #include "host/cli/option_texts.h"
 #include "host/cli/page_options.h"
@@ -16,6 +17,7 @@ namespace {
 constexpr char footer[] = R"(Examples:
   zugrid render dem.tif -o dem.png
   zugrid render dem.tif -o dem.png --breaks 0,200,500,1000 --colors "#1a9850,#fee08b,#d73027"
+  zugrid render dem.tif -o dem.png --classify natural --count 7 --seed 1
   zugrid render landuse.tif -o landuse.png --values "1=#ff0000,2=#00ff00" --other "#cccccc"
   zugrid render scene.tif -o gray.tif --draw gray --field "Band 4" --limits 0,4000
   zugrid render dem.tif -o world.png --crs EPSG:3857 --size 1920x1080
@@ -30,6 +32,8 @@ struct texts {
   page_texts page;
   std::string crs, draw, field, rgb, limits, breaks, colors, other, values, simple, hillshade,
       isolines;
+  class_texts classes;
+  bool unique = false;
   std::optional<std::int64_t> slice;
   bool interpolate = false;
   int transparency = 0;
@@ -42,15 +46,26 @@ host::draw_type draw_of(const std::string& text) {
   return host::draw_type::rgb;
 }
 
+/// One way to make a scale goes with no other.
+void check_scale(const host::layer_look& look) {
+  bool breaks = !look.breaks.empty(), values = !look.values.empty();
+  if (look.classes && (breaks || values || look.simple || look.unique_values))
+    throw usage_error("--classify: goes without --breaks, --values, --unique and --simple");
+  if (look.unique_values && (breaks || values || look.simple || !look.colors.empty()))
+    throw usage_error("--unique: goes without --breaks, --colors, --values and --simple");
+}
+
 /// What does not go together.
 void check(const host::layer_look& look) {
   using host::draw_type;
+  check_scale(look);
   if (look.simple && (!look.values.empty() || !look.breaks.empty() || !look.colors.empty()))
     throw usage_error("--simple: one colour needs no --values, --breaks or --colors");
   if (!look.values.empty() && (!look.breaks.empty() || !look.colors.empty()))
     throw usage_error("--values: takes its colours itself, without --breaks and --colors");
   std::size_t classes = look.breaks.empty() ? host::default_classes : look.breaks.size() - 1;
-  if (!look.colors.empty() && look.colors.size() != classes && look.colors.size() != classes + 2)
+  if (!look.classes && !look.colors.empty() && look.colors.size() != classes &&
+      look.colors.size() != classes + 2)
     throw usage_error("--colors: " + std::to_string(classes) + " classes take " +
                       std::to_string(classes + 2) + " colours, or " + std::to_string(classes) +
                       " to hide the tails; these are " + std::to_string(look.colors.size()));
@@ -60,7 +75,7 @@ void check(const host::layer_look& look) {
   if (!look.rgb.empty() && look.draw && look.draw != draw_type::rgb)
     throw usage_error("--rgb: goes with --draw rgb");
   bool scale = !look.breaks.empty() || !look.colors.empty() || !look.values.empty() ||
-               look.simple || look.other;
+               look.simple || look.other || look.classes || look.unique_values;
   if (scale && (channels || look.draw == draw_type::image))
     throw usage_error("--draw: a scale's options go with --draw scale");
   bool own_fields = look.draw == draw_type::rgb || look.draw == draw_type::image ||
@@ -85,6 +100,11 @@ host::layer_look look_of(const texts& given) {
   if (!given.simple.empty()) look.simple = color_of("--simple", given.simple);
   if (!given.hillshade.empty()) look.hillshade = hillshade_of("--hillshade", given.hillshade);
   if (!given.isolines.empty()) look.isolines = isolines_of("--isolines", given.isolines);
+  if (!given.classes.method.empty())
+    look.classes = request_of(given.classes);
+  else if (given.classes.any_but_method())
+    throw usage_error("--classify: says how classes are made; without it they have no options");
+  look.unique_values = given.unique;
   look.slice = given.slice;
   look.interpolate = given.interpolate;
   look.transparency = given.transparency;
@@ -98,7 +118,10 @@ int run(const texts& given) {
   if (!given.crs.empty()) check_projection("--crs", given.crs);
   check_output(given.page.output, given.sources);
 
-  host::bundle services;
+  bool makes_classes = look.classes || look.unique_values;
+  host::bundle services(makes_classes ? std::vector<std::string>{host::classes_bundle}
+                                      : std::vector<std::string>());
+  if (makes_classes) look.builder = host::class_builder(services);
   host::scene scene(services);
   for (const std::string& source : given.sources) scene.add(source);
   if (!given.crs.empty()) scene.set_projection(given.crs);
@@ -129,6 +152,8 @@ command add_render(CLI::App& options) {
       ->type_name("MIN,MAX");
   options.add_option("--breaks", given->breaks, "boundaries B0,...,Bn: n classes and two tails")
       ->type_name("B0,...,Bn");
+  add_class_options(options, "--classify", given->classes);
+  options.add_flag("--unique", given->unique, "a value scale of the values that the field has");
   options
       .add_option("--colors", given->colors,
                   "n+2 colours, lower tail first, or n and the tails are hidden; #rrggbb or "

@@ -116,6 +116,7 @@ bundle::bundle(const std::vector<std::string>& further) : dialogs_(std::make_uni
 
 bundle::~bundle() {
   dialogs_->services.clear();
+  classes_.clear();
   viewer_extensions_.clear();
   tools_.clear();
   layer_editors_.clear();
@@ -160,6 +161,8 @@ void bundle::take_services() {
     take_untyped<scene_2d_editor_extension_service_impl,
                  scene_2d_editor_extension_service_visitor_impl>(factory, owner, editors_);
     take_untyped<objinfo_service_impl, objinfo_service_visitor_impl>(factory, owner, infos_);
+    take_untyped<class_builder_service_impl, class_builder_service_visitor_impl>(factory, owner,
+                                                                                 classes_);
     take_untyped<modal_dialog_service_impl, modal_dialog_service_visitor_impl>(factory, owner,
                                                                                dialogs_->services);
     take_named<layer_2d_editor_extension_service_impl,

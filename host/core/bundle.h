@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "zu/classes.h"
 #include "zu/editors.h"
 #include "zu/layer2d.h"
 #include "zu/objinfo.h"
@@ -64,6 +65,11 @@ class bundle final : service_factory_receiver_impl {
   const std::vector<scene_editor_filter>& filters() const { return filters_; }
   const std::vector<strong_ref<objinfo_service_impl>>& object_infos() const { return infos_; }
 
+  /// Who makes classes of scales; empty if no bundle does.
+  class_builder_service classes() const {
+    return classes_.empty() ? class_builder_service() : classes_.front().get();
+  }
+
   /// Namespace and factory of every entry, in the bundles' order.
   const std::vector<std::pair<std::wstring, service_factory>>& factories() const {
     return factories_;
@@ -91,6 +97,7 @@ class bundle final : service_factory_receiver_impl {
   std::vector<named_service<layer_2d_editor_extension_service_impl>> layer_editors_;
   std::vector<named_service<tool_service_impl>> tools_;
   std::vector<named_service<viewer_2d_extension_service_impl>> viewer_extensions_;
+  std::vector<strong_ref<class_builder_service_impl>> classes_;
   std::unique_ptr<dialogs> dialogs_;
 };
 

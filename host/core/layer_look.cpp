@@ -17,6 +17,9 @@ constexpr char slice_type[] = "tos_slice_lr2d";
 /// Array 5 runs from blue through white to red.
 constexpr std::int32_t default_colors = 5;
 
+constexpr wchar_t unique_values_cut[] =
+    L"the field has more than 1000 values; the others show as those that no value holds";
+
 void paint(Tzu_scale_prm* row, Tzu_color color, bool visible) {
   zu_scale_prm_set_visible(row, visible);
   zu_stl_prm_clr_set_all(zu_scale_prm_get_stl_prm_ptr(row), color, 0);
@@ -40,11 +43,28 @@ std::vector<double> equal_intervals(const source& data, std::size_t field, std::
   return breaks;
 }
 
+void set_breaks(const std::vector<double>& breaks, Tzu_rng_scale* scale) {
+  zu_rng_scale_set_size(scale, breaks.size() - 1);
+  zu_rng_scale_set_min_value(scale, breaks.front());
+  zu_rng_scale_set_max_value(scale, breaks.back());
+  for (std::size_t i = 0; i + 1 < breaks.size(); ++i) {
+    zu_rng_scale_set_min(scale, i, breaks[i]);
+    zu_rng_scale_set_max(scale, i, breaks[i + 1]);
+  }
+}
+
 void set_range_scale(const layer_look& look, const source& data, std::size_t field,
                      Tzu_rng_scale* scale) {
-  std::vector<double> breaks =
-      look.breaks.empty() ? equal_intervals(data, field, default_classes) : look.breaks;
-  std::size_t classes = breaks.size() - 1;
+  if (look.classes)
+    build_classes(look.builder, *look.classes, data, field, scale);
+  else
+    set_breaks(look.breaks.empty() ? equal_intervals(data, field, default_classes) : look.breaks,
+               scale);
+  std::size_t classes = zu_rng_scale_get_size(scale);
+  if (!look.colors.empty() && look.colors.size() != classes && look.colors.size() != classes + 2)
+    throw failure(data.name(), "has " + std::to_string(classes) + " classes, which take as many " +
+                                   "colours or two more; these are " +
+                                   std::to_string(look.colors.size()));
   bool tails = look.colors.size() != classes;
   std::vector<Tzu_color> colors = look.colors;
   if (colors.empty()) {
@@ -54,14 +74,9 @@ void set_range_scale(const layer_look& look, const source& data, std::size_t fie
     colors.insert(colors.begin(), colors.front());
     colors.push_back(colors.back());
   }
-  zu_rng_scale_set_size(scale, classes);
-  zu_rng_scale_set_min_value(scale, breaks.front());
-  zu_rng_scale_set_max_value(scale, breaks.back());
   paint(zu_rng_scale_get_min_prm_ptr(scale), colors.front(), tails);
   paint(zu_rng_scale_get_max_prm_ptr(scale), colors.back(), tails);
   for (std::size_t i = 0; i < classes; ++i) {
-    zu_rng_scale_set_min(scale, i, breaks[i]);
-    zu_rng_scale_set_max(scale, i, breaks[i + 1]);
     paint(zu_rng_scale_get_scale_prm_ptr(scale, i), colors[i + 1], true);
   }
   paint_other(zu_rng_scale_get_other_prm_ptr(scale), look);
@@ -76,6 +91,18 @@ void set_value_scale(const layer_look& look, Tzu_val_scale* scale) {
   paint_other(zu_val_scale_get_other_prm_ptr(scale), look);
 }
 
+/// A row for each value of the field, coloured by an array.
+void set_unique_values(const layer_look& look, const source& data, std::size_t field,
+                       Tzu_val_scale* scale) {
+  if (!fill_unique_values(look.builder, data, field, scale))
+    zu_problems_add(wide(data.name()).c_str(), zu_problem_part, unique_values_cut);
+  std::vector<Tzu_color> colors(zu_val_scale_get_size(scale));
+  zu_clr_arrays_generate_ex(default_colors, colors.size(), colors.data(), 0);
+  for (std::size_t i = 0; i < colors.size(); ++i)
+    paint(zu_val_scale_get_scale_prm_ptr(scale, i), colors[i], true);
+  paint_other(zu_val_scale_get_other_prm_ptr(scale), look);
+}
+
 void set_style(const layer_look& look, const source& data, Tzu_stl_mngr* manager) {
   if (look.simple) {
     zu_stl_mngr_set_mode(manager, zu_style_simple);
@@ -87,10 +114,14 @@ void set_style(const layer_look& look, const source& data, Tzu_stl_mngr* manager
   }
   std::size_t field = colored_field(look, data);
   std::wstring name = wide(data.fields().at(field).name);
-  if (!look.values.empty()) {
+  if (!look.values.empty() || look.unique_values) {
     zu_stl_mngr_set_mode(manager, zu_style_value);
     zu_stl_mngr_set_val_prop_name_w(manager, name.c_str());
-    set_value_scale(look, zu_stl_mngr_get_val_scale_ptr(manager));
+    Tzu_val_scale* scale = zu_stl_mngr_get_val_scale_ptr(manager);
+    if (look.unique_values)
+      set_unique_values(look, data, field, scale);
+    else
+      set_value_scale(look, scale);
   } else {
     zu_stl_mngr_set_mode(manager, zu_style_range);
     zu_stl_mngr_set_rng_prop_name_w(manager, name.c_str());

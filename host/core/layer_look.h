@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "host/core/classes.h"
 #include "host/core/scene.h"
 #include "zu/platform/zuk_styles.h"
 
@@ -35,6 +36,9 @@ struct layer_look {
   std::vector<std::string> rgb;                     ///< three names, or none
   std::optional<std::pair<double, double>> limits;  ///< of gray or rgb; none: the field's
   std::vector<double> breaks;                       ///< n + 1 rising ones; none: from the data
+  class_builder_service builder;                    ///< for the next two
+  std::optional<class_request> classes;             ///< breaks that are made of the field
+  bool unique_values = false;                       ///< a value scale of the field's own values
   std::vector<Tzu_color> colors;                    ///< n + 2, n with hidden tails, or none
   std::vector<std::pair<std::string, Tzu_color>> values;  ///< a value scale
   std::optional<Tzu_color> simple;
@@ -47,11 +51,12 @@ struct layer_look {
 
   bool colors_nothing_but_lines() const {
     return !draw && field.empty() && rgb.empty() && breaks.empty() && colors.empty() &&
-           values.empty() && !other && !hillshade && !isolines && !slice;
+           values.empty() && !classes && !unique_values && !other && !hillshade && !isolines &&
+           !slice;
   }
   bool styles_a_scale() const {
     return !field.empty() || !breaks.empty() || !colors.empty() || !values.empty() || simple ||
-           other;
+           classes || unique_values || other;
   }
 };
 

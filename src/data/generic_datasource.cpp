@@ -228,6 +228,14 @@ double generic_datasource::field_stddev(std::int64_t field) {
   return record.stddev;
 }
 
+bool generic_datasource::knows_statistics(std::int64_t field) const {
+  double value = 0.0;
+  return call<&stat_source_impl::minimum>(stat_, field, &value) &&
+         call<&stat_source_impl::maximum>(stat_, field, &value) &&
+         call<&stat_source_impl::mean>(stat_, field, &value) &&
+         call<&stat_source_impl::stddev>(stat_, field, &value);
+}
+
 bool generic_datasource::read_statistics(std::int64_t field, std::uint64_t most,
                                          Tzu_progress* progress) {
   Tzu_field_stat read = {};

@@ -79,6 +79,8 @@ class generic_datasource {
   double field_mean(std::int64_t field);
   double field_stddev(std::int64_t field);
   std::uint64_t field_count(std::int64_t field);  ///< valid values
+  /// Whether the source keeps least, greatest value, mean and deviation itself.
+  bool knows_statistics(std::int64_t field) const;
   /// Has the platform read a field in one pass, so that the five above know it: all of it, or, if
   /// it has more than `most` cells (0: no limit), a sample. The window of `progress`, which may be
   /// null, shows it. False if it was stopped, or if the source is none of the platform's.

@@ -40,11 +40,12 @@ class common_module : public testing::Test {
   std::vector<named_receiver::visit> factories_;
 };
 
-TEST_F(common_module, offers_the_modes_of_viewers_and_the_gallery) {
-  ASSERT_EQ(factories_.size(), 4u);  // the localizer client is the first
+TEST_F(common_module, offers_the_modes_of_viewers_the_gallery_and_classes_of_scales) {
+  ASSERT_EQ(factories_.size(), 5u);  // the localizer client is the first
   EXPECT_EQ(factories_[1].id, L"zugrid/viewer/2d");
   EXPECT_EQ(factories_[2].id, L"zugrid/gallery");
   EXPECT_EQ(factories_[3].id, L"");  // its dialog
+  EXPECT_EQ(factories_[4].id, L"zugrid/classes");
 }
 
 }  // namespace

@@ -28,7 +28,8 @@ bool fill_from_data(Tzu_rng_scale* scale, const data::open_reference& source,
   std::int64_t index = grid.find_field(field);
   if (index < 0) return false;
   bool large = cells_of(grid) > most_cells_read_whole;
-  grid.read_statistics(index, large ? cells_of_estimate : 0, nullptr);
+  if (!grid.knows_statistics(index))
+    grid.read_statistics(index, large ? cells_of_estimate : 0, nullptr);
   zu_rng_scale_init_opacity_pts(scale);
   set_equal_intervals(scale, {default_classes, grid.field_minimum(index), grid.field_maximum(index),
                               zu_rng_scale_get_round_digits(scale)});
@@ -53,7 +54,7 @@ bool run_range_scale_dialog(Tzu_rng_scale* scale, const data::open_reference& so
     std::int64_t index = grid.find_field(field);
     if (index < 0) return false;
     owned<zu_progress_destroy> progress(zu_progress_create(1));
-    grid.read_statistics(index, 0, progress.get());
+    if (!grid.knows_statistics(index)) grid.read_statistics(index, 0, progress.get());
     if (!zu_progress_get_stopped(progress.get())) {
       grid.fill_stat(stat.get(), index);
       grid.read_histogram(stat.get(), index, progress.get());

@@ -36,24 +36,26 @@ void set_row(Tzu_val_scale* scale, std::uint64_t row, const std::wstring& value)
 }  // namespace
 
 bool read_unique_values(const data::open_reference& source, const std::wstring& field,
-                        unique_texts& out, bool* all) {
+                        std::int64_t limit, unique_texts& out) {
   data::grid_datasource grid;
   if (!grid.open(source, data::open_read_only)) return false;
   std::int64_t index = grid.find_field(field);
   if (index < 0) return false;
-  auto read = [&](std::int64_t limit) {
-    data::shown_reading shown(grid);
-    std::vector<std::wstring> texts;
-    if (!grid.field_unique_values(index, limit, texts)) return false;
-    // A reader may overshoot: it counts after a whole tile.
-    if (static_cast<std::int64_t>(texts.size()) > limit)
-      texts.resize(static_cast<std::size_t>(limit));
-    out = unique_texts(texts.begin(), texts.end());
-    return true;
-  };
-  if (!read(unique_limit)) return false;
+  data::shown_reading shown(grid);
+  std::vector<std::wstring> texts;
+  if (!grid.field_unique_values(index, limit, texts)) return false;
+  // A reader may overshoot: it counts after a whole tile.
+  if (static_cast<std::int64_t>(texts.size()) > limit)
+    texts.resize(static_cast<std::size_t>(limit));
+  out = unique_texts(texts.begin(), texts.end());
+  return true;
+}
+
+bool read_unique_values(const data::open_reference& source, const std::wstring& field,
+                        unique_texts& out, bool* all) {
+  if (!read_unique_values(source, field, unique_limit, out)) return false;
   bool is_cut = static_cast<std::int64_t>(out.size()) >= unique_limit;
-  if (is_cut && ask_for_all()) is_cut = !read(limit_of_all);
+  if (is_cut && ask_for_all()) is_cut = !read_unique_values(source, field, limit_of_all, out);
   if (all != nullptr) *all = !is_cut;
   return true;
 }

@@ -24,6 +24,10 @@ inline constexpr std::int64_t unique_limit = 1000;
 bool read_unique_values(const data::open_reference& source, const std::wstring& field,
                         unique_texts& out, bool* all);
 
+/// The same without asking: at most `limit`.
+bool read_unique_values(const data::open_reference& source, const std::wstring& field,
+                        std::int64_t limit, unique_texts& out);
+
 /// Without white space at its ends.
 std::wstring trimmed(const std::wstring& text);
 

@@ -160,6 +160,10 @@ TEST(pgrid_source, statistics_of_empty_tiles_are_those_of_their_cells) {
   EXPECT_TRUE(zu_datasource_compute_stat(s.get(), 0, 1000, nullptr, nullptr, &stat));
   EXPECT_TRUE(stat.estimate);
   EXPECT_LE(stat.count, 6000u / 4);
+  std::int64_t counts[2];
+  EXPECT_TRUE(zu_datasource_compute_histogram(s.get(), 0, 2, 0, 6, nullptr, nullptr, counts));
+  EXPECT_EQ(counts[0], 5120) << "the empty tiles too";
+  EXPECT_EQ(counts[1], 880);
 }
 
 TEST(pgrid_source, statistics_of_a_grid_that_is_almost_empty_come_at_once) {

@@ -176,6 +176,11 @@ TEST_F(segy_source_test, statistics_are_those_of_all_samples) {
   ASSERT_TRUE(zu_datasource_compute_stat(source_, 0, 3, nullptr, nullptr, &stat));
   EXPECT_LE(stat.count, 3U);
   EXPECT_TRUE(stat.estimate);
+  std::int64_t counts[3];
+  EXPECT_TRUE(zu_datasource_compute_histogram(source_, 0, 3, 0, 201, nullptr, nullptr, counts));
+  EXPECT_EQ(counts[0], 2);
+  EXPECT_EQ(counts[1], 2);
+  EXPECT_EQ(counts[2], 2);
 }
 
 class segy_pyramid_test : public segy_source_test {

@@ -6,7 +6,7 @@
 
 #include "src/style/classes/scale_dialogs.h"
 #include "tests/unit/src/made_grid.h"
-#include "tests/unit/src/style/classes/made_scale.h"
+#include "tests/unit/src/style/classes/made_range_scale.h"
 #include "zu/platform/zuk_os.h"
 
 namespace {
@@ -25,7 +25,7 @@ class english {
   std::int32_t before_;
 };
 
-class equal_intervals : public tests::made_scale {};
+class equal_intervals : public tests::made_range_scale {};
 
 TEST_F(equal_intervals, share_their_boundaries) {
   style::set_equal_intervals(scale_, {4, 0, 10, unrounded});
@@ -51,7 +51,7 @@ TEST_F(equal_intervals, have_no_width_where_it_is_no_finite_number) {
   EXPECT_EQ(boundaries(), (list{5, 5, 5, 5, 5, 5}));
 }
 
-class deviation_classes : public tests::made_scale {};
+class deviation_classes : public tests::made_range_scale {};
 
 TEST_F(deviation_classes, lie_evenly_about_the_mean) {
   style::set_deviation_classes(scale_, {4, 100, 10, 2, unrounded});
@@ -77,7 +77,7 @@ TEST_F(deviation_classes, without_a_deviation_have_equal_boundaries) {
   EXPECT_EQ(boundaries(), (list{0, 0, 0, 0, 0, 0}));
 }
 
-class quantiles : public tests::made_scale {
+class quantiles : public tests::made_range_scale {
  protected:
   quantiles() { fill(0, 10, {1, 3, 0, 4, 2}); }  // heights 0 1 4 4 8 10 at 0 2 4 6 8 10
   void fill(double low, double high, const list& counts) {
@@ -134,7 +134,7 @@ TEST_F(quantiles, of_an_empty_histogram_have_their_outer_boundaries_alone) {
   EXPECT_EQ(boundaries(), (list{1, 9}));
 }
 
-class logarithmic : public tests::made_scale {
+class logarithmic : public tests::made_range_scale {
  protected:
   list built(const style::logarithmic_params& params) {
     style::set_logarithmic(scale_, params);
@@ -182,7 +182,7 @@ TEST_F(logarithmic, boundaries_end_where_numbers_do) {
   EXPECT_EQ(style::logarithmic_boundaries({0, 0, 0, std::nan(""), 0}), (list{0, 1}));
 }
 
-class geometrical : public tests::made_scale {};
+class geometrical : public tests::made_range_scale {};
 
 TEST_F(geometrical, boundaries_grow_by_one_factor) {
   style::set_geometrical(scale_, {3, 1, 1000, 0});
@@ -206,7 +206,7 @@ TEST_F(geometrical, boundaries_swap_limits_that_fall_and_are_none_for_no_classes
   EXPECT_EQ(boundaries(), (list{0, 0}));
 }
 
-class manual : public tests::made_scale {};
+class manual : public tests::made_range_scale {};
 
 TEST_F(manual, classes_are_taken_as_they_are) {
   style::set_manual(scale_, {{1, 2}, {5, 7}}, unrounded);
@@ -225,7 +225,7 @@ TEST_F(manual, captions_are_of_the_numbers_before_they_are_rounded) {
   EXPECT_EQ(lowest_caption(), L"up to 1.25");
 }
 
-class rounding : public tests::made_scale {
+class rounding : public tests::made_range_scale {
  protected:
   list rounded(std::int32_t digits, double low, double high) {
     style::set_equal_intervals(scale_, {1, low, high, unrounded});
@@ -248,7 +248,7 @@ TEST_F(rounding, takes_halves_away_from_zero) {
   EXPECT_EQ(rounded(1, -5, 15), (list{-10, -10, 20, 20}));
 }
 
-class captions : public tests::made_scale {
+class captions : public tests::made_range_scale {
  protected:
   captions() { style::set_equal_intervals(scale_, {2, 0, 5, -1}); }
   english words_;
@@ -270,7 +270,7 @@ TEST_F(captions, may_be_one_number_of_each_class) {
   EXPECT_EQ(highest_caption(), L"above 5.0");
 }
 
-class colours_of_classes : public tests::made_scale {
+class colours_of_classes : public tests::made_range_scale {
  protected:
   static void expect_color(Tzu_scale_prm* row, int r, int g, int b, int a = 0) {
     Tzu_color c = *zu_stl_prm_get_clr_style_ptr(zu_scale_prm_get_stl_prm_ptr(row), 0);
@@ -290,7 +290,7 @@ TEST_F(colours_of_classes, are_those_of_an_array_from_tail_to_tail) {
   expect_color(zu_rng_scale_get_max_prm_ptr(scale_), 255, 0, 0);
 }
 
-class filled_from_data : public tests::made_scale {};
+class filled_from_data : public tests::made_range_scale {};
 
 TEST_F(filled_from_data, a_range_scale_has_ten_classes_between_the_limits_of_a_field) {
   tests::made_grid grid("classes.tif", 2, 2, GDT_Float64, 2);

@@ -10,7 +10,7 @@
 #include "src/style/classes/builders.h"
 #include "src/style/classes/field_sample.h"
 #include "tests/unit/src/made_grid.h"
-#include "tests/unit/src/style/classes/made_scale.h"
+#include "tests/unit/src/style/classes/made_range_scale.h"
 
 namespace {
 
@@ -120,7 +120,7 @@ TEST(natural_breaks, come_out_of_values_whose_squares_leave_the_numbers) {
   EXPECT_EQ(style::natural_breaks(values, 2).size(), 1u);
 }
 
-class natural_classes : public tests::made_scale {
+class natural_classes : public tests::made_range_scale {
  protected:
   data::open_reference source_of(tests::made_grid& grid) {
     data::open_reference source;

@@ -14,7 +14,7 @@ namespace tests {
 
 using namespace zu;
 
-class made_scale : public testing::Test {
+class made_range_scale : public testing::Test {
  protected:
   /// The outer minimum, minimum and maximum of each class, the outer maximum.
   static std::vector<double> boundaries(const Tzu_rng_scale* scale) {

@@ -139,6 +139,23 @@ TEST_F(style_panel, the_same_layer_again_is_not_read_again) {
   EXPECT_EQ(call<&integer_input_impl::value>(opacity()), 40);
 }
 
+TEST_F(style_panel, another_source_has_another_histogram) {
+  bound_layer layer(float_grid());
+  Tzu_clr_channel* gray = zu_rgb_channels_get_gray(layer.layer->rgb_channels());
+  zu_clr_channel_set_prop_name_w(gray, L"a");
+  layer.layer->set_draw_type(2);
+  panel_.set_layer(layer.layer);
+  EXPECT_EQ(gray_limits(*layer.layer), std::pair(0.0, 30.0));
+  panel_.set_layer(nullptr);
+  made_grid other("grid2d_style_other.tif", 2, 2, GDT_Float32, 1);
+  other.band(1)->SetDescription("a");
+  other.values(1, {7, 8, 9, 10});
+  zu_lr2d_set_wsource(layer.host.get(), other.close().c_str());
+  layer.layer->source_changed();
+  panel_.set_layer(layer.layer);
+  EXPECT_EQ(gray_limits(*layer.layer), std::pair(7.0, 10.0));
+}
+
 TEST_F(style_panel, of_a_source_that_is_gone_still_offers_what_needs_none) {
   bound_layer layer(L"/nowhere/at/all.tif");
   panel_.set_layer(layer.layer);

@@ -112,6 +112,7 @@ std::string project_layer::source() const {
 project::project(const bundle& services)
     : services_(services), tree_(zu_xnode_create_root_w(root_name)) {
   add_scene({});
+  legends_.emplace(*this);
 }
 
 project::project(const bundle& services, const std::string& path)
@@ -136,6 +137,7 @@ project::project(const bundle& services, const std::string& path)
     throw failure(path, problem.what());
   }
   if (scenes_.empty()) throw failure(path, "has no scene");
+  legends_.emplace(*this);
 }
 
 void project::read_scene(Tzu_xnode* node) {

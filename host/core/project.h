@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "host/core/map_legends.h"
 #include "host/core/scene.h"
 #include "zu/platform/zuk_io.h"
 
@@ -51,6 +52,8 @@ class project {
   explicit project(const bundle& services);
   /// Reads a file. Throws `failure` with the file and the reason; nothing of it is used then.
   project(const bundle& services, const std::string& path);
+  project(const project&) = delete;
+  project& operator=(const project&) = delete;
 
   const bundle& services() const { return services_; }
   std::vector<project_scene>& scenes() { return scenes_; }
@@ -86,6 +89,7 @@ class project {
   node_ptr tree_;
   std::vector<project_scene> scenes_;
   std::uint64_t last_id_ = 0;
+  std::optional<map_legends> legends_;  // of a project that was read whole
 };
 
 }  // namespace zu::host

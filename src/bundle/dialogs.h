@@ -7,9 +7,6 @@ namespace zu::dialog {
 struct nameless {
   static constexpr wchar_t id[] = L"";
 };
-struct clr_palettes {
-  static constexpr wchar_t id[] = L"zu_clr_palettes_dialog";
-};
 struct style_adavanced_dialog {
   static constexpr wchar_t id[] = L"zu_common_plugin_style_adavanced_dialog";
 };

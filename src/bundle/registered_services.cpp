@@ -18,6 +18,7 @@
 #include "src/style/classes/range_scale_dialog.h"
 #include "src/style/classes/value_scale_dialog.h"
 #include "src/style/dialogs/style_dialogs.h"
+#include "src/style/palettes/clr_palettes_dialog.h"
 #include "src/style/pickers/figure_dialog.h"
 #include "zu/platform/zuk_basic.h"
 

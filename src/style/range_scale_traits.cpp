@@ -31,6 +31,24 @@ std::wstring number(const Tzu_rng_scale* scale, double value) {
   return text_of([&](Tzu_string_adp* a) { zu_round_digits_format_number(digits, value, a); });
 }
 
+/// A class that was put between its neighbours, which may be tails, takes what lies between them in
+/// colour, hue, transparency and size.
+void style_between_neighbours(Tzu_rng_scale* scale, std::uint64_t index) {
+  using traits = range_scale_traits;
+  owned<zu_stl_mngr_destroy> three(zu_clr_stl_mngr_create());
+  Tzu_rng_scale* rows = zu_stl_mngr_get_rng_scale_ptr(three.get());
+  zu_rng_scale_set_size(rows, 3);
+  for (std::uint64_t i = 0; i < 3; ++i) {
+    Tzu_scale_prm* row = traits::row(scale, static_cast<std::int64_t>(index + i));
+    zu_rng_scale_set_stl_prm(rows, i, zu_scale_prm_get_stl_prm_ptr(row), primary);
+  }
+  for (auto* spread : {&zu_rng_scale_clr_gradient, &zu_rng_scale_hue_gradient,
+                       &zu_rng_scale_transparency_gradient, &zu_rng_scale_size_gradient})
+    spread(rows, 0, 2, primary);
+  Tzu_scale_prm* middle = zu_rng_scale_get_scale_prm_ptr(rows, 1);
+  zu_rng_scale_set_stl_prm(scale, index, zu_scale_prm_get_stl_prm_ptr(middle), primary);
+}
+
 /// Bounds of a class that was put between its neighbours; where they leave no room, the one before,
 /// at the end of the scale, or the one behind is halved.
 void set_bounds_between_neighbours(Tzu_rng_scale* scale, std::uint64_t index) {
@@ -115,9 +133,7 @@ std::int64_t range_scale_traits::append(Tzu_rng_scale* scale) {
   std::int64_t size = entry_count(scale);
   zu_rng_scale_ins(scale, static_cast<std::uint64_t>(std::min(active, size + 1)));
   auto index = static_cast<std::uint64_t>(std::min(active, size));
-  for (auto* spread : {&zu_rng_scale_clr_gradient, &zu_rng_scale_hue_gradient,
-                       &zu_rng_scale_transparency_gradient, &zu_rng_scale_size_gradient})
-    spread(scale, index, index + 2, primary);
+  style_between_neighbours(scale, index);
   set_bounds_between_neighbours(scale, index);
   zu_rng_scale_set_default_caption(scale, index);
   return static_cast<std::int64_t>(index) + first_entry;
@@ -240,7 +256,6 @@ bool range_scale_traits::rescale(Tzu_rng_scale* scale, const data::open_referenc
 }
 bool range_scale_traits::fill(Tzu_rng_scale* scale, const data::open_reference& source,
                               const std::wstring& field) {
-  zu_rng_scale_init_opacity_pts(scale);
   return fill_from_data(scale, source, field);
 }
 

@@ -225,6 +225,7 @@ const std::map<std::string, int> floors = {
     {"zuk_io", 1},          //
     {"zuk_proj4_d2", 1},    //
     {"zuk_dib", 1},         //
+    {"zuk_ini_data", 1},    //
     {"zuk_styles", 2},      //
     {"zuk_symbols", 2},     //
     {"zuk_palettes", 2},    //

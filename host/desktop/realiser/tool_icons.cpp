@@ -89,6 +89,12 @@ constexpr row rows[] = {
     {"zu_common_style_tool_maximum_sort_number", "view-sort"},
     {"zu_common_style_tool_maximum_sort_number_asc", "view-sort-ascending"},
     {"zu_common_style_tool_maximum_sort_number_dsc", "view-sort-descending"},
+    {"zu_clr_palettes_tool_add", "list-add"},
+    {"zu_clr_palettes_tool_remove", "list-remove"},
+    {"zu_clr_palettes_tool_save", "document-save"},
+    {"zu_clr_palettes_tool_load", "document-open"},
+    {"zu_clr_palettes_tool_import", "document-import"},
+    {"zu_clr_palettes_tool_invert", "object-flip-vertical"},
     // lists of styles and levels
     {"zu_plugins_common_ui_stl_mngr_list_up_tool", "go-up"},
     {"zu_plugins_common_ui_stl_mngr_list_down_tool", "go-down"},

@@ -2,6 +2,7 @@
 // Styles in trees; scales, styles and libraries in files of their own.
 
 #include "zu/platform/zuk_io.h"
+#include "zu/platform/zuk_palettes.h"
 #include "zu/platform/zuk_style_libs.h"
 #include "zu/platform/zuk_styles.h"
 
@@ -111,3 +112,13 @@ ZU_API bool zu_xml_data_load_style_lib(Tzu_xml_save_2d* xml, const wchar_t* path
 // The same for who does not ask why.
 ZU_API bool zu_xml_data_save_style_lib_file(const wchar_t* path, const Tzu_style_lib* library);
 ZU_API bool zu_xml_data_load_style_lib_file(const wchar_t* path, Tzu_style_lib* library);
+
+// --- Palette files (".clrs")
+
+/// The whole list. False, and the old file as it was, if the file cannot be written.
+ZU_API bool zu_xml_data_save_clr_palettes(Tzu_xml_save_2d* xml, const wchar_t* path,
+                                          const Tzu_clr_palettes* list);
+/// The list becomes what the file holds. False, and the list as it was, if the file cannot be read
+/// or is no palette file, a colour in it is broken, or there are more than a million of them.
+ZU_API bool zu_xml_data_load_clr_palettes(Tzu_xml_save_2d* xml, const wchar_t* path,
+                                          Tzu_clr_palettes* list);

@@ -1,6 +1,7 @@
 #pragma once
 // The tool bar of a scale page and the menu of its rows.
 
+#include "src/bundle/texts.h"
 #include "src/style/classes/scale_dialogs.h"
 #include "src/style/page/scale_tools.h"
 #include "src/toolkit/toolbars.h"
@@ -93,7 +94,7 @@ using style_context_menu = toolkit::toolbar<style_menu_tools<model>, context_men
 template <class model> void save_scale(model& m) {
   if (m.scale() == nullptr) return;
   using traits = typename model::scale_traits;
-  const std::wstring beside = automatic_path(m.source, m.field(), traits::extension);
+  const std::wstring beside = scale_file_path(m.source.name, m.field(), traits::extension);
   const std::wstring path = text_of([&](Tzu_string_adp* adapter) {
     zu_ask_save_file_w(load_text(traits::file_filter).c_str(),
                        beside.empty() ? nullptr : beside.c_str(), adapter);

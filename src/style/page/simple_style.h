@@ -2,7 +2,7 @@
 // The page of a manager's one style for everything.
 
 #include "src/style/page/legend_import.h"
-#include "src/style/page/style_link.h"
+#include "src/style/page/parameter_button.h"
 #include "src/toolkit/buttons.h"
 
 namespace zu::style::detail {
@@ -10,7 +10,7 @@ namespace zu::style::detail {
 template <class style_traits> class simple_style : public toolkit::with_element {
  public:
   simple_style() {
-    primary_.on_change = selection_.on_change = [this] {
+    primary_.on_edited = selection_.on_edited = [this] {
       if (on_change) on_change();
     };
     import_.on_click = [this] {

@@ -1,7 +1,7 @@
 #pragma once
 // What no row of a scale holds: whether it is drawn, what it is called, its two styles.
 
-#include "src/style/page/style_link.h"
+#include "src/style/page/parameter_button.h"
 #include "src/style/scale_model.h"
 #include "src/toolkit/buttons.h"
 #include "src/toolkit/inputs.h"
@@ -24,7 +24,7 @@ template <class model> class unclassified_style : public toolkit::with_element {
       model_.set_other_caption(text);
       tell();
     };
-    primary_.on_change = selection_.on_change = [this] { tell(); };
+    primary_.on_edited = selection_.on_edited = [this] { tell(); };
     root_.place(visible_).place(caption_).place(primary_).place(selection_);
     root_.set_column_stretch(1).set_spacing(3);
     reload();
@@ -62,8 +62,8 @@ template <class model> class unclassified_style : public toolkit::with_element {
   bool enabled_ = true;
   toolkit::checkbox visible_{14501};
   toolkit::input caption_;
-  parameter_link<typename model::style_traits> primary_{0, style::primary};
-  parameter_link<typename model::style_traits> selection_{0, style::selection};
+  parameter_input<typename model::style_traits> primary_{14519, style::primary};
+  parameter_input<typename model::style_traits> selection_{14520, style::selection};
   toolkit::grid_layout<4, 1> root_;
 };
 

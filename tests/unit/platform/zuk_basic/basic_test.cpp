@@ -38,40 +38,6 @@ TEST(color, words_have_red_in_the_low_byte) {
   EXPECT_EQ(zu_clr_init_rgba(1, 2, 3, 4), 0x04030201u);
 }
 
-TEST(color_array, five_runs_from_blue_through_white_to_red_and_keeps_transparencies) {
-  Tzu_color colors[5] = {};
-  colors[1].a = 77;
-  ASSERT_TRUE(zu_clr_arrays_generate_ex(5, 5, colors, 0));
-  const int expected[5][3] = {
-      {0, 0, 255}, {128, 128, 255}, {255, 255, 255}, {255, 128, 128}, {255, 0, 0}};
-  for (int i = 0; i < 5; ++i) {
-    EXPECT_EQ(colors[i].r, expected[i][0]) << i;
-    EXPECT_EQ(colors[i].g, expected[i][1]) << i;
-    EXPECT_EQ(colors[i].b, expected[i][2]) << i;
-  }
-  EXPECT_EQ(colors[1].a, 77);
-  ASSERT_TRUE(zu_clr_arrays_generate_ex(5, 1, colors, 0));
-  EXPECT_EQ(colors[0].b, 255);
-}
-
-TEST(color_array, may_give_its_colours_in_turn) {
-  Tzu_color colors[4] = {};
-  ASSERT_TRUE(zu_clr_arrays_generate_ex(5, 4, colors, 1));
-  EXPECT_EQ(colors[1].r, 255);
-  EXPECT_EQ(colors[1].g, 255);
-  EXPECT_EQ(colors[3].b, 255);
-  EXPECT_EQ(colors[3].r, 0);
-}
-
-TEST(color_array, of_an_unknown_number_is_none) {
-  Tzu_color color{1, 2, 3, 4};
-  EXPECT_FALSE(zu_clr_arrays_generate_ex(-1, 1, &color, 0));
-  EXPECT_FALSE(zu_clr_arrays_generate_ex(26, 1, &color, 0));
-  EXPECT_FALSE(zu_clr_arrays_generate_ex(1000, 1, &color, 0));
-  EXPECT_FALSE(zu_clr_arrays_generate_ex(5, 1, nullptr, 0));
-  EXPECT_EQ(color.r, 1);
-}
-
 TEST(problems, are_kept_by_source_each_once_oldest_first) {
   zu_problems_clear(nullptr);
   zu_problems_add(L"a", zu_problem_open, L"no such file");
@@ -109,15 +75,6 @@ TEST(channels, are_copied_with_names_and_limits) {
   zu_rgb_channels_destroy(to);
   EXPECT_EQ(zu_rgb_channels_get_red(nullptr), nullptr);
   zu_rgb_channels_destroy(nullptr);
-}
-
-TEST(color_array, of_number_25_runs_from_wine_through_white_to_black) {
-  Tzu_color colors[3] = {};
-  ASSERT_TRUE(zu_clr_arrays_generate_ex(25, 3, colors, 0));
-  EXPECT_EQ(colors[0].r, 128);
-  EXPECT_EQ(colors[0].g, 0);
-  EXPECT_EQ(colors[1].g, 255);
-  EXPECT_EQ(colors[2].r, 0);
 }
 
 /// Style libraries by the environment as given; null leaves a variable out.

@@ -37,7 +37,7 @@ node_ptr tree_of(const std::string& text) {
 TEST(style_groups, any_settings_come_back) {
   for (unsigned seed = 0; seed < 200; ++seed) {
     style_maker make(seed);
-    for (const char* type : {colors, lines}) {
+    for (const char* type : manager_types) {
       manager_ptr saved = make.manager(type), loaded = make.manager(type);
       node_ptr tree = read_back(saving(saved.get()));
       ASSERT_TRUE(load(tree.get(), type, loaded.get())) << seed;
@@ -105,6 +105,59 @@ TEST(style_groups, a_manager_is_read_under_its_own_type_name_only) {
   EXPECT_EQ(written_by(saving(other.get())), before);
 }
 
+TEST(style_groups, a_group_of_the_time_before_marks_and_rules_is_read) {
+  node_ptr tree = tree_of(R"(<r>
+    <styles type="pln_mngr_style" mode="1">
+      <simple color="1 2 3 0" selected="255 255 0 0">
+        <line width="0.5" dashes="2 1" cap="0" join="2" color="9 8 7 6" visible="0" label="1"/>
+      </simple>
+      <values field="z"><row text="1" visible="1" color="4 5 6 7"/></values>
+    </styles></r>)");
+  manager_ptr loaded = style_maker(4).manager(lines), fresh(zu_stl_mngr_create(lines));
+  ASSERT_TRUE(load(tree.get(), lines, loaded.get()));
+  const Tzu_pln_style expected;
+  const Tzu_pln_style& line =
+      *zu_stl_prm_get_pln_style_ptr(zu_stl_mngr_get_simple_sp_ptr(loaded.get()), 0);
+  EXPECT_EQ(line.line.width, 0.5);
+  EXPECT_EQ(line.line.dashes, (std::vector<double>{2, 1}));
+  EXPECT_EQ(line.line.join, zu_join_bevel);
+  EXPECT_EQ(line.line.color.a, 6);
+  EXPECT_FALSE(line.line_visible);
+  EXPECT_TRUE(line.number_visible);
+  EXPECT_EQ(line.end.figure, expected.end.figure);
+  EXPECT_FALSE(line.end_visible);
+  EXPECT_EQ(zu_val_scale_get_size(zu_stl_mngr_get_rule_scale_ptr(loaded.get())), 0u);
+}
+
+TEST(style_groups, layers_of_unknown_types_and_too_many_are_left_out) {
+  std::string layers = "<layer type='pnt_new_slr'/><layer type='pln_line_slr'/><layer/>";
+  for (int i = 0; i < 1500; ++i) layers += "<layer type='pnt_figr_slr' figure='3' size='-1'/>";
+  node_ptr tree = tree_of(
+      "<r><styles type='pnt_mngr_style'><simple><point use_complex='1'>"
+      "<complex>" +
+      layers + "</complex></point></simple></styles></r>");
+  manager_ptr loaded(zu_stl_mngr_create("pnt_mngr_style"));
+  ASSERT_TRUE(load(tree.get(), "pnt_mngr_style", loaded.get()));
+  const Tzu_bpnt_style& point =
+      zu_stl_prm_get_pnt_style_ptr(zu_stl_mngr_get_simple_sp_ptr(loaded.get()), 0)->point;
+  ASSERT_NE(point.drawn_complex(), nullptr);
+  EXPECT_EQ(point.drawn_complex()->layers.size(), 1000u);
+  EXPECT_EQ(std::get<Tzu_bpnt_style>(point.drawn_complex()->layers[0].style).figure, 3);
+  EXPECT_EQ(std::get<Tzu_bpnt_style>(point.drawn_complex()->layers[0].style).size, 2.0);
+}
+
+TEST(style_groups, broken_fields_of_symbols_are_those_of_a_new_one) {
+  node_ptr tree = tree_of(R"(<r><styles type="pnt_mngr_style"><simple color="7 7 7 7">
+      <point figure="16" symbol="55296" color="1 2 3" size="-1" dx="nan" dy="inf" angle="x"/>
+    </simple></styles></r>)");
+  manager_ptr loaded(zu_stl_mngr_create("pnt_mngr_style"));
+  ASSERT_TRUE(load(tree.get(), "pnt_mngr_style", loaded.get()));
+  Tzu_pnt_style expected;
+  expected.point.color = {7, 7, 7, 7};  // as that of the parameters
+  EXPECT_EQ(facts(*zu_stl_prm_get_pnt_style_ptr(zu_stl_mngr_get_simple_sp_ptr(loaded.get()), 0)),
+            facts(expected));
+}
+
 TEST(style_groups, an_absent_group_leaves_the_object) {
   style_maker make(2);
   manager_ptr manager = make.manager(colors);
@@ -160,7 +213,7 @@ TEST(style_groups, a_shorter_scale_replaces_a_longer_one_in_the_tree) {
 TEST(style_groups, more_than_a_million_rows_are_refused) {
   std::string rows;
   for (int i = 0; i < 1000001; ++i) rows += "<row/>";
-  for (const char* scale : {"values", "ranges"}) {
+  for (const char* scale : {"values", "ranges", "rules"}) {
     std::string name = scale;
     node_ptr tree = tree_of("<r><styles type=\"clr_mngr_style\" mode=\"1\"><" + name + ">" + rows +
                             "</" + name + "></styles></r>");

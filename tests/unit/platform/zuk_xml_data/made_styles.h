@@ -7,6 +7,8 @@
 #include <random>
 #include <string>
 #include <string_view>
+#include <variant>
+#include <vector>
 
 #include "platform/zuk_styles/parameters.h"
 #include "platform/zuk_xml_data/nodes.h"
@@ -23,6 +25,10 @@ using hillshade_ptr =
     std::unique_ptr<Tzu_hillshade_style, destroyed_by<zu_hillshade_style_destroy>>;
 using isoline_ptr = std::unique_ptr<Tzu_isoline_style, destroyed_by<zu_isoline_style_destroy>>;
 using zu::platform::node_ptr;
+
+/// The types of managers, which are the keys of their files.
+inline constexpr const char* manager_types[] = {"clr_mngr_style", "pnt_mngr_style",
+                                                "pln_mngr_style", "pgn_mngr_style"};
 
 class style_maker {
  public:
@@ -46,19 +52,76 @@ class style_maker {
     auto byte = [&] { return static_cast<std::uint8_t>(below(256)); };
     return {byte(), byte(), byte(), byte()};
   }
+  Tzu_bpnt_style mark() {
+    Tzu_bpnt_style made;
+    made.use_figure = flag(), made.figure = below(zu_figure_count);
+    made.symbol = static_cast<std::uint32_t>(1 + below(0xD7FF));
+    made.font.family = text();
+    made.color = color(), made.size = length();
+    made.dx = length() - 50, made.dy = length() - 50, made.angle = length() - 50;
+    return made;
+  }
+  Tzu_bpln_style stroke() {
+    Tzu_bpln_style made;
+    made.width = length();
+    made.dashes.resize(static_cast<std::size_t>(below(zu_line_dashes + 1)));
+    for (double& each : made.dashes) each = length();
+    made.cap = below(3), made.join = below(3);
+    made.color = color();
+    return made;
+  }
+  /// Gives a base style layers, or none.
+  void layer(zu::platform::with_complex& base, std::vector<std::string> types) {
+    base.use_complex = flag();
+    for (int i = below(4); i > 0; --i) {
+      auto* layer = base.complex.made()->add_layer(
+          types[static_cast<std::size_t>(below(static_cast<int>(types.size())))]);
+      if (auto* point = std::get_if<Tzu_bpnt_style>(&layer->style)) *point = mark();
+      if (auto* line = std::get_if<Tzu_bpln_style>(&layer->style)) *line = stroke();
+      if (auto* fill = std::get_if<Tzu_bpgn_style>(&layer->style)) fill->color = color();
+    }
+  }
+  Tzu_bpnt_style layered_mark() {
+    Tzu_bpnt_style made = mark();
+    layer(made, {"pnt_figr_slr", "pnt_symb_slr"});
+    return made;
+  }
+  Tzu_pnt_style point() {
+    Tzu_pnt_style made;
+    made.point = layered_mark(), made.visible = flag();
+    return made;
+  }
   Tzu_pln_style line() {
     Tzu_pln_style made;
-    made.line.width = length();
-    made.line.dashes.resize(static_cast<std::size_t>(below(zu_line_dashes + 1)));
-    for (double& each : made.line.dashes) each = length();
-    made.line.cap = below(3), made.line.join = below(3);
-    made.line.color = color();
+    made.line = stroke();
+    layer(made.line, {"pln_line_slr"});
     made.line_visible = flag(), made.number_visible = flag();
+    if (flag()) made.vertex = layered_mark(), made.vertex_visible = flag();
+    if (flag()) made.begin = layered_mark(), made.begin_visible = flag();
+    if (flag()) made.end = layered_mark(), made.end_visible = flag();
+    made.begin_turns = flag(), made.end_turns = flag();
+    if (flag()) made.number.color = color(), made.number.size = length();
+    return made;
+  }
+  Tzu_pgn_style polygon() {
+    Tzu_pgn_style made;
+    made.fill.color = color();
+    layer(made.fill, {"pgn_fill_slr"});
+    made.contour = stroke();
+    layer(made.contour, {"pln_line_slr"});
+    made.fill_visible = flag(), made.contour_visible = flag(), made.number_visible = flag();
+    if (flag()) made.vertex = layered_mark(), made.vertex_visible = flag();
+    if (flag()) made.number.color = color(), made.number.size = length();
     return made;
   }
   void fill(Tzu_stl_prm* style) {
-    for (int i = 0; i < 2; ++i) style->colors[i] = color();
-    for (int i = 0; with_lines_ && i < 2; ++i) *zu_stl_prm_get_pln_style_ptr(style, i) = line();
+    for (int i = 0; i < 2; ++i) {
+      style->colors[i] = color();
+      // The other kinds are of no use to a manager.
+      if (type_ == "pnt_mngr_style") *zu_stl_prm_get_pnt_style_ptr(style, i) = point();
+      if (type_ == "pln_mngr_style") *zu_stl_prm_get_pln_style_ptr(style, i) = line();
+      if (type_ == "pgn_mngr_style") *zu_stl_prm_get_pgn_style_ptr(style, i) = polygon();
+    }
   }
   void fill(Tzu_scale_prm* row) {
     row->visible = flag();
@@ -66,13 +129,14 @@ class style_maker {
   }
   manager_ptr manager(const char* type) {
     manager_ptr made(zu_stl_mngr_create(type));
-    with_lines_ = type == std::string_view("pln_mngr_style");  // the others have no use for them
+    type_ = type;
     zu_stl_mngr_set_mode(made.get(), below(4));
     fill(zu_stl_mngr_get_simple_sp_ptr(made.get()));
     zu_stl_mngr_set_val_prop_name_w(made.get(), text().c_str());
     zu_stl_mngr_set_rng_prop_name_w(made.get(), text().c_str());
     fill(zu_stl_mngr_get_val_scale_ptr(made.get()));
     fill(zu_stl_mngr_get_rng_scale_ptr(made.get()));
+    fill(zu_stl_mngr_get_rule_scale_ptr(made.get()));
     return made;
   }
   hillshade_ptr hillshade() {
@@ -131,7 +195,7 @@ class style_maker {
   }
 
   std::mt19937 random_;
-  bool with_lines_ = true;
+  std::string_view type_;
 };
 
 /// All that a style holds, asked of the style itself, to hold what was read against what was
@@ -145,7 +209,11 @@ class facts {
     add([&](Tzu_string_adp* a) { zu_stl_mngr_get_rng_prop_name_w(m, a); });
     add(zu_stl_mngr_get_val_scale_ptr(m));
     add(zu_stl_mngr_get_rng_scale_ptr(m));
+    add(zu_stl_mngr_get_rule_scale_ptr(m));
   }
+  explicit facts(const Tzu_pnt_style& style) { add(style); }
+  explicit facts(const Tzu_pln_style& style) { add(style); }
+  explicit facts(const Tzu_pgn_style& style) { add(style); }
   explicit facts(const Tzu_hillshade_style* s) {
     add([&](Tzu_string_adp* a) { zu_hillshade_style_get_propname(s, a); });
     for (double each :
@@ -176,18 +244,61 @@ class facts {
   void add(Tzu_color c) {
     for (int each : {c.r, c.g, c.b, c.a}) add(each);
   }
+  void add_all(std::initializer_list<double> numbers) {
+    for (double each : numbers) add(each);
+  }
+  void add_fields(const Tzu_bpnt_style& p) {
+    add_all({p.use_figure + 0.0, p.figure + 0.0, p.symbol + 0.0, p.size, p.dx, p.dy, p.angle});
+    all_ += p.font.family + L'|';
+    add(p.color);
+  }
+  void add_fields(const Tzu_bpln_style& line) {
+    add_all({line.width, line.cap + 0.0, line.join + 0.0, line.dashes.size() + 0.0});
+    for (double each : line.dashes) add(each);
+    add(line.color);
+  }
+  void add_fields(const Tzu_bpgn_style& fill) { add(fill.color); }
+  template <class base> void add_base(const base& style) {
+    add_fields(style);
+    add(style.use_complex);
+    const Tzu_cpx_style* complex = style.complex.get();
+    if (complex == nullptr) return;
+    for (const auto& layer : complex->layers) {
+      all_.append(layer.type.begin(), layer.type.end());
+      std::visit([&](const auto& simple) { add_fields(simple); }, layer.style);
+    }
+  }
+  void add(const Tzu_pnt_style& style) {
+    add_base(style.point);
+    add(style.visible);
+  }
   void add(const Tzu_pln_style& line) {
-    for (double each : {line.line.width, line.line.cap + 0.0, line.line.join + 0.0,
-                        line.line_visible + 0.0, line.number_visible + 0.0})
+    add_base(line.line);
+    for (const Tzu_bpnt_style* each : {&line.vertex, &line.begin, &line.end}) add_base(*each);
+    for (bool each : {line.line_visible, line.vertex_visible, line.begin_visible, line.end_visible,
+                      line.number_visible, line.begin_turns, line.end_turns})
       add(each);
-    add(static_cast<double>(line.line.dashes.size()));
-    for (double each : line.line.dashes) add(each);
-    add(line.line.color);
+    add(line.number.color);
+    add(line.number.size);
+  }
+  void add(const Tzu_pgn_style& polygon) {
+    add_base(polygon.fill);
+    add_base(polygon.contour);
+    add_base(polygon.vertex);
+    for (bool each : {polygon.fill_visible, polygon.contour_visible, polygon.vertex_visible,
+                      polygon.number_visible})
+      add(each);
+    add(polygon.number.color);
+    add(polygon.number.size);
   }
   void add(const Tzu_stl_prm& style) {
-    for (int i = 0; i < 2; ++i) add(style.colors[i]);
-    zu::platform::style_parameters copy(style);  // of which lines may be made
-    for (int i = 0; i < 2; ++i) add(*zu_stl_prm_get_pln_style_ptr(&copy, i));
+    zu::platform::style_parameters copy(style);  // of which symbols may be made
+    for (int i = 0; i < 2; ++i) {
+      add(style.colors[i]);
+      add(*zu_stl_prm_get_pnt_style_ptr(&copy, i));
+      add(*zu_stl_prm_get_pln_style_ptr(&copy, i));
+      add(*zu_stl_prm_get_pgn_style_ptr(&copy, i));
+    }
   }
   void add(const Tzu_scale_prm* row) {
     add(row->visible);

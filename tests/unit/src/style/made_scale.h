@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <string>
 #include <vector>
 
@@ -53,10 +54,14 @@ template <class model_type> struct made_scale : testing::Test {
     auto step = static_cast<std::uint8_t>(row);
     return {static_cast<std::uint8_t>(10 * step), 0, 0, step};
   }
-  Tzu_color color(std::int64_t row) const { return zu_stl_prm_get_color(m.get_style_prm(row), 0); }
+  using rgba = std::array<int, 4>;
+  static rgba numbers(Tzu_color c) { return {c.r, c.g, c.b, c.a}; }
+  rgba color(std::int64_t row) const {
+    return numbers(zu_stl_prm_get_color(m.get_style_prm(row), 0));
+  }
   std::vector<int> reds() const {
     std::vector<int> all;
-    for (std::int64_t row = 0; row < m.row_count(); ++row) all.push_back(color(row).r);
+    for (std::int64_t row = 0; row < m.row_count(); ++row) all.push_back(color(row)[0]);
     return all;
   }
   std::vector<std::wstring> captions() const {
@@ -79,9 +84,5 @@ template <class model_type> struct made_scale : testing::Test {
   int told = 0;
   zu::events::connection heard = m.changed.connect([this] { ++told; });
 };
-
-inline bool operator==(Tzu_color a, Tzu_color b) {
-  return a.r == b.r && a.g == b.g && a.b == b.b && a.a == b.a;
-}
 
 }  // namespace tests

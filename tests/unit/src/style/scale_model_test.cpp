@@ -145,9 +145,9 @@ TYPED_TEST(scale_models, a_style_goes_to_every_marked_row) {
   zu_stl_prm_clr_set_all(green.get(), {0, 200, 0, 0}, 0);
   this->mark({0, last});
   m.assign_marked_style(green.get(), primary);
-  EXPECT_EQ(this->color(0).g, 200);
-  EXPECT_EQ(this->color(last).g, 200);
-  EXPECT_EQ(this->color(1), this->painted(1));
+  EXPECT_EQ(this->color(0)[1], 200);
+  EXPECT_EQ(this->color(last)[1], 200);
+  EXPECT_EQ(this->color(1), this->numbers(this->painted(1)));
   Tzu_color selected = zu_stl_prm_get_color(m.get_style_prm(0), 1);
   EXPECT_NE(selected.g, 200);
 }
@@ -320,14 +320,14 @@ TEST_F(ranges, a_colour_is_edited_in_its_row) {
   set_size(1);
   paint();
   m.edit_style(2, selection);
-  EXPECT_EQ(*m.get_style(2, selection), (Tzu_color{1, 2, 3, 4}));
-  EXPECT_EQ(*m.get_style(2, primary), painted(2));
+  EXPECT_EQ(numbers(*m.get_style(2, selection)), (rgba{1, 2, 3, 4}));
+  EXPECT_EQ(numbers(*m.get_style(2, primary)), numbers(painted(2)));
   m.edit_style(3, primary);  // no row
   EXPECT_EQ(person.times, 1);
   EXPECT_EQ(told, 1);
   person.accepts = false;
   m.edit_style(0, primary);
-  EXPECT_EQ(*m.get_style(0, primary), painted(0));
+  EXPECT_EQ(numbers(*m.get_style(0, primary)), numbers(painted(0)));
   EXPECT_EQ(told, 1);
 }
 
@@ -342,10 +342,10 @@ TEST_F(ranges, a_colour_for_marked_rows_is_edited_on_a_copy) {
   EXPECT_EQ(told, 0);
   person.accepts = true;
   m.edit_style_for_marked(1, primary);
-  EXPECT_EQ(color(0), (Tzu_color{1, 2, 3, 4}));
-  EXPECT_EQ(color(1), painted(1));  // clicked, but not marked
-  EXPECT_EQ(color(2), painted(2));
-  EXPECT_EQ(color(3), (Tzu_color{1, 2, 3, 4}));
+  EXPECT_EQ(color(0), (rgba{1, 2, 3, 4}));
+  EXPECT_EQ(color(1), numbers(painted(1)));  // clicked, but not marked
+  EXPECT_EQ(color(2), numbers(painted(2)));
+  EXPECT_EQ(color(3), (rgba{1, 2, 3, 4}));
   EXPECT_EQ(told, 1);
 }
 

@@ -1,0 +1,111 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "platform/zuk_basic/owned.h"
+#include "tests/unit/platform/own_folder.h"
+#include "tests/unit/platform/taken_text.h"
+#include "zu/platform/zuk_os.h"
+#include "zu/platform/zuk_style_libs.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using namespace tests;
+
+/// A style folder of the test's own, taken back at its end.
+struct global_libraries : testing::Test {
+  global_libraries() { zu_options_set_style_libs_path(folder.at("styles").c_str()); }
+  ~global_libraries() override {
+    zu_options_set_style_libs_path(nullptr);
+    zu_options_set_main_module_path(nullptr);
+    zu_res_set_lng(0);
+  }
+  void write(const std::string& name, const std::string& caption) {
+    folder.write(name, "<style_library caption='" + caption + "'/>");
+    // A file that is as long as it was need not have another time at once.
+    fs::last_write_time(folder.path() / name,
+                        fs::file_time_type::clock::now() + std::chrono::seconds(++written_));
+  }
+  static std::vector<std::wstring> names() {
+    zu::platform::owned<zu_wstrings_destroy> list(zu_global_lib_styles_create_name_list());
+    std::vector<std::wstring> all;
+    for (std::uint64_t i = 0; i < zu_wstrings_get_size(list.get()); ++i)
+      all.push_back(zu_wstrings_get_str(list.get(), i));
+    return all;
+  }
+  own_folder folder{"global_libraries"};
+
+ private:
+  int written_ = 0;
+};
+using captions = std::vector<std::wstring>;
+
+TEST_F(global_libraries, without_a_folder_there_are_none) {
+  EXPECT_EQ(zu_global_lib_styles_get_libs(), nullptr);
+  EXPECT_EQ(names(), captions());
+  EXPECT_EQ(zu_style_libs_get_size(nullptr), 0u);
+  EXPECT_EQ(zu_style_libs_get_lib_ptr(nullptr, 0), nullptr);
+}
+
+TEST_F(global_libraries, the_files_of_the_folder_are_read_by_name) {
+  write("styles/b._ls", "second");
+  write("styles/A._ls", "first");
+  write("styles/c.txt", "no library");
+  write("styles/d._ls", "");
+  fs::create_directory(folder.path() / "styles" / "e._ls");
+  EXPECT_EQ(names(), (captions{L"first", L"second", L"d"}));
+  Tzu_style_libs* libraries = zu_global_lib_styles_get_libs();
+  ASSERT_EQ(zu_style_libs_get_size(libraries), 3u);
+  EXPECT_EQ(text_of([&](Tzu_string_adp* a) {
+              zu_style_lib_get_caption(zu_style_libs_get_lib_ptr(libraries, 1), a);
+            }),
+            L"second");
+  EXPECT_EQ(zu_style_libs_get_lib_ptr(libraries, 3), nullptr);
+}
+
+TEST_F(global_libraries, a_change_of_the_folder_is_seen_at_the_next_call) {
+  write("styles/a._ls", "old");
+  EXPECT_EQ(names(), captions{L"old"});
+  Tzu_style_libs* before = zu_global_lib_styles_get_libs();
+  EXPECT_EQ(zu_global_lib_styles_get_libs(), before);
+  EXPECT_EQ(zu_style_libs_get_lib_ptr(zu_global_lib_styles_get_libs(), 0),
+            zu_style_libs_get_lib_ptr(before, 0));
+  write("styles/a._ls", "new");
+  EXPECT_EQ(names(), captions{L"new"});
+  write("styles/b._ls", "more");
+  EXPECT_EQ(names(), (captions{L"new", L"more"}));
+  fs::remove_all(folder.path() / "styles");
+  EXPECT_EQ(zu_global_lib_styles_get_libs(), nullptr);
+}
+
+TEST_F(global_libraries, a_broken_file_is_left_out_and_its_reason_is_kept) {
+  write("styles/a._ls", "good");
+  folder.write("styles/b._ls", "<no_library/>");
+  EXPECT_EQ(names(), captions{L"good"});
+  std::wstring path = folder.at("styles/b._ls");
+  EXPECT_EQ(zu_problems_get_count(path.c_str()), 1);
+  EXPECT_EQ(text_of([&](Tzu_string_adp* a) { zu_problems_get(path.c_str(), 0, a); }),
+            L"is no library of styles");
+  EXPECT_EQ(zu_problems_get_count(folder.at("styles/a._ls").c_str()), 0);
+}
+
+// The program's own libraries lie beside it, and a person's are before them.
+TEST_F(global_libraries, those_of_the_program_follow_in_its_language_unless_a_folder_is_set) {
+  write("share/zugrid/style_libs/ru/soil._ls", "\xD0\x9F\xD0\xBE\xD1\x87\xD0\xB2\xD1\x8B");
+  write("share/zugrid/style_libs/en/soil._ls", "Soils");
+  write("share/zugrid/style_libs/en/rock._ls", "Rocks");
+  zu_options_set_main_module_path(folder.at("bin/zugrid").c_str());
+  EXPECT_EQ(zu_global_lib_styles_get_libs(), nullptr);
+
+  ASSERT_EQ(setenv("XDG_DATA_HOME", (folder.path() / "home").c_str(), 1), 0);
+  zu_options_set_style_libs_path(nullptr);
+  EXPECT_EQ(names(), captions{L"\u041f\u043e\u0447\u0432\u044b"});
+  zu_res_set_lng(50000);
+  EXPECT_EQ(names(), (captions{L"Rocks", L"Soils"}));
+  write("home/zugrid/styles/soil._ls", "My soils");
+  EXPECT_EQ(names(), (captions{L"My soils", L"Rocks"}));
+  unsetenv("XDG_DATA_HOME");
+}
+
+}  // namespace

@@ -5,8 +5,8 @@
 #include <optional>
 
 #include "src/bundle/owned.h"
-#include "src/style/classes/boundaries_preview.h"
-#include "src/style/classes/manual_page.h"
+#include "src/style/class_dialogs/boundaries_preview.h"
+#include "src/style/class_dialogs/manual_page.h"
 
 namespace zu::dialog {
 

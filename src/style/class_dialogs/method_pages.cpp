@@ -1,4 +1,4 @@
-#include "src/style/classes/method_pages.h"
+#include "src/style/class_dialogs/method_pages.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "src/style/classes/boundaries_preview.h"
+#include "src/style/class_dialogs/boundaries_preview.h"
 
 #include <algorithm>
 #include <cmath>

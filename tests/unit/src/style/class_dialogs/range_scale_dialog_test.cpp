@@ -1,4 +1,4 @@
-#include "src/style/classes/range_scale_dialog.h"
+#include "src/style/class_dialogs/range_scale_dialog.h"
 
 #include <cmath>
 #include <limits>

@@ -1,4 +1,4 @@
-#include "src/style/classes/manual_page.h"
+#include "src/style/class_dialogs/manual_page.h"
 
 #include <algorithm>
 

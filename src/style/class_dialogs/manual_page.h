@@ -1,7 +1,7 @@
 #pragma once
 // The page on which a person writes the classes themselves.
 
-#include "src/style/classes/method_pages.h"
+#include "src/style/class_dialogs/method_pages.h"
 #include "src/toolkit/outline_columns.h"
 #include "src/toolkit/outline_view.h"
 

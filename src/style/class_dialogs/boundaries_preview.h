@@ -1,29 +1,30 @@
 #pragma once
-// Where the boundaries of classes lie in the distribution of a field.
+// Where the boundaries of classes lie in the distribution of a field, to be looked at and dragged.
 
 #include <functional>
-#include <vector>
 
-#include "src/toolkit/drawn.h"
-#include "zu/platform/zuk_stat.h"
+#include "src/style/histogram/histogramm_viewer.h"
 
 namespace zu::style::detail {
 
 class boundaries_preview : public toolkit::with_element {
  public:
-  boundaries_preview();
-  /// The histogram is not owned; null, or one without classes, leaves the boundaries alone.
-  void assign(const Tzu_histogramm_data* histogram, std::vector<double> boundaries);
-  handle element() override { return handle_of<canvas_impl>(canvas_); }
+  boundaries_preview(const data::open_reference& source, const std::wstring& field,
+                     Tzu_stat* stat) {
+    viewer_.set_source(source, field);
+    viewer_.set_stat(stat);
+    viewer_.on_change = [this] {
+      if (on_change) on_change(viewer_.scale());
+    };
+  }
+  void assign(const Tzu_rng_scale* scale) { viewer_.assign(scale); }
+  handle element() override { return viewer_.element(); }
 
-  std::function<void(std::vector<double>)> on_change;  ///< a person moved a boundary
+  /// A person moved a boundary or made other classes: the scale as it is on show.
+  std::function<void(const Tzu_rng_scale*)> on_change;
 
  private:
-  void draw(Tzu_drwc* page) const;
-
-  toolkit::canvas canvas_{0, 30};
-  const Tzu_histogramm_data* histogram_ = nullptr;
-  std::vector<double> boundaries_;
+  element::detail::histogramm_viewer viewer_;
 };
 
 }  // namespace zu::style::detail

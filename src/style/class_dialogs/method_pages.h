@@ -19,8 +19,7 @@ struct known_field {
   data::open_reference source;
   std::wstring field;
   double minimum = 0.0, maximum = 0.0, mean = 0.0, deviation = 0.0;
-  const Tzu_histogramm_data* histogram = nullptr;  ///< null: there is none
-  std::uint32_t seed = 0;                          ///< of the sample of natural breaks
+  std::uint32_t seed = 0;  ///< of the sample of natural breaks
 };
 
 /// A choice of the power of ten that boundaries are multiples of, from -10 to 10.

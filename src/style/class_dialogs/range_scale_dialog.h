@@ -24,12 +24,15 @@ class range_scale : public toolkit::with_element {
  private:
   static constexpr std::size_t methods = 7;
 
-  void read_statistics(Tzu_stat* stat);
+  void read_statistics();
   void offer_methods();
   void choose(std::int32_t type);
+  void show(std::int32_t type);
   void show_preview();
+  void take_dragged(const Tzu_rng_scale* scale);
 
   Tzu_rng_scale* scale_;
+  Tzu_stat* stat_;
   style::detail::known_field known_;
   std::int32_t type_ = 0;
   owned<zu_stl_mngr_destroy> trial_;  // its scale shows what would be built

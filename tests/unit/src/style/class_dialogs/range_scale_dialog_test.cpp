@@ -8,9 +8,9 @@
 #include "src/toolkit/dockers.h"
 #include "tests/unit/src/made_grid.h"
 #include "tests/unit/src/style/classes/made_range_scale.h"
+#include "tests/unit/src/style/page/shown_tools.h"
 #include "tests/unit/src/toolkit/element_tree.h"
 #include "zu/platform/zuk_datasource.h"
-#include "zu/platform/zuk_drwc.h"
 
 namespace {
 
@@ -337,23 +337,34 @@ TEST_F(range_scale_dialog, without_rows_leaves_tails_that_meet_at_zero) {
   EXPECT_EQ(boundaries(), (list{0, 0}));
 }
 
-TEST_F(range_scale_dialog, shows_what_would_be_built_over_the_histogram) {
+TEST_F(range_scale_dialog, takes_what_a_person_does_in_the_preview_as_classes_of_their_own) {
+  know_all();
+  zu_rng_scale_set_round_digits(scale_, 0);
+  open();
+  tests::tool_set_taker taker;
+  call<&toolbar_impl::visit>(tests::find<toolbar_impl>(shown_), taker.visitor());
+  auto count = cast<integer_tool_impl>(
+      tests::tool_named(taker.sets, L"zuk_histogramm_element_bounds_count_tool"));
+  EXPECT_EQ(call<&integer_tool_impl::value>(count), 4) << "what the scale has";
+  EXPECT_TRUE(call<&integer_tool_impl::set_value>(count, 2));
+  EXPECT_EQ(page(), 6u) << "the classes are the person's own now";
+  EXPECT_EQ(call<&dropdown_impl::current>(method_), 3);
+  EXPECT_EQ(zu_rng_scale_get_size(scale_), 4u) << "not before it is accepted";
+  EXPECT_TRUE(accept());
+  EXPECT_EQ(boundaries(), (list{0, 0, 4, 4, 8, 8}));
+}
+
+TEST_F(range_scale_dialog, shows_in_the_preview_what_would_be_built) {
   know_all();
   open();
-  auto canvas = tests::find<canvas_impl>(shown_);
-  ASSERT_TRUE(canvas);
-  auto pixels = [&] {
-    Tzu_drwc* page = zu_drwc_create_image(200, 60, 96, false);
-    call<&canvas_impl::draw>(canvas, page);
-    std::vector<std::uint8_t> all(std::size_t{200} * 60 * 4);
-    zu_drwc_get_pixels(page, all.data());
-    zu_drwc_destroy(page);
-    return all;
-  };
-  auto before = pixels();
-  EXPECT_EQ(before, pixels());
+  tests::tool_set_taker taker;
+  call<&toolbar_impl::visit>(tests::find<toolbar_impl>(shown_), taker.visitor());
+  auto count_tool = cast<integer_tool_impl>(
+      tests::tool_named(taker.sets, L"zuk_histogramm_element_bounds_count_tool"));
   type(count(0), 7);
-  EXPECT_NE(before, pixels());
+  EXPECT_EQ(call<&integer_tool_impl::value>(count_tool), 7);
+  call<&dropdown_impl::set_current>(method_, 1);
+  EXPECT_EQ(call<&integer_tool_impl::value>(count_tool), 9) << "0.1 to 50, and 0";
 }
 
 TEST_F(range_scale_dialog, is_not_run_without_a_host_or_without_the_field) {

@@ -1,8 +1,9 @@
 #include "src/style/class_dialogs/range_scale_dialog.h"
 
-#include <random>
+#include <algorithm>
 
 #include "src/data/grid_datasource.h"
+#include "src/style/classes/field_sample.h"
 #include "src/style/classes/scale_dialogs.h"
 #include "src/toolkit/dialog.h"
 #include "zu/platform/zuk_msgs.h"
@@ -37,9 +38,7 @@ range_scale::range_scale(Tzu_rng_scale* scale, Tzu_stat* stat, const data::open_
       natural_(known_,
                [this](Tzu_rng_scale* to, std::uint32_t count, style::class_limits limits,
                       std::int32_t digits) {
-                 style::set_natural_breaks(
-                     to, known_.source,
-                     {known_.field, count, limits.minimum, limits.maximum, digits}, &known_.seed);
+                 build_natural(to, {known_.field, count, limits.minimum, limits.maximum, digits});
                }),
       geometrical_(known_,
                    [](Tzu_rng_scale* to, std::uint32_t count, style::class_limits limits,
@@ -48,7 +47,6 @@ range_scale::range_scale(Tzu_rng_scale* scale, Tzu_stat* stat, const data::open_
                    }),
       preview_(source, field, stat) {
   known_.source = source, known_.field = field;
-  known_.seed = std::random_device()();  // of the preview and of the scale, which so agree
   read_statistics();
   offer_methods();
   for (style::detail::method_page* page : pages_) {
@@ -113,6 +111,17 @@ void range_scale::show_preview() {
   zu_rng_scale_assign(trial, scale_);
   pages_[static_cast<std::size_t>(type_)]->build(trial);
   preview_.assign(trial);
+}
+
+void range_scale::build_natural(Tzu_rng_scale* to, const style::natural_params& params) {
+  auto [minimum, maximum] = std::minmax(params.minimum, params.maximum);
+  if (!sampled_ || sampled_->minimum != minimum || sampled_->maximum != maximum) {
+    sampled_.reset();
+    if (!style::sample_field(known_.source, params.field, minimum, maximum, nullptr, sample_))
+      return style::set_natural_breaks(to, data::open_reference(), params);  // rounds alone
+    sampled_ = {minimum, maximum};
+  }
+  style::set_natural_breaks(to, sample_, params);
 }
 
 void range_scale::take_dragged(const Tzu_rng_scale* scale) {

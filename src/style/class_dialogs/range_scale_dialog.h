@@ -29,6 +29,7 @@ class range_scale : public toolkit::with_element {
   void choose(std::int32_t type);
   void show(std::int32_t type);
   void show_preview();
+  void build_natural(Tzu_rng_scale* to, const style::natural_params& params);
   void take_dragged(const Tzu_rng_scale* scale);
 
   Tzu_rng_scale* scale_;
@@ -36,6 +37,10 @@ class range_scale : public toolkit::with_element {
   style::detail::known_field known_;
   std::int32_t type_ = 0;
   owned<zu_stl_mngr_destroy> trial_;  // its scale shows what would be built
+  // Of natural breaks, read when they are first asked for and again for other limits, so that what
+  // shows is what will be built.
+  std::optional<style::class_limits> sampled_;
+  std::vector<double> sample_;
 
   toolkit::labeled_element<toolkit::floating_output> minimum_{10412}, maximum_{10413}, mean_{10414},
       deviation_{10415};

@@ -276,6 +276,25 @@ TEST_F(range_scale_dialog, counts_logarithmic_classes_as_they_are_chosen) {
   EXPECT_TRUE(call<&checkbox_impl::is_checked>(tests::find<checkbox_impl>(on_page(2))));
 }
 
+TEST_F(range_scale_dialog, builds_the_natural_breaks_that_it_shows) {
+  tests::made_grid grid("range_dialog.tif", 100, 80, GDT_Float64, 1);
+  list cells(8000);
+  for (std::size_t i = 0; i < cells.size(); ++i) cells[i] = std::sqrt(static_cast<double>(i)) / 10;
+  grid.values(1, cells);
+  source_.name = grid.close();
+  source_.opener = &zu_datasource_open;
+  zu_rng_scale_set_round_digits(scale_, -5);
+  open();
+  call<&dropdown_impl::set_current>(method_, 1);
+  EXPECT_EQ(page(), 4u);
+  EXPECT_TRUE(accept());
+  list first = cuts();
+  EXPECT_EQ(first.size(), 3u);
+  EXPECT_TRUE(accept());
+  EXPECT_EQ(cuts(), first) << "of the one sample";
+  EXPECT_EQ(zu_rng_scale_get_rng_type(scale_), zu_range_natural);
+}
+
 TEST_F(range_scale_dialog, shows_digits_that_it_does_not_offer_as_two_decimals) {
   zu_rng_scale_set_round_digits(scale_, 30);
   open();

@@ -36,7 +36,7 @@ class count_input : public toolkit::labeled_element<toolkit::integer_input> {
   static constexpr std::int32_t most = 100'000;
   count_input();
   std::uint32_t count() { return static_cast<std::uint32_t>(value()); }
-  void assign_count(double count);  ///< cut to what a person may give; no number changes nothing
+  void assign_count(double count);  ///< cut to what a person may give; finite alone
 };
 
 /// `load` shows the count, outer boundaries and digits of a scale; the boundaries of one that has

@@ -191,6 +191,7 @@ TEST_F(range_scale_dialog, refuses_a_step_of_zero) {
   open();
   EXPECT_FALSE(type(number(0, 0), 0));
   EXPECT_EQ(value(number(0, 0)), 2);
+  EXPECT_EQ(count_of(count(0)), 4);
 }
 
 TEST_F(range_scale_dialog, with_no_classes_between_equal_limits_has_a_step_that_is_no_number) {

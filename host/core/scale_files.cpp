@@ -12,15 +12,34 @@ namespace zu::host {
 namespace {
 
 using load_function = bool (*)(Tzu_xml_save_style*, const wchar_t*, Tzu_stl_mngr*);
+using save_function = bool (*)(Tzu_xml_save_style*, const wchar_t*, const Tzu_stl_mngr*);
 struct scale_kind {
   const char* extension;
   load_function load;
+  save_function save;
   Tzu_style_mode mode;
 };
 constexpr scale_kind kinds[] = {
-    {"._rg", &zu_xml_save_style_load_rng_scale, zu_style_range},
-    {"._vl", &zu_xml_save_style_load_val_scale, zu_style_value},
-    {"._rl", &zu_xml_save_style_load_val_scale, zu_style_rule}};
+    {"._rg", &zu_xml_save_style_load_rng_scale, &zu_xml_save_style_save_rng_scale, zu_style_range},
+    {"._vl", &zu_xml_save_style_load_val_scale, &zu_xml_save_style_save_val_scale, zu_style_value}};
+
+const scale_kind* kind_of(const std::string& path) {
+  std::string extension = std::filesystem::path(path).extension().string();
+  for (const scale_kind& kind : kinds)
+    if (extension == kind.extension) return &kind;
+  return nullptr;
+}
+
+/// Runs one of the functions above.
+template <class function, class manager>
+void work(function f, const std::string& path, manager* m) {
+  std::unique_ptr<Tzu_xml_save_style, void (*)(Tzu_xml_save_style*)> xml(
+      zu_xml_save_style_create(), &zu_xml_save_style_destroy);
+  if (f(xml.get(), wide(path).c_str(), m)) return;
+  throw failure(path, narrow(text_of([&](Tzu_string_adp* adapter) {
+                  zu_xml_save_style_get_reason_w(xml.get(), adapter);
+                })));
+}
 
 void load_legend(const std::string& path, Tzu_stl_mngr* manager) {
   std::wstring reason;
@@ -41,20 +60,23 @@ void load_legend(const std::string& path, Tzu_stl_mngr* manager) {
 }  // namespace
 
 void load_scale(const std::string& path, Tzu_stl_mngr* manager) {
-  std::string extension = std::filesystem::path(path).extension().string();
-  if (extension == ".avl") return load_legend(path, manager);
-  for (const scale_kind& kind : kinds) {
-    if (extension != kind.extension) continue;
-    std::unique_ptr<Tzu_xml_save_style, void (*)(Tzu_xml_save_style*)> xml(
-        zu_xml_save_style_create(), &zu_xml_save_style_destroy);
-    if (!kind.load(xml.get(), wide(path).c_str(), manager))
-      throw failure(path, narrow(text_of([&](Tzu_string_adp* adapter) {
-                      zu_xml_save_style_get_reason_w(xml.get(), adapter);
-                    })));
-    zu_stl_mngr_set_mode(manager, kind.mode);
-    return;
+  if (std::filesystem::path(path).extension() == ".avl") return load_legend(path, manager);
+  const scale_kind* kind = kind_of(path);
+  if (kind == nullptr)
+    throw failure(path, "is no scale of a grid: those end in ._rg, ._vl or .avl");
+  work(kind->load, path, manager);
+  zu_stl_mngr_set_mode(manager, kind->mode);
+}
+
+void save_scale(const std::string& path, const Tzu_stl_mngr* manager) {
+  const scale_kind* kind = kind_of(path);
+  for (const scale_kind& each : kinds) {
+    if (each.mode != zu_stl_mngr_get_mode(manager)) continue;
+    if (kind != &each)
+      throw failure(path, std::string("the scale in use has files that end in ") + each.extension);
+    return work(kind->save, path, manager);
   }
-  throw failure(path, "is no scale: those end in ._rg, ._vl, ._rl or .avl");
+  throw failure(path, "there is no scale to write");
 }
 
 }  // namespace zu::host

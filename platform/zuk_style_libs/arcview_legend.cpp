@@ -13,14 +13,16 @@ constexpr double point = 25.4 / 72.0;
 /// What ArcView draws as thin as the screen can.
 constexpr double hair = 0.1;
 constexpr std::uint8_t invisible = 255;
+constexpr std::size_t most_dashes = 16;  // as many as ArcView writes
 
 /// ArcView writes the code page of its system, which it does not say; editors save UTF-8.
-std::wstring wide(const std::string& text) {
+std::wstring wide(std::string_view text) {
   std::wstring utf8 = from_utf8(text);
   if (utf8.find(L'\xFFFD') == std::wstring::npos) return utf8;
   constexpr std::uint32_t cyrillic = 1251, western = 1252;
   return text_of([&](Tzu_string_adp* adapter) {
-    zu_os_multibyte_to_wide(zu_res_get_lng() == 0 ? cyrillic : western, text.c_str(), -1, adapter);
+    zu_os_multibyte_to_wide(zu_res_get_lng() == 0 ? cyrillic : western, text.data(),
+                            static_cast<std::int64_t>(text.size()), adapter);
   });
 }
 
@@ -48,15 +50,14 @@ const odb_object* basic(const odb_file& file, const odb_object* symbol) {
   for (int depth = 0; symbol != nullptr && depth < 16; ++depth) {
     const odb_object* parts = file.referred(*symbol, "Symbols");
     if (parts == nullptr) return symbol;
-    std::vector<const odb_object*> all = file.all_referred(*parts, "Child");
-    symbol = all.empty() ? nullptr : all.front();
+    symbol = file.referred(*parts, "Child");
   }
   return nullptr;
 }
 
 std::vector<double> dashes_in(const odb_object& line) {
   std::vector<double> dashes;
-  for (double length : line.numbers("Pattern")) {
+  for (double length : line.numbers("Pattern", most_dashes)) {
     if (!(length > 0.0)) break;
     dashes.push_back(std::min(length, 1000.0) * point);
   }
@@ -93,7 +94,7 @@ legend_class class_in(const odb_object& object) {
   found.caption = wide(object.text("Label").value_or(""));
   found.minimum = object.number("MinNum");
   found.maximum = object.number("MaxNum");
-  if (std::optional<std::string> text = object.text("MinStr")) found.text = wide(*text);
+  if (std::optional<std::string_view> text = object.text("MinStr")) found.text = wide(*text);
   return found;
 }
 

@@ -162,6 +162,21 @@ TEST_F(avl_import, graduated_colours_become_ranges_that_hold_what_they_held) {
             L"50 - 60");
 }
 
+// Each class is held against the others; a legend of very many must not take longer by their
+// square.
+TEST_F(avl_import, a_hundred_thousand_classes_are_read) {
+  std::vector<int> classes, symbols;
+  int symbol = made.fill(1, 2, 3);
+  for (int i = 0; i < 100000; ++i) {
+    std::string low = std::to_string(i), high = std::to_string(i + 1);
+    classes.push_back(made.one_class(low, {"MinNum:\t" + low, "MaxNum:\t" + high}));
+    symbols.push_back(symbol);
+  }
+  ASSERT_EQ(import(made.text("0x02", classes, symbols), manager.get()), 0);
+  ASSERT_EQ(zu_rng_scale_get_size(ranges()), 100000u);
+  EXPECT_EQ(zu_rng_scale_get_min(ranges(), 99999), 99999.0);
+}
+
 TEST_F(avl_import, a_class_without_a_limit_is_open_there) {
   std::vector<int> classes{made.one_class("low", {"MaxNum:\t5"}),
                            made.one_class("high", {"MinNum:\t5"})};

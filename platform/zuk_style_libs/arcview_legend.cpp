@@ -100,16 +100,24 @@ legend_class class_in(const odb_object& object) {
 
 bool is_no_data(const odb_object& object) { return object.number("IsNoData").value_or(0.0) != 0.0; }
 
+bool is_limited(const legend_class& c) { return c.minimum || c.maximum || c.text; }
+
+/// A class without limits among others that have some is that of all other values.
+void take_others_out(arcview_legend& legend) {
+  auto& all = legend.classes;
+  auto first = std::stable_partition(all.begin(), all.end(), is_limited);
+  if (first != all.end()) legend.other = std::move(*first);
+  all.erase(first, all.end());
+}
+
 arcview_legend::forms form_of(const odb_object& legend, const std::vector<legend_class>& classes) {
   constexpr double graduated = 0x02, unique = 0x08;
   using forms = arcview_legend::forms;
-  auto limited = [](const legend_class& c) { return c.minimum || c.maximum || c.text; };
-  if (std::none_of(classes.begin(), classes.end(), limited)) return forms::single;
+  if (std::none_of(classes.begin(), classes.end(), is_limited)) return forms::single;
   std::optional<double> type = legend.number("LegType");
   if (type == unique) return forms::values;
-  bool values = std::all_of(classes.begin(), classes.end(), [](const legend_class& c) {
-    return c.text || (c.minimum && c.minimum == c.maximum);
-  });
+  bool values = std::all_of(classes.begin(), classes.end(),
+                            [](const legend_class& c) { return c.text || c.minimum == c.maximum; });
   return values && type != graduated ? forms::values : forms::ranges;
 }
 
@@ -140,7 +148,7 @@ arcview_legend legend_in(const odb_file& file) {
       legend.classes.push_back(std::move(one));
     } else {
       if (!one.symbol) one.symbol = symbol_in(file, file.referred(*object, "NullSymbol"));
-      legend.no_data = std::move(one);
+      legend.other = std::move(one);
     }
   }
   if (classes.empty() && !symbols.empty()) {
@@ -151,6 +159,7 @@ arcview_legend legend_in(const odb_file& file) {
                    [](const legend_class& c) { return c.symbol.has_value(); }))
     throw std::runtime_error("holds a legend without symbols");
   legend.form = form_of(*object, legend.classes);
+  if (legend.form != arcview_legend::forms::single) take_others_out(legend);
   if (const odb_object* names = file.referred(*object, "FieldNames"))
     legend.field = wide(names->text("S").value_or(""));
   return legend;

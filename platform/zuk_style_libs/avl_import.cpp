@@ -135,13 +135,13 @@ void style_row(const Tzu_stl_mngr* manager, Tzu_scale_prm* row, const legend_cla
   if (one.symbol) style(manager, zu_scale_prm_get_stl_prm_ptr(row), *one.symbol);
 }
 
-/// What no class holds: as the class of no data looks, and hidden if there is none.
+/// What no class holds is hidden if the legend does not say how it looks.
 void style_other(const Tzu_stl_mngr* manager, Tzu_scale_prm* row, const arcview_legend& legend) {
   constexpr std::uint8_t invisible = 255;
   zu_scale_prm_set_visible(row, false);
-  if (!legend.no_data || !legend.no_data->symbol) return;
-  style_row(manager, row, *legend.no_data);
-  zu_scale_prm_set_visible(row, legend.no_data->symbol->color.a != invisible);
+  if (!legend.other || !legend.other->symbol) return;
+  style_row(manager, row, *legend.other);
+  zu_scale_prm_set_visible(row, legend.other->symbol->color.a != invisible);
 }
 
 // --- Scales
@@ -165,7 +165,7 @@ void fill_values(Tzu_stl_mngr* manager, const arcview_legend& legend) {
     style_row(manager, zu_val_scale_get_scale_prm_ptr(scale, i), one);
   }
   style_other(manager, zu_val_scale_get_other_prm_ptr(scale), legend);
-  if (legend.no_data) zu_val_scale_set_other_caption_w(scale, legend.no_data->caption.c_str());
+  if (legend.other) zu_val_scale_set_other_caption_w(scale, legend.other->caption.c_str());
 }
 
 /// Upper ends of all classes, rising.
@@ -219,7 +219,7 @@ void fill_ranges(Tzu_stl_mngr* manager, const arcview_legend& legend) {
   zu_scale_prm_set_visible(zu_rng_scale_get_min_prm_ptr(scale), false);
   zu_scale_prm_set_visible(zu_rng_scale_get_max_prm_ptr(scale), false);
   style_other(manager, zu_rng_scale_get_other_prm_ptr(scale), legend);
-  if (legend.no_data) zu_rng_scale_set_other_caption_w(scale, legend.no_data->caption.c_str());
+  if (legend.other) zu_rng_scale_set_other_caption_w(scale, legend.other->caption.c_str());
 }
 
 void fill(Tzu_stl_mngr* manager, const arcview_legend& legend) {

@@ -216,6 +216,23 @@ TEST_F(avl_import, the_class_of_no_data_is_other) {
   }
 }
 
+TEST_F(avl_import, the_class_of_all_other_values_is_other_before_that_of_no_data) {
+  std::vector<int> classes{made.one_class("All other values", {}),
+                           made.one_class("a", {"MinNum:\t1", "MaxNum:\t1"}),
+                           made.one_class("No Data", {"IsNoData:\t1"})};
+  std::vector<int> symbols{made.fill(5, 0, 0), made.fill(1, 0, 0), made.fill(9, 0, 0)};
+  for (const char* type : {"0x08", "0x00"}) {
+    legend_text copy = made;
+    ASSERT_EQ(import(copy.text(type, classes, symbols), manager.get()), 0);
+    EXPECT_EQ(zu_stl_mngr_get_mode(manager.get()), zu_style_value);
+    ASSERT_EQ(zu_val_scale_get_size(values()), 1u);
+    EXPECT_EQ(value_caption(0), L"a");
+    EXPECT_EQ(zu_val_scale_get_scale_prm_ptr(values(), 0)->style.colors[0].r, 1);
+    EXPECT_EQ(zu_val_scale_get_other_prm_ptr(values())->style.colors[0].r, 5);
+    EXPECT_TRUE(zu_val_scale_get_other_prm_ptr(values())->visible);
+  }
+}
+
 TEST_F(avl_import, lines_keep_width_and_dashes_in_millimetres) {
   int red = made.color("Red:\t0xffff");
   int line = made.add("BLnSym", {legend_text::field("Color", red), "Width:\t2.0", "Pattern:\t4.0",

@@ -112,8 +112,8 @@ ZU_API void gp_avl_to_stlmgr_params_set_filename_w(Tgp_avl_to_stlmgr_params* par
                                                    const wchar_t* path);
 ZU_API void gp_avl_to_stlmgr_params_set_stl_mngr(Tgp_avl_to_stlmgr_params* params,
                                                  Tzu_stl_mngr* manager);
-/// 0 on success: the mode, and the field (if the legend names one) and the scale of that mode or the
-/// simple style are those of the legend; what else the manager has stays. Classes of ranges get
+/// 0 on success: the mode, and the field (if the legend names one) and the scale of that mode or
+/// the simple style are those of the legend; what else the manager has stays. Classes of ranges get
 /// their lower ends so that they hold what ArcView's did, tails are hidden, "other" looks as "all
 /// other values" or "no data" did. Markers become circles of their size, widths and dashes are kept
 /// in millimetres, the first part stands for a composite symbol, and the background for a pattern.

@@ -283,6 +283,8 @@ TEST_F(avl_import, fills_keep_their_contour_and_transparent_is_not_drawn) {
 }
 
 TEST_F(avl_import, texts_of_a_code_page_are_read_in_that_of_the_language) {
+  std::int32_t language = zu_res_get_lng();
+  zu_res_set_lng(0);
   std::string water = "\xC2\xEE\xE4\xE0";  // "Вода" in Windows-1251
   std::vector<int> classes{made.one_class(water, {"MinNum:\t1", "MaxNum:\t1"}),
                            made.one_class("\xD0\x92", {"MinNum:\t2", "MaxNum:\t2"})};
@@ -292,7 +294,7 @@ TEST_F(avl_import, texts_of_a_code_page_are_read_in_that_of_the_language) {
   EXPECT_EQ(value_caption(1), L"\u0412");
   zu_res_set_lng(50000);
   ASSERT_EQ(import(text, manager.get()), 0);
-  zu_res_set_lng(0);
+  zu_res_set_lng(language);
   EXPECT_EQ(value_caption(0), L"\u00C2\u00EE\u00E4\u00E0");
 }
 

@@ -41,7 +41,7 @@ class legend_text {
     for (int each : classes) fields.push_back(field("Class", each));
     fields.insert(fields.end(), more.begin(), more.end());
     int legend = add("Legend", fields);
-    return "/3.2\n(ODB.1000\n\tFirstRootClassName:\t\"Legend\"\n\t" + field("Roots", legend) +
+    return "/3.2\n(ODB.1\n\tFirstRootClassName:\t\"Legend\"\n\t" + field("Roots", legend) +
            "\n\tVersion:\t32\n)\n\n" + objects_;
   }
   /// A fill in one colour with a black line around.

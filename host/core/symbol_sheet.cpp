@@ -15,7 +15,7 @@ constexpr const char* figure_names[zu_figure_count] = {
     "diamond frame", "triangle frame", "arrow",   "half circle"};
 
 // Millimetres.
-constexpr double margin = 5, column_width = 40, row_height = 14, text_height = 3.2;
+constexpr double margin = 5, column_width = 40, row_height = 16, text_height = 3.2;
 constexpr double line_row = 9, line_length = 2 * column_width - 12, line_width = 1;
 constexpr double sizes[] = {8, 4, 2};
 constexpr int columns = 4, line_columns = 2;
@@ -82,7 +82,7 @@ const sample_line lines[] = {
        zu_bpln_style_set_cap_style(zu_pln_style_get_bpln_style_ptr(s), zu_cap_square);
        zu_bpln_style_set_join_style(zu_pln_style_get_bpln_style_ptr(s), zu_join_bevel);
      }},
-    {"ring at the beginning, vertices marked",
+    {"beginning and vertices",
      [](Tzu_pln_style* s) {
        zu_pln_style_set_beg_visible(s, true);
        set_mark(zu_pln_style_get_bbeg_style_ptr(s), zu_figure_ring, 4);

@@ -9,6 +9,7 @@
 #include <QSlider>
 #include <QStackedWidget>
 #include <QTabBar>
+#include <algorithm>
 
 #include "host/desktop/map/map_view.h"
 #include "host/desktop/window/editor_docks.h"
@@ -146,8 +147,10 @@ TEST_F(layer_panels, handles_of_the_histogram_are_dragged) {
   choose(control<QComboBox>(panel, "Classification field"), "height");
   shown_ = map();
   QImage before = shown_;
-  auto* bars = panel->findChild<QWidget*>(QStringLiteral("histogram"));
-  ASSERT_NE(bars, nullptr);
+  const QList<QWidget*> all = panel->findChildren<QWidget*>(QStringLiteral("histogram"));
+  auto seen = std::find_if(all.begin(), all.end(), [](QWidget* each) { return each->isVisible(); });
+  ASSERT_NE(seen, all.end());
+  QWidget* bars = *seen;
   QTest::mousePress(bars, Qt::LeftButton, {}, QPoint(6, bars->height() / 2));
   for (double share : {0.1, 0.2, 0.3})
     QTest::mouseMove(bars, QPoint(int(bars->width() * share), bars->height() / 2));

@@ -4,7 +4,8 @@
   peers.py PEER FILE KIND X0,Y0,X1,Y1 CRS fresh|kept [B0,B1,...]
 
 PEER is qgis, mapnik or gdal; KIND is classes, values or image (pictures of 1920 x 1080), shade or isolines (the
-same, qgis alone), pan or first (a window's map, qgis alone), statistics (gdal and qgis), or shading (gdal alone: gdaldem on 1920 x 1080 made nodes, from
+same, qgis alone), pan or first (a window's map, qgis alone), statistics (gdal and qgis), natural or unique (classes
+of values, qgis alone), histogram or quantile (gdal alone), or shading (gdal alone: gdaldem on 1920 x 1080 made nodes, from
 memory to memory). For pictures "gdal" is the floor: a bare nearest read of the same window into doubles (bytes
 for an image) and one copy of the pixels.
 """
@@ -100,7 +101,7 @@ def qgis(path, kind, box, crs, fresh, breaks):
         options.loadDefaultStyle = False
         made = q.QgsRasterLayer(path, "layer", "gdal", options)
         provider = made.dataProvider()
-        if kind == "statistics":
+        if kind in ("statistics", "unique"):
             return made
         if kind == "classes" or kind in WINDOWS:
             ramp = q.QgsColorRampShader()
@@ -144,10 +145,32 @@ def qgis(path, kind, box, crs, fresh, breaks):
         wanted = (q.QgsRasterBandStats.Min | q.QgsRasterBandStats.Max | q.QgsRasterBandStats.Mean
                   | q.QgsRasterBandStats.StdDev)
         return timed(lambda: layer().dataProvider().bandStatistics(1, wanted, q.QgsRectangle(), 0), 3)
+    if kind == "natural":
+        return natural_breaks(q, path)
+    if kind == "unique":
+        return unique_values(q, layer())
     if fresh:
         return timed(lambda: draw(layer()))
     made = layer()
     return timed(lambda: draw(made))
+
+
+def natural_breaks(q, path):
+    from osgeo import gdal as g
+    values = [float(v) for v in g.Open(path).ReadAsArray().ravel()]
+    found = []
+
+    def classify():
+        found.append(q.QgsClassificationJenks().classes(values, 10))
+    return dict(timed(classify, 3), check=[c.upperBound() for c in found[-1]])
+
+
+def unique_values(q, made):
+    found = []
+
+    def collect():
+        found.append(len(q.QgsPalettedRasterRenderer.classDataFromRaster(made.dataProvider(), 1)))
+    return dict(timed(collect, 3), check=[found[-1]])
 
 
 def mapnik(path, kind, box, crs, fresh, breaks):
@@ -191,11 +214,30 @@ def gdaldem(g):
                 check=float(shade.mean(dtype=float)))
 
 
+def distribution(g, path, kind):
+    """A histogram between fixed limits, or the quantiles of one between the limits of the field."""
+    found = []
+
+    def compute():
+        data = g.Open(path)
+        band = data.GetRasterBand(1)
+        if kind == "histogram":
+            found.append(band.GetHistogram(250, 1250, 256, False, False))
+            return
+        low, high = band.ComputeStatistics(False)[:2]
+        heights = np.concatenate(([0], np.cumsum(band.GetHistogram(low, high, 256, True, False))))
+        places = np.linspace(low, high, 257)
+        found.append(np.interp(heights[-1] * np.arange(1, 11) / 10, heights, places).tolist())
+    return dict(timed(compute, 3), check=found[-1])
+
+
 def gdal(path, kind, box, crs, fresh, breaks):
     from osgeo import gdal as g
     g.UseExceptions()
     if kind == "shading":
         return gdaldem(g)
+    if kind in ("histogram", "quantile"):
+        return distribution(g, path, kind)
     if kind == "statistics":
         found = []
 

@@ -1,6 +1,7 @@
 #include "platform/zuk_datasource/histogram_counts.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "platform/zuk_datasource/band_scan.h"
 #include "platform/zuk_datasource/elements.h"
@@ -17,7 +18,9 @@ histogram_counts::histogram_counts(const histogram_limits& limits)
       per_unit_(limits.maximum > limits.minimum
                     ? static_cast<double>(limits.classes) / (limits.maximum - limits.minimum)
                     : 0.0),
-      lanes_(lanes * (limits.classes + 1)) {}
+      lanes_(lanes * (limits.classes + 1)) {
+  if (!std::isfinite(per_unit_)) per_unit_ = 0.0;  // limits that are all but equal
+}
 
 template <class cell>
 void histogram_counts::add_run(const cell* cells, std::size_t count, const valid_cells& valid) {

@@ -142,16 +142,24 @@ void set_geometrical(Tzu_rng_scale* scale, const geometrical_params& params) {
 void set_natural_breaks(Tzu_rng_scale* scale, const data::open_reference& source,
                         const natural_params& params, const std::uint32_t* seed) {
   if (scale == nullptr) return;
-  begin(scale, zu_range_natural, params.digits);
   auto [minimum, maximum] = std::minmax(params.minimum, params.maximum);
   std::vector<double> sample;
-  if (sample_field(source, params.field, minimum, maximum, seed, sample)) {
-    std::vector<double> all{minimum};
-    for (double cut : natural_breaks(sample, params.count)) all.push_back(cut);
-    all.push_back(maximum);
-    set_outline(scale, all.size() - 1, minimum, maximum);
-    set_between(scale, all);
-  }
+  if (sample_field(source, params.field, minimum, maximum, seed, sample))
+    return set_natural_breaks(scale, std::move(sample), params);
+  begin(scale, zu_range_natural, params.digits);
+  finish(scale, params.digits);
+}
+
+void set_natural_breaks(Tzu_rng_scale* scale, std::vector<double> sample,
+                        const natural_params& params) {
+  if (scale == nullptr) return;
+  begin(scale, zu_range_natural, params.digits);
+  auto [minimum, maximum] = std::minmax(params.minimum, params.maximum);
+  std::vector<double> all{minimum};
+  for (double cut : natural_breaks(sample, params.count)) all.push_back(cut);
+  all.push_back(maximum);
+  set_outline(scale, all.size() - 1, minimum, maximum);
+  set_between(scale, all);
   finish(scale, params.digits);
 }
 

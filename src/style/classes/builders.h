@@ -80,6 +80,10 @@ void set_geometrical(Tzu_rng_scale* scale, const geometrical_params& params);
 void set_natural_breaks(Tzu_rng_scale* scale, const data::open_reference& source,
                         const natural_params& params, const std::uint32_t* seed = nullptr);
 
+/// The same of a sample that is there already.
+void set_natural_breaks(Tzu_rng_scale* scale, std::vector<double> sample,
+                        const natural_params& params);
+
 /// The classes as they are given. Captions are of the numbers before they are rounded.
 void set_manual(Tzu_rng_scale* scale, const std::vector<class_limits>& rows, std::int32_t digits);
 

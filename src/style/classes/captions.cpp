@@ -44,7 +44,7 @@ void round_boundaries(Tzu_rng_scale* scale, std::int32_t digits) {
   double to_units = std::pow(10.0, -digits), from_units = std::pow(10.0, digits);
   auto rounded = [&](double x) {
     double size = std::floor(std::abs(x) * to_units + 0.5) * from_units;
-    return x < 0.0 ? -size : size;
+    return x < 0.0 && size > 0.0 ? -size : size;
   };
   zu_rng_scale_set_min_value(scale, rounded(zu_rng_scale_get_min_value(scale)));
   zu_rng_scale_set_max_value(scale, rounded(zu_rng_scale_get_max_value(scale)));

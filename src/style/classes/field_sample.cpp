@@ -85,10 +85,12 @@ class field_sampler {
       std::sort(records.begin(), records.end());  // so that a tile is read once
       for (std::uint64_t record : records) {
         double value = 0.0;
+        if (monitor_.is_stopped()) return false;
         if (!read(record, 1, &value)) return false;
         if (wanted(value)) out.push_back(value);
       }
       drawn += count;
+      monitor_.set_progress(static_cast<double>(out.size()) / sample_limit);
     }
     if (out.size() > sample_limit) {
       std::shuffle(out.begin(), out.end(), random_);
@@ -103,12 +105,11 @@ class field_sampler {
     std::vector<double> cells(std::min(chunk, total_));
     std::uint64_t seen = 0;
     bool any = false;
-    data::ui_monitor monitor;
     out.clear();
     for (std::uint64_t start = 0; start < total_; start += chunk) {
       std::uint64_t count = std::min(chunk, total_ - start);
-      if (monitor.is_stopped()) return false;
-      monitor.set_progress(static_cast<double>(start) / static_cast<double>(total_));
+      if (monitor_.is_stopped()) return false;
+      monitor_.set_progress(static_cast<double>(start) / static_cast<double>(total_));
       if (!read(start, count, cells.data())) continue;
       any = true;
       for (std::uint64_t i = 0; i < count; ++i) {
@@ -131,6 +132,7 @@ class field_sampler {
   data::owned_block block_;
   data::nodata_test test_;
   std::uint64_t total_ = 0;
+  data::ui_monitor monitor_;
 };
 
 }  // namespace

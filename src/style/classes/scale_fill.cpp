@@ -1,9 +1,7 @@
-#include "src/bundle/owned.h"
 #include "src/data/grid_datasource.h"
 #include "src/style/classes/builders.h"
 #include "src/style/classes/scale_dialogs.h"
 #include "src/style/classes/unique_values.h"
-#include "zu/platform/zuk_msgs.h"
 
 namespace zu::style {
 namespace {
@@ -42,26 +40,6 @@ bool fill_from_data(Tzu_val_scale* scale, const data::open_reference& source,
   if (scale == nullptr || !read_unique_values(source, field, values, nullptr)) return false;
   rebuild(scale, values);
   return true;
-}
-
-bool run_range_scale_dialog(Tzu_rng_scale* scale, const data::open_reference& source,
-                            const std::wstring& field) {
-  if (scale == nullptr) return false;
-  owned<zu_stat_destroy> stat(zu_stat_create());
-  if (source.opener != nullptr) {
-    data::grid_datasource grid;
-    if (!grid.open(source, data::open_read_only)) return false;
-    std::int64_t index = grid.find_field(field);
-    if (index < 0) return false;
-    owned<zu_progress_destroy> progress(zu_progress_create(1));
-    if (!grid.knows_statistics(index)) grid.read_statistics(index, 0, progress.get());
-    if (!zu_progress_get_stopped(progress.get())) {
-      grid.fill_stat(stat.get(), index);
-      grid.read_histogram(stat.get(), index, progress.get());
-    }
-    if (zu_progress_get_stopped(progress.get())) return false;
-  }
-  return run_range_scale_dialog(scale, stat.get(), source, field);
 }
 
 }  // namespace zu::style

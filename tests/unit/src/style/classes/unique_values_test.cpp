@@ -30,7 +30,7 @@ struct asked_person {
   texts questions;
 };
 
-class unique_values : public testing::Test {
+class rows_of_unique_values : public testing::Test {
  protected:
   data::open_reference source(const char* name, int count, int values) {
     tests::made_grid grid(name, count, 1, GDT_Float64, 2);
@@ -64,7 +64,7 @@ class unique_values : public testing::Test {
   Tzu_val_scale* scale_ = zu_stl_mngr_get_val_scale_ptr(manager_.get());
 };
 
-TEST_F(unique_values, come_in_the_order_of_their_texts) {
+TEST_F(rows_of_unique_values, come_in_the_order_of_their_texts) {
   style::unique_texts values;
   bool all = false;
   ASSERT_TRUE(style::read_unique_values(source("few.tif", 24, 12), L"Band 1", values, &all));
@@ -73,7 +73,7 @@ TEST_F(unique_values, come_in_the_order_of_their_texts) {
   EXPECT_TRUE(all);
 }
 
-TEST_F(unique_values, of_a_thousand_or_more_are_asked_about) {
+TEST_F(rows_of_unique_values, of_a_thousand_or_more_are_asked_about) {
   style::unique_texts values;
   bool all = true;
   {
@@ -95,31 +95,31 @@ TEST_F(unique_values, of_a_thousand_or_more_are_asked_about) {
   EXPECT_EQ(values.size(), 999u);
 }
 
-TEST_F(unique_values, lose_white_space_at_their_ends_alone) {
+TEST_F(rows_of_unique_values, lose_white_space_at_their_ends_alone) {
   EXPECT_EQ(style::trimmed(L" \t a b\n"), L"a b");
   EXPECT_EQ(style::trimmed(L"  "), L"");
   EXPECT_EQ(style::trimmed(L""), L"");
 }
 
-TEST_F(unique_values, make_the_rows_anew_with_captions) {
+TEST_F(rows_of_unique_values, make_the_rows_anew_with_captions) {
   add(L"old", L"old caption");
   style::rebuild(scale_, {L"b ", L"a"});
   EXPECT_EQ(rows(), (texts{L"a=a", L"b=b"}));
 }
 
-TEST_F(unique_values, are_added_where_no_row_has_them) {
+TEST_F(rows_of_unique_values, are_added_where_no_row_has_them) {
   add(L" a ", L"first");
   style::add_new_values(scale_, {L"a", L"c", L"b"});
   EXPECT_EQ(rows(), (texts{L" a =first", L"b=b", L"c=c"}));
 }
 
-TEST_F(unique_values, keep_their_rows_and_the_others_are_removed) {
+TEST_F(rows_of_unique_values, keep_their_rows_and_the_others_are_removed) {
   add(L"a", L"1"), add(L" b", L"2"), add(L"c", L"3");
   style::remove_missing_values(scale_, {L"b", L"x"});
   EXPECT_EQ(rows(), (texts{L" b=2"}));
 }
 
-TEST_F(unique_values, take_captions_from_the_first_record_that_has_them) {
+TEST_F(rows_of_unique_values, take_captions_from_the_first_record_that_has_them) {
   add(L"1", L"x"), add(L" 2 ", L"y"), add(L"77", L"z");
   EXPECT_TRUE(style::change_captions(scale_, source("captions.tif", 8, 4), L"Band 1", L"Band 2"));
   EXPECT_EQ(rows(), (texts{L"1=101", L" 2 =102", L"77=z"}));
@@ -127,14 +127,14 @@ TEST_F(unique_values, take_captions_from_the_first_record_that_has_them) {
   EXPECT_EQ(rows()[0], L"1=101");
 }
 
-TEST_F(unique_values, fill_a_scale) {
+TEST_F(rows_of_unique_values, fill_a_scale) {
   EXPECT_TRUE(style::fill_from_data(scale_, source("fill.tif", 6, 3), L"Band 1"));
   EXPECT_EQ(rows(), (texts{L"0=0", L"1=1", L"2=2"}));
   EXPECT_FALSE(style::fill_from_data(scale_, source("fill2.tif", 6, 3), L"no such field"));
   EXPECT_EQ(rows().size(), 3u);
 }
 
-TEST_F(unique_values, are_shown_as_a_table) {
+TEST_F(rows_of_unique_values, are_shown_as_a_table) {
   style::value_scale_cache_outline table;
   ASSERT_TRUE(table.load(source("table.tif", 24, 12), L"Band 1"));
   ASSERT_EQ(table.row_count(), 12u);

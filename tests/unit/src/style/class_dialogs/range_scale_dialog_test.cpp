@@ -1,4 +1,4 @@
-#include "src/style/classes/range_scale_dialog.h"
+#include "src/style/class_dialogs/range_scale_dialog.h"
 
 #include <cmath>
 #include <limits>
@@ -8,9 +8,9 @@
 #include "src/toolkit/dockers.h"
 #include "tests/unit/src/made_grid.h"
 #include "tests/unit/src/style/classes/made_range_scale.h"
+#include "tests/unit/src/style/page/shown_tools.h"
 #include "tests/unit/src/toolkit/element_tree.h"
 #include "zu/platform/zuk_datasource.h"
-#include "zu/platform/zuk_drwc.h"
 
 namespace {
 
@@ -191,6 +191,7 @@ TEST_F(range_scale_dialog, refuses_a_step_of_zero) {
   open();
   EXPECT_FALSE(type(number(0, 0), 0));
   EXPECT_EQ(value(number(0, 0)), 2);
+  EXPECT_EQ(count_of(count(0)), 4);
 }
 
 TEST_F(range_scale_dialog, with_no_classes_between_equal_limits_has_a_step_that_is_no_number) {
@@ -276,6 +277,25 @@ TEST_F(range_scale_dialog, counts_logarithmic_classes_as_they_are_chosen) {
   EXPECT_TRUE(call<&checkbox_impl::is_checked>(tests::find<checkbox_impl>(on_page(2))));
 }
 
+TEST_F(range_scale_dialog, builds_the_natural_breaks_that_it_shows) {
+  tests::made_grid grid("range_dialog.tif", 100, 80, GDT_Float64, 1);
+  list cells(8000);
+  for (std::size_t i = 0; i < cells.size(); ++i) cells[i] = std::sqrt(static_cast<double>(i)) / 10;
+  grid.values(1, cells);
+  source_.name = grid.close();
+  source_.opener = &zu_datasource_open;
+  zu_rng_scale_set_round_digits(scale_, -5);
+  open();
+  call<&dropdown_impl::set_current>(method_, 1);
+  EXPECT_EQ(page(), 4u);
+  EXPECT_TRUE(accept());
+  list first = cuts();
+  EXPECT_EQ(first.size(), 3u);
+  EXPECT_TRUE(accept());
+  EXPECT_EQ(cuts(), first) << "of the one sample";
+  EXPECT_EQ(zu_rng_scale_get_rng_type(scale_), zu_range_natural);
+}
+
 TEST_F(range_scale_dialog, shows_digits_that_it_does_not_offer_as_two_decimals) {
   zu_rng_scale_set_round_digits(scale_, 30);
   open();
@@ -337,23 +357,34 @@ TEST_F(range_scale_dialog, without_rows_leaves_tails_that_meet_at_zero) {
   EXPECT_EQ(boundaries(), (list{0, 0}));
 }
 
-TEST_F(range_scale_dialog, shows_what_would_be_built_over_the_histogram) {
+TEST_F(range_scale_dialog, takes_what_a_person_does_in_the_preview_as_classes_of_their_own) {
+  know_all();
+  zu_rng_scale_set_round_digits(scale_, 0);
+  open();
+  tests::tool_set_taker taker;
+  call<&toolbar_impl::visit>(tests::find<toolbar_impl>(shown_), taker.visitor());
+  auto count = cast<integer_tool_impl>(
+      tests::tool_named(taker.sets, L"zuk_histogramm_element_bounds_count_tool"));
+  EXPECT_EQ(call<&integer_tool_impl::value>(count), 4) << "what the scale has";
+  EXPECT_TRUE(call<&integer_tool_impl::set_value>(count, 2));
+  EXPECT_EQ(page(), 6u) << "the classes are the person's own now";
+  EXPECT_EQ(call<&dropdown_impl::current>(method_), 3);
+  EXPECT_EQ(zu_rng_scale_get_size(scale_), 4u) << "not before it is accepted";
+  EXPECT_TRUE(accept());
+  EXPECT_EQ(boundaries(), (list{0, 0, 4, 4, 8, 8}));
+}
+
+TEST_F(range_scale_dialog, shows_in_the_preview_what_would_be_built) {
   know_all();
   open();
-  auto canvas = tests::find<canvas_impl>(shown_);
-  ASSERT_TRUE(canvas);
-  auto pixels = [&] {
-    Tzu_drwc* page = zu_drwc_create_image(200, 60, 96, false);
-    call<&canvas_impl::draw>(canvas, page);
-    std::vector<std::uint8_t> all(std::size_t{200} * 60 * 4);
-    zu_drwc_get_pixels(page, all.data());
-    zu_drwc_destroy(page);
-    return all;
-  };
-  auto before = pixels();
-  EXPECT_EQ(before, pixels());
+  tests::tool_set_taker taker;
+  call<&toolbar_impl::visit>(tests::find<toolbar_impl>(shown_), taker.visitor());
+  auto count_tool = cast<integer_tool_impl>(
+      tests::tool_named(taker.sets, L"zuk_histogramm_element_bounds_count_tool"));
   type(count(0), 7);
-  EXPECT_NE(before, pixels());
+  EXPECT_EQ(call<&integer_tool_impl::value>(count_tool), 7);
+  call<&dropdown_impl::set_current>(method_, 1);
+  EXPECT_EQ(call<&integer_tool_impl::value>(count_tool), 9) << "0.1 to 50, and 0";
 }
 
 TEST_F(range_scale_dialog, is_not_run_without_a_host_or_without_the_field) {

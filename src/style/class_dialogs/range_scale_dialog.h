@@ -5,8 +5,8 @@
 #include <optional>
 
 #include "src/bundle/owned.h"
-#include "src/style/classes/boundaries_preview.h"
-#include "src/style/classes/manual_page.h"
+#include "src/style/class_dialogs/boundaries_preview.h"
+#include "src/style/class_dialogs/manual_page.h"
 
 namespace zu::dialog {
 
@@ -24,15 +24,23 @@ class range_scale : public toolkit::with_element {
  private:
   static constexpr std::size_t methods = 7;
 
-  void read_statistics(Tzu_stat* stat);
+  void read_statistics();
   void offer_methods();
   void choose(std::int32_t type);
+  void show(std::int32_t type);
   void show_preview();
+  void build_natural(Tzu_rng_scale* to, const style::natural_params& params);
+  void take_dragged(const Tzu_rng_scale* scale);
 
   Tzu_rng_scale* scale_;
+  Tzu_stat* stat_;
   style::detail::known_field known_;
   std::int32_t type_ = 0;
   owned<zu_stl_mngr_destroy> trial_;  // its scale shows what would be built
+  // Of natural breaks, read when they are first asked for and again for other limits, so that what
+  // shows is what will be built.
+  std::optional<style::class_limits> sampled_;
+  std::vector<double> sample_;
 
   toolkit::labeled_element<toolkit::floating_output> minimum_{10412}, maximum_{10413}, mean_{10414},
       deviation_{10415};

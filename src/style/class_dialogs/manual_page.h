@@ -1,7 +1,7 @@
 #pragma once
 // The page on which a person writes the classes themselves.
 
-#include "src/style/classes/method_pages.h"
+#include "src/style/class_dialogs/method_pages.h"
 #include "src/toolkit/outline_columns.h"
 #include "src/toolkit/outline_view.h"
 
@@ -15,6 +15,8 @@ class manual_page : public method_page {
   void build(Tzu_rng_scale* scale) override;
   handle element() override { return toolkit::handle_of_element(root_); }
 
+  /// The classes alone, as they are in a scale.
+  void load_rows(const Tzu_rng_scale* scale);
   /// A class behind the current one, or the last, up to the next one or the field's maximum.
   void add_row();
   void remove_row();  ///< the current one

@@ -1,4 +1,4 @@
-#include "src/style/classes/manual_page.h"
+#include "src/style/class_dialogs/manual_page.h"
 
 #include <algorithm>
 
@@ -34,10 +34,14 @@ manual_page::manual_page(const known_field& field) : method_page(field) {
 }
 
 void manual_page::load(const Tzu_rng_scale* scale) {
+  load_rows(scale);
+  digits_.assign_digits(zu_rng_scale_get_round_digits(scale));
+}
+
+void manual_page::load_rows(const Tzu_rng_scale* scale) {
   rows_.clear();
   for (std::uint64_t i = 0; i < zu_rng_scale_get_size(scale); ++i)
     rows_.push_back({zu_rng_scale_get_min(scale, i), zu_rng_scale_get_max(scale, i)});
-  digits_.assign_digits(zu_rng_scale_get_round_digits(scale));
   changed_rows(-1);
 }
 

@@ -19,8 +19,7 @@ struct known_field {
   data::open_reference source;
   std::wstring field;
   double minimum = 0.0, maximum = 0.0, mean = 0.0, deviation = 0.0;
-  const Tzu_histogramm_data* histogram = nullptr;  ///< null: there is none
-  std::uint32_t seed = 0;                          ///< of the sample of natural breaks
+  std::uint32_t seed = 0;  ///< of the sample of natural breaks
 };
 
 /// A choice of the power of ten that boundaries are multiples of, from -10 to 10.
@@ -37,7 +36,7 @@ class count_input : public toolkit::labeled_element<toolkit::integer_input> {
   static constexpr std::int32_t most = 100'000;
   count_input();
   std::uint32_t count() { return static_cast<std::uint32_t>(value()); }
-  void assign_count(double count);  ///< cut to what a person may give; no number changes nothing
+  void assign_count(double count);  ///< cut to what a person may give; finite alone
 };
 
 /// `load` shows the count, outer boundaries and digits of a scale; the boundaries of one that has

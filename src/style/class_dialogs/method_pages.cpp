@@ -1,4 +1,4 @@
-#include "src/style/classes/method_pages.h"
+#include "src/style/class_dialogs/method_pages.h"
 
 #include <algorithm>
 #include <cmath>
@@ -30,7 +30,7 @@ void rounding_input::assign_digits(std::int32_t digits) {
 
 count_input::count_input() : labeled_element(10426) { set_range(0, most, 1); }
 void count_input::assign_count(double count) {
-  if (!std::isnan(count)) assign(static_cast<std::int32_t>(std::clamp<double>(count, 0, most)));
+  if (std::isfinite(count)) assign(static_cast<std::int32_t>(std::clamp<double>(count, 0, most)));
 }
 
 class_limits method_page::outer_limits(const Tzu_rng_scale* scale) const {

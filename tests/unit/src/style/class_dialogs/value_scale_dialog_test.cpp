@@ -1,4 +1,4 @@
-#include "src/style/classes/value_scale_dialog.h"
+#include "src/style/class_dialogs/value_scale_dialog.h"
 
 #include <memory>
 #include <vector>

@@ -1,9 +1,12 @@
-#include "src/style/classes/range_scale_dialog.h"
+#include "src/style/class_dialogs/range_scale_dialog.h"
 
-#include <random>
+#include <algorithm>
 
+#include "src/data/grid_datasource.h"
+#include "src/style/classes/field_sample.h"
 #include "src/style/classes/scale_dialogs.h"
 #include "src/toolkit/dialog.h"
+#include "zu/platform/zuk_msgs.h"
 
 namespace zu {
 namespace dialog {
@@ -12,14 +15,11 @@ namespace {
 constexpr std::int32_t no_statistic_text = 10439, statistic_text = 10440;
 constexpr std::uint32_t decimals = 6;
 
-std::vector<double> boundaries_of(const Tzu_rng_scale* scale) {
-  std::vector<double> all{zu_rng_scale_get_min_value(scale)};
-  for (std::uint64_t i = 0; i < zu_rng_scale_get_size(scale); ++i) {
-    all.push_back(zu_rng_scale_get_min(scale, i));
-    all.push_back(zu_rng_scale_get_max(scale, i));
-  }
-  all.push_back(zu_rng_scale_get_max_value(scale));
-  return all;
+/// Null if there is none. One may be made while the dialog is open.
+const Tzu_histogramm_data* histogram_of(Tzu_stat* stat) {
+  bool valid = false;
+  const Tzu_histogramm_data* histogram = zu_stat_get_histogramm(stat, &valid);
+  return valid ? histogram : nullptr;
 }
 
 }  // namespace
@@ -27,27 +27,27 @@ std::vector<double> boundaries_of(const Tzu_rng_scale* scale) {
 range_scale::range_scale(Tzu_rng_scale* scale, Tzu_stat* stat, const data::open_reference& source,
                          const std::wstring& field)
     : scale_(scale),
+      stat_(stat),
       trial_(zu_stl_mngr_create("clr_mngr_style")),
       quantiles_(known_,
                  [this](Tzu_rng_scale* to, std::uint32_t count, style::class_limits limits,
                         std::int32_t digits) {
                    style::set_quantiles(
-                       to, {known_.histogram, count, limits.minimum, limits.maximum, digits});
+                       to, {histogram_of(stat_), count, limits.minimum, limits.maximum, digits});
                  }),
       natural_(known_,
                [this](Tzu_rng_scale* to, std::uint32_t count, style::class_limits limits,
                       std::int32_t digits) {
-                 style::set_natural_breaks(
-                     to, known_.source,
-                     {known_.field, count, limits.minimum, limits.maximum, digits}, &known_.seed);
+                 build_natural(to, {known_.field, count, limits.minimum, limits.maximum, digits});
                }),
-      geometrical_(known_, [](Tzu_rng_scale* to, std::uint32_t count, style::class_limits limits,
-                              std::int32_t digits) {
-        style::set_geometrical(to, {count, limits.minimum, limits.maximum, digits});
-      }) {
+      geometrical_(known_,
+                   [](Tzu_rng_scale* to, std::uint32_t count, style::class_limits limits,
+                      std::int32_t digits) {
+                     style::set_geometrical(to, {count, limits.minimum, limits.maximum, digits});
+                   }),
+      preview_(source, field, stat) {
   known_.source = source, known_.field = field;
-  known_.seed = std::random_device()();  // of the preview and of the scale, which so agree
-  read_statistics(stat);
+  read_statistics();
   offer_methods();
   for (style::detail::method_page* page : pages_) {
     page->load(scale_);
@@ -57,6 +57,7 @@ range_scale::range_scale(Tzu_rng_scale* scale, Tzu_stat* stat, const data::open_
   choose(zu_rng_scale_get_rng_type(scale_));
   method_.assign_value(type_);
   method_.on_change = [this](std::int32_t type) { choose(type); };
+  preview_.on_change = [this](const Tzu_rng_scale* dragged) { take_dragged(dragged); };
   buttons_.on_accept = [this] {
     pages_[static_cast<std::size_t>(type_)]->build(scale_);
     return true;
@@ -69,24 +70,21 @@ range_scale::range_scale(Tzu_rng_scale* scale, Tzu_stat* stat, const data::open_
   root_.set_row_stretch(3);
 }
 
-void range_scale::read_statistics(Tzu_stat* stat) {
+void range_scale::read_statistics() {
   auto known = [&](auto ask) {
     bool valid = false;
-    double value = ask(stat, &valid);
+    double value = ask(stat_, &valid);
     return valid ? value : 0.0;
   };
   known_.minimum = known(&zu_stat_get_minimum), known_.maximum = known(&zu_stat_get_maximum);
   known_.mean = known(&zu_stat_get_average), known_.deviation = known(&zu_stat_get_stddev);
-  bool valid = false;
-  Tzu_histogramm_data* histogram = zu_stat_get_histogramm(stat, &valid);
-  known_.histogram = valid ? histogram : nullptr;
   auto show = [](toolkit::floating_output& output, double value) {
     output.set_decimals(decimals);
     output.assign(value);
   };
   show(minimum_, known_.minimum), show(maximum_, known_.maximum);
   show(mean_, known_.mean), show(deviation_, known_.deviation);
-  has_statistic_.set_text(zu_stat_has_statistic(stat) ? statistic_text : no_statistic_text);
+  has_statistic_.set_text(zu_stat_has_statistic(stat_) ? statistic_text : no_statistic_text);
 }
 
 void range_scale::offer_methods() {
@@ -97,10 +95,14 @@ void range_scale::offer_methods() {
   method_.add(10423, 0, zu_range_manual);
 }
 
-void range_scale::choose(std::int32_t type) {
+void range_scale::show(std::int32_t type) {
   bool known = type >= 0 && type < static_cast<std::int32_t>(methods);
   type_ = known ? type : static_cast<std::int32_t>(zu_range_equal);
   stack_.assign(static_cast<std::uint32_t>(type_));
+}
+
+void range_scale::choose(std::int32_t type) {
+  show(type);
   show_preview();
 }
 
@@ -108,7 +110,24 @@ void range_scale::show_preview() {
   Tzu_rng_scale* trial = zu_stl_mngr_get_rng_scale_ptr(trial_.get());
   zu_rng_scale_assign(trial, scale_);
   pages_[static_cast<std::size_t>(type_)]->build(trial);
-  preview_.assign(known_.histogram, boundaries_of(trial));
+  preview_.assign(trial);
+}
+
+void range_scale::build_natural(Tzu_rng_scale* to, const style::natural_params& params) {
+  auto [minimum, maximum] = std::minmax(params.minimum, params.maximum);
+  if (!sampled_ || sampled_->minimum != minimum || sampled_->maximum != maximum) {
+    sampled_.reset();
+    if (!style::sample_field(known_.source, params.field, minimum, maximum, nullptr, sample_))
+      return style::set_natural_breaks(to, data::open_reference(), params);  // rounds alone
+    sampled_ = {minimum, maximum};
+  }
+  style::set_natural_breaks(to, sample_, params);
+}
+
+void range_scale::take_dragged(const Tzu_rng_scale* scale) {
+  manual_.load_rows(scale);
+  show(zu_range_manual);
+  method_.assign_value(type_);
 }
 
 }  // namespace dialog
@@ -120,6 +139,26 @@ bool run_range_scale_dialog(Tzu_rng_scale* scale, Tzu_stat* stat,
   if (scale == nullptr || stat == nullptr) return false;
   dialog::range_scale dialog(scale, stat, source, field);
   return toolkit::run_dialog(dialog);
+}
+
+bool run_range_scale_dialog(Tzu_rng_scale* scale, const data::open_reference& source,
+                            const std::wstring& field) {
+  if (scale == nullptr) return false;
+  owned<zu_stat_destroy> stat(zu_stat_create());
+  if (source.opener != nullptr) {
+    data::grid_datasource grid;
+    if (!grid.open(source, data::open_read_only)) return false;
+    std::int64_t index = grid.find_field(field);
+    if (index < 0) return false;
+    owned<zu_progress_destroy> progress(zu_progress_create(1));
+    if (!grid.knows_statistics(index)) grid.read_statistics(index, 0, progress.get());
+    if (!zu_progress_get_stopped(progress.get())) {
+      grid.fill_stat(stat.get(), index);
+      grid.read_histogram(stat.get(), index, progress.get());
+    }
+    if (zu_progress_get_stopped(progress.get())) return false;
+  }
+  return run_range_scale_dialog(scale, stat.get(), source, field);
 }
 
 }  // namespace style

@@ -27,3 +27,8 @@ add_library(zuk_platform SHARED)
 target_link_libraries(zuk_platform PRIVATE zuk_platform_objects)
 target_include_directories(zuk_platform INTERFACE ${CMAKE_SOURCE_DIR}/include)
 install(TARGETS zuk_platform LIBRARY DESTINATION lib)
+
+# Libraries of styles that come with the program, where it looks for them from bin/.
+file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/share/zugrid)
+file(CREATE_LINK ${CMAKE_SOURCE_DIR}/resources/style_libs ${CMAKE_BINARY_DIR}/share/zugrid/style_libs SYMBOLIC)
+install(DIRECTORY resources/style_libs/ DESTINATION share/zugrid/style_libs FILES_MATCHING PATTERN "*._ls")

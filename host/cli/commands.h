@@ -31,6 +31,7 @@ command add_convert(CLI::App& options);
 command add_probe(CLI::App& options);
 command add_classify(CLI::App& options);
 command add_project(CLI::App& options);
+command add_gradients(CLI::App& options);
 command add_config(CLI::App& options);
 
 }  // namespace zu::cli

@@ -31,6 +31,7 @@ constexpr entry commands[] = {
     {"probe", "say what a grid has at a point", &add_probe},
     {"classify", "make classes of the values of a grid", &add_classify},
     {"project", "keep scenes of layers in a file and draw them", &add_project},
+    {"gradients", "name the arrays of colours and draw them", &add_gradients},
     {"config", "choose what holds for all projects", &add_config},
 };
 

@@ -8,6 +8,7 @@
 
 #include "host/cli/commands.h"
 #include "host/core/texts.h"
+#include "zu/platform/zuk_palettes.h"
 #include "zu/platform/zuk_proj4_d2.h"
 
 namespace zu::cli {
@@ -181,6 +182,15 @@ std::vector<std::pair<std::string, Tzu_color>> values_of(const std::string& opti
     values.emplace_back(part.substr(0, equals), color_of(option, part.substr(equals + 1)));
   }
   return values;
+}
+
+std::int32_t gradient_of(const std::string& option, const std::string& text) {
+  std::int32_t id = zu_clr_arrays_find(text.c_str());
+  if (id >= 0) return id;
+  std::string names;
+  for (std::int32_t i = 0; i < zu_clr_arrays_get_count(); ++i)
+    names += (i > 0 ? ", " : "") + std::string(zu_clr_arrays_get_name(i));
+  refuse(option, quoted(text) + " is none of " + names);
 }
 
 std::vector<std::string> with_settings(const std::vector<std::string>& arguments) {

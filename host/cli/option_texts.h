@@ -32,6 +32,9 @@ std::vector<double> breaks_of(const std::string& option, const std::string& text
 std::vector<std::pair<std::string, Tzu_color>> values_of(const std::string& option,
                                                          const std::string& text);
 
+/// Number of an array of colours.
+std::int32_t gradient_of(const std::string& option, const std::string& text);
+
 /// Refuses what is no coordinate system.
 void check_projection(const std::string& option, const std::string& text);
 /// What stands for an overlay's settings where none are given.

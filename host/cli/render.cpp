@@ -8,6 +8,7 @@
 #include "host/cli/option_texts.h"
 #include "host/cli/page_options.h"
 #include "host/cli/picture_file.h"
+#include "host/core/failure.h"
 #include "host/core/layer_look.h"
 #include "host/core/picture.h"
 
@@ -19,6 +20,8 @@ constexpr char footer[] = R"(Examples:
   zugrid render dem.tif -o dem.png --breaks 0,200,500,1000 --colors "#1a9850,#fee08b,#d73027"
   zugrid render dem.tif -o dem.png --classify natural --count 7 --seed 1
   zugrid render landuse.tif -o landuse.png --values "1=#ff0000,2=#00ff00" --other "#cccccc"
+  zugrid render dem.tif -o tints.png --gradient height_light --hillshade
+  zugrid render dem.tif -o relief.png --color-table relief.cpt
   zugrid render scene.tif -o gray.tif --draw gray --field "Band 4" --limits 0,4000
   zugrid render dem.tif -o world.png --crs EPSG:3857 --size 1920x1080
 
@@ -31,7 +34,7 @@ struct texts {
   std::vector<std::string> sources;
   page_texts page;
   std::string crs, draw, field, rgb, limits, breaks, colors, other, values, simple, hillshade,
-      isolines;
+      isolines, gradient, color_table, saved_table;
   class_texts classes;
   bool unique = false;
   std::optional<std::int64_t> slice;
@@ -53,6 +56,11 @@ void check_scale(const host::layer_look& look) {
     throw usage_error("--classify: goes without --breaks, --values, --unique and --simple");
   if (look.unique_values && (breaks || values || look.simple || !look.colors.empty()))
     throw usage_error("--unique: goes without --breaks, --colors, --values and --simple");
+  if (look.gradient && (values || look.simple || !look.colors.empty()))
+    throw usage_error("--gradient: goes without --colors, --values and --simple");
+  if (look.table && (breaks || values || look.simple || !look.colors.empty() || look.gradient ||
+                     look.classes || look.unique_values))
+    throw usage_error("--color-table: makes the whole scale; besides it there is --other alone");
 }
 
 /// What does not go together.
@@ -75,7 +83,8 @@ void check(const host::layer_look& look) {
   if (!look.rgb.empty() && look.draw && look.draw != draw_type::rgb)
     throw usage_error("--rgb: goes with --draw rgb");
   bool scale = !look.breaks.empty() || !look.colors.empty() || !look.values.empty() ||
-               look.simple || look.other || look.classes || look.unique_values;
+               look.simple || look.other || look.classes || look.unique_values || look.gradient ||
+               look.table;
   if (scale && (channels || look.draw == draw_type::image))
     throw usage_error("--draw: a scale's options go with --draw scale");
   bool own_fields = look.draw == draw_type::rgb || look.draw == draw_type::image ||
@@ -100,6 +109,8 @@ host::layer_look look_of(const texts& given) {
   if (!given.simple.empty()) look.simple = color_of("--simple", given.simple);
   if (!given.hillshade.empty()) look.hillshade = hillshade_of("--hillshade", given.hillshade);
   if (!given.isolines.empty()) look.isolines = isolines_of("--isolines", given.isolines);
+  if (!given.gradient.empty()) look.gradient = gradient_of("--gradient", given.gradient);
+  if (!given.color_table.empty()) look.table = host::read_color_table(given.color_table);
   if (!given.classes.method.empty())
     look.classes = request_of(given.classes);
   else if (given.classes.any_but_method())
@@ -112,11 +123,22 @@ host::layer_look look_of(const texts& given) {
   return look;
 }
 
+/// The first layer's that has classes.
+void save_color_table(const host::scene& scene, const std::string& file) {
+  for (const auto& each : scene.layers()) {
+    Tzu_stl_mngr* styles = each->style_manager();
+    if (styles == nullptr || zu_stl_mngr_get_mode(styles) != zu_style_range) continue;
+    return host::write_color_table(file, zu_stl_mngr_get_rng_scale_ptr(styles));
+  }
+  throw host::failure(file, "no layer has classes");
+}
+
 int run(const texts& given) {
   host::layer_look look = look_of(given);
   host::page_request request = request_of(given.page);
   if (!given.crs.empty()) check_projection("--crs", given.crs);
   check_output(given.page.output, given.sources);
+  host::check_not_source(given.saved_table, given.sources);
 
   bool makes_classes = look.classes || look.unique_values;
   host::bundle services(makes_classes ? std::vector<std::string>{host::classes_bundle}
@@ -126,6 +148,7 @@ int run(const texts& given) {
   for (const std::string& source : given.sources) scene.add(source);
   if (!given.crs.empty()) scene.set_projection(given.crs);
   host::dress(scene, look);
+  if (!given.saved_table.empty()) save_color_table(scene, given.saved_table);
   host::drawn_picture picture = draw(scene, request);
   return write_picture(picture, given.page.output, scene.projection());
 }
@@ -165,6 +188,20 @@ command add_render(CLI::App& options) {
       ->type_name("COLOR");
   options.add_option("--values", given->values, "value scale V=COLOR,...")
       ->type_name("V=COLOR,...");
+  options
+      .add_option("--gradient", given->gradient,
+                  "array of colours for the classes and tails; zugrid gradients names them "
+                  "(blue_white_red)")
+      ->type_name("NAME");
+  options
+      .add_option("--color-table", given->color_table,
+                  "classes and colours of a file of GMT (.cpt), QGIS or GDAL")
+      ->type_name("FILE");
+  options
+      .add_option("--save-color-table", given->saved_table,
+                  "write the classes for GMT (.cpt), QGIS (.qgis.txt) or, with any other name, "
+                  "GDAL")
+      ->type_name("FILE");
   options.add_option("--simple", given->simple, "one colour for the whole grid")
       ->type_name("COLOR");
   options.add_flag("--interpolate", given->interpolate, "interpolate values between cells");

@@ -29,6 +29,11 @@ void paint_other(Tzu_scale_prm* row, const layer_look& look) {
   paint(row, look.other.value_or(Tzu_color{128, 128, 128, 0}), look.other.has_value());
 }
 
+void spread_colors(const layer_look& look, std::vector<Tzu_color>& colors) {
+  zu_clr_arrays_generate_ex(look.gradient.value_or(default_colors), colors.size(), colors.data(),
+                            0);
+}
+
 std::size_t colored_field(const layer_look& look, const source& data) {
   return look.field.empty() ? data.default_field() : data.find(look.field).value();
 }
@@ -69,7 +74,7 @@ void set_range_scale(const layer_look& look, const source& data, std::size_t fie
   std::vector<Tzu_color> colors = look.colors;
   if (colors.empty()) {
     colors.resize(classes + 2);
-    zu_clr_arrays_generate_ex(default_colors, colors.size(), colors.data(), 0);
+    spread_colors(look, colors);
   } else if (!tails) {
     colors.insert(colors.begin(), colors.front());
     colors.push_back(colors.back());
@@ -97,10 +102,26 @@ void set_unique_values(const layer_look& look, const source& data, std::size_t f
   if (!fill_unique_values(look.builder, data, field, scale))
     zu_problems_add(wide(data.name()).c_str(), zu_problem_part, unique_values_cut);
   std::vector<Tzu_color> colors(zu_val_scale_get_size(scale));
-  zu_clr_arrays_generate_ex(default_colors, colors.size(), colors.data(), 0);
+  spread_colors(look, colors);
   for (std::size_t i = 0; i < colors.size(); ++i)
     paint(zu_val_scale_get_scale_prm_ptr(scale, i), colors[i], true);
   paint_other(zu_val_scale_get_other_prm_ptr(scale), look);
+}
+
+void set_table(const layer_look& look, const source& data, std::size_t field,
+               Tzu_stl_mngr* manager) {
+  std::wstring name = wide(data.fields().at(field).name);
+  std::optional<Tzu_field_stat> stat;
+  if (look.table->has_shares()) stat = data.limits(field);
+  apply_color_table(*look.table,
+                    stat ? std::pair(stat->minimum, stat->maximum) : std::pair(0.0, 0.0), manager);
+  bool by_values = zu_stl_mngr_get_mode(manager) == zu_style_value;
+  (by_values ? zu_stl_mngr_set_val_prop_name_w : zu_stl_mngr_set_rng_prop_name_w)(manager,
+                                                                                  name.c_str());
+  if (look.other)
+    paint(by_values ? zu_val_scale_get_other_prm_ptr(zu_stl_mngr_get_val_scale_ptr(manager))
+                    : zu_rng_scale_get_other_prm_ptr(zu_stl_mngr_get_rng_scale_ptr(manager)),
+          *look.other, true);
 }
 
 void set_style(const layer_look& look, const source& data, Tzu_stl_mngr* manager) {
@@ -113,6 +134,7 @@ void set_style(const layer_look& look, const source& data, Tzu_stl_mngr* manager
     return;
   }
   std::size_t field = colored_field(look, data);
+  if (look.table) return set_table(look, data, field, manager);
   std::wstring name = wide(data.fields().at(field).name);
   if (!look.values.empty() || look.unique_values) {
     zu_stl_mngr_set_mode(manager, zu_style_value);
@@ -280,7 +302,7 @@ void apply_look(const layer_look& look, layer& dressed) {
   draw_settings settings = dressed.settings();
   settings.draw = drawn_as(look, settings.draw);
   settings.transparency = look.transparency;
-  settings.interpolate = look.interpolate;
+  settings.interpolate = look.interpolate || (look.table && look.table->is_continuous());
   settings.channels.reset(zu_rgb_channels_create());
   set_channels(settings.draw, look, data, settings.channels.get());
   dressed.set_settings(settings);

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "host/core/classes.h"
+#include "host/core/color_tables.h"
 #include "host/core/scene.h"
 #include "zu/platform/zuk_styles.h"
 
@@ -40,6 +41,8 @@ struct layer_look {
   std::optional<class_request> classes;             ///< breaks that are made of the field
   bool unique_values = false;                       ///< a value scale of the field's own values
   std::vector<Tzu_color> colors;                    ///< n + 2, n with hidden tails, or none
+  std::optional<std::int32_t> gradient;             ///< array of the colours; none: the default one
+  std::optional<color_table> table;                 ///< the whole scale
   std::vector<std::pair<std::string, Tzu_color>> values;  ///< a value scale
   std::optional<Tzu_color> simple;
   std::optional<Tzu_color> other;  ///< of what no class or value holds; none: invisible
@@ -51,12 +54,12 @@ struct layer_look {
 
   bool colors_nothing_but_lines() const {
     return !draw && field.empty() && rgb.empty() && breaks.empty() && colors.empty() &&
-           values.empty() && !classes && !unique_values && !other && !hillshade && !isolines &&
-           !slice;
+           values.empty() && !classes && !unique_values && !gradient && !table && !other &&
+           !hillshade && !isolines && !slice;
   }
   bool styles_a_scale() const {
     return !field.empty() || !breaks.empty() || !colors.empty() || !values.empty() || simple ||
-           classes || unique_values || other;
+           classes || unique_values || gradient || table || other;
   }
 };
 

@@ -1,10 +1,14 @@
 // Nodes of a coordinate layer as points.
 
 #include <cmath>
+#include <deque>
+#include <map>
+#include <vector>
 
 #include "platform/zuk_basic/guarded.h"
 #include "platform/zuk_basic/text_of.h"
 #include "platform/zuk_lr2d/open_source.h"
+#include "platform/zuk_render/node_styles.h"
 #include "platform/zuk_tos_lr2d/coord_layer.h"
 #include "zu/platform/zuk_proj4_d2.h"
 #include "zu/platform/zuk_render.h"
@@ -13,53 +17,6 @@
 using namespace zu::platform;
 
 namespace {
-
-/// The style of a node by the value of the manager's field.
-class node_styles {
- public:
-  node_styles(Tzu_stl_mngr* manager, zu::data_source source)
-      : manager_(manager), mode_(zu_stl_mngr_get_mode(manager)), values_(source, field(source)) {
-    zu_rng_scale_beg_find(zu_stl_mngr_get_rng_scale_ptr(manager_));
-    zu_val_scale_beg_find(zu_stl_mngr_get_val_scale_ptr(manager_));
-  }
-  ~node_styles() {
-    zu_rng_scale_end_find(zu_stl_mngr_get_rng_scale_ptr(manager_));
-    zu_val_scale_end_find(zu_stl_mngr_get_val_scale_ptr(manager_));
-  }
-  node_styles(const node_styles&) = delete;
-  node_styles& operator=(const node_styles&) = delete;
-
-  /// Makes the nodes from `start` ready; false if nothing can be coloured.
-  bool read(std::uint64_t start, std::size_t count) {
-    if (mode_ == zu_style_simple) return true;
-    if (mode_ != zu_style_range && mode_ != zu_style_value) return false;
-    run_.resize(count);
-    return values_ && values_.read(start, run_);
-  }
-  /// Null if the node does not show.
-  Tzu_stl_prm* at(std::size_t i) const {
-    if (mode_ == zu_style_simple) return zu_stl_mngr_get_simple_sp_ptr(manager_);
-    Tzu_scale_prm* row =
-        mode_ == zu_style_range
-            ? zu_rng_scale_find_scale_prm_ptr(zu_stl_mngr_get_rng_scale_ptr(manager_), run_[i])
-            : zu_val_scale_find_scale_prm_ptr_d(zu_stl_mngr_get_val_scale_ptr(manager_), run_[i]);
-    return zu_scale_prm_get_visible(row) ? zu_scale_prm_get_stl_prm_ptr(row) : nullptr;
-  }
-
- private:
-  std::int64_t field(zu::data_source source) const {
-    std::wstring name =
-        text_of([&](Tzu_string_adp* a) { zu_stl_mngr_get_prop_name_w(manager_, a); });
-    std::int64_t index = -1;
-    bool found = zu::call<&zu::data_source_impl::find_field>(source, name.c_str(), &index);
-    return found ? index : -1;
-  }
-
-  Tzu_stl_mngr* manager_;
-  std::int32_t mode_;
-  node_column values_;
-  std::vector<double> run_;
-};
 
 /// The way from the layer's coordinates to the page.
 class node_places {
@@ -91,6 +48,46 @@ class node_places {
   bool projected_ = false;
 };
 
+/// Places of the nodes of each style, in millimetres; styles in the order in which they came.
+class places_by_style {
+ public:
+  void add(Tzu_stl_prm* style, const Tzu_vtx_d2& at) {
+    if (last_ == nullptr || last_->style != style) last_ = &group_of(style);
+    last_->x.push_back(at.x);
+    last_->y.push_back(at.y);
+  }
+  /// Calls `use(style, x, y)` for each.
+  template <class function> void each(const function& use) const {
+    for (const group& g : groups_) use(g.style, g.x, g.y);
+  }
+
+ private:
+  struct group {
+    Tzu_stl_prm* style;
+    std::vector<double> x, y;
+  };
+
+  group& group_of(Tzu_stl_prm* style) {
+    auto [known, is_new] = numbers_.try_emplace(style, groups_.size());
+    if (is_new) groups_.push_back({style, {}, {}});
+    return groups_[known->second];
+  }
+
+  std::deque<group> groups_;
+  std::map<Tzu_stl_prm*, std::size_t> numbers_;
+  group* last_ = nullptr;
+};
+
+/// The symbol of a row in another colour.
+owned<zu_pnt_style_destroy> recolored(Tzu_stl_prm* style, Tzu_color color) {
+  owned<zu_pnt_style_destroy> copy(zu_pnt_style_create());
+  zu_pnt_style_assign(copy.get(), zu_stl_prm_get_pnt_style_ptr(style, 0));
+  Tzu_bpnt_style* point = zu_pnt_style_get_bpnt_style_ptr(copy.get());
+  zu_bpnt_style_set_use_complex(point, false);
+  zu_bpnt_style_set_color(point, color);
+  return copy;
+}
+
 void draw_nodes(Izu_render* render, Izu_layer* layer, const coord_state& state) {
   std::wstring name = text_of([&](Tzu_string_adp* a) { zu_lr2d_get_wsource(layer, a); });
   open_source source(name);
@@ -98,25 +95,31 @@ void draw_nodes(Izu_render* render, Izu_layer* layer, const coord_state& state) 
   Tzu_optional_color scene = zu_scn_2d_get_selected_style_clr(zu_lr2d_get_scn_2d(layer));
   bool own = zu_lr_get_own_selected_style_flag(layer) || zu_lr2d_get_scn_2d(layer) == nullptr;
   const Tzu_table_data* table = zu_lr2d_get_data_ptr(layer);
-  double half = state.point_size * 0.5;
+  Tzu_drwc* page = zu_render_get_drwc(render);
   node_styles styles(state.manager.get(), source.get());
   node_places places(render, layer);
+  places_by_style selected;
   auto draw_run = [&](std::uint64_t start, const auto& xs, const auto& ys) {
     if (!styles.read(start, xs.size())) return;
     owned<zu_pv_d2_destroy> run = places.of(xs, ys);
     if (zu_pv_d2_get_size(run.get()) != xs.size()) return;
+    places_by_style drawn;
     for (std::size_t i = 0; i < xs.size(); ++i) {
       const Tzu_vtx_d2& at = zu_pv_d2_get_arr(run.get())[i];
       Tzu_stl_prm* style = styles.at(i);
       if (style == nullptr || !std::isfinite(at.x) || !std::isfinite(at.y)) continue;
-      bool selected = zu_table_data_is_selected_id(table, start + i);
-      Tzu_color color =
-          selected && !own ? scene.color : *zu_stl_prm_get_clr_style_ptr(style, selected ? 1 : 0);
-      Tzu_box_d2 point{at.x - half, at.y - half, at.x + half, at.y + half};
-      zu_drwc_fill_box(zu_render_get_drwc(render), &point, color);
+      (zu_table_data_is_selected_id(table, start + i) ? selected : drawn).add(style, at);
     }
+    drawn.each([&](Tzu_stl_prm* style, const auto& x, const auto& y) {
+      zu_drwc_draw_pnt(page, x.size(), x.data(), y.data(), zu_stl_prm_get_pnt_style_ptr(style, 0));
+    });
   };
   each_node_run(name, source.get(), draw_run);
+  selected.each([&](Tzu_stl_prm* style, const auto& x, const auto& y) {
+    auto in_scene_color = recolored(style, scene.color);
+    zu_drwc_draw_pnt(page, x.size(), x.data(), y.data(),
+                     own ? zu_stl_prm_get_pnt_style_ptr(style, 1) : in_scene_color.get());
+  });
 }
 
 }  // namespace

@@ -22,8 +22,10 @@ using zu::platform::owned;
 using zu::platform::text_of;
 using zu::platform::to_utf8;
 
+using library_ptr = std::shared_ptr<Tzu_style_lib>;
+
 struct Tzu_style_libs {
-  std::vector<owned<zu_style_lib_destroy>> libraries;
+  std::vector<library_ptr> libraries;
 };
 
 namespace {
@@ -83,8 +85,8 @@ contents present() {
 
 /// The library of a file, titled by its name if it has no caption; null, and the reason kept, if it
 /// cannot be read.
-owned<zu_style_lib_destroy> library_of(const library_file& file) {
-  owned<zu_style_lib_destroy> library(zu_style_lib_create());
+library_ptr library_of(const library_file& file) {
+  library_ptr library(zu_style_lib_create(), &zu_style_lib_destroy);
   owned<zu_xml_save_2d_destroy> xml(zu_xml_save_2d_create());
   zu_problems_clear(file.path.c_str());
   if (!zu_xml_data_load_style_lib(xml.get(), file.path.c_str(), library.get())) {
@@ -98,19 +100,31 @@ owned<zu_style_lib_destroy> library_of(const library_file& file) {
   return library;
 }
 
-/// Reads the folders again if they are others than at the last call; null if there are none.
+/// A file as it was read, with its library; null if it could not be read.
+struct read_file {
+  library_file file;
+  library_ptr library;
+};
+
+/// Reads what is new in the folders; null if there are none. A library that was read once stays,
+/// for whoever holds it and for a folder or language that comes back.
 Tzu_style_libs* refreshed() {
   static contents last;
-  static std::unique_ptr<Tzu_style_libs> kept;
+  static std::vector<read_file> read;
+  static Tzu_style_libs shown;
   contents now = present();
-  if (!kept || !(now == last)) {
-    auto made = std::make_unique<Tzu_style_libs>();
-    for (const library_file& file : now.files)
-      if (auto library = library_of(file)) made->libraries.push_back(std::move(library));
-    kept = std::move(made);
+  if (!(now == last)) {
+    std::vector<library_ptr> libraries;
+    for (const library_file& file : now.files) {
+      auto same = std::find_if(read.begin(), read.end(),
+                               [&](const read_file& each) { return each.file == file; });
+      if (same == read.end()) same = read.insert(same, {file, library_of(file)});
+      if (same->library) libraries.push_back(same->library);
+    }
+    shown.libraries = std::move(libraries);
     last = std::move(now);
   }
-  return last.has_folder ? kept.get() : nullptr;
+  return last.has_folder ? &shown : nullptr;
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "platform/zuk_basic/guarded.h"
+#include "platform/zuk_basic/text_of.h"
 #include "zu/platform/zuk_file_tos4.h"
 #include "zu/platform/zuk_tos_lr2d.h"
 
@@ -29,8 +30,31 @@ struct block_taker final : grid_block_visitor_impl {
 /// Largest point, millimetres: more is no point.
 constexpr double largest_point = 100.0;
 
-void set_point_size(double& size, double given) {
-  if (!std::isnan(given)) size = std::clamp(given, 0.0, largest_point);
+void set_size(Tzu_stl_prm* style, double millimetres) {
+  for (std::int32_t index : {0, 1}) {
+    Tzu_bpnt_style* point =
+        zu_pnt_style_get_bpnt_style_ptr(zu_stl_prm_get_pnt_style_ptr(style, index));
+    zu_bpnt_style_set_size(point, millimetres);
+    if (zu_bpnt_style_get_use_complex(point))
+      zu_cpx_pnt_style_set_point_size(zu_bpnt_style_get_complex_style(point), millimetres);
+  }
+}
+
+/// Calls `use` with the style of each row of a scale, the tails and "other" among them.
+template <class function> void each_style(Tzu_stl_mngr* manager, const function& use) {
+  auto row = [&](Tzu_scale_prm* prm) { use(zu_scale_prm_get_stl_prm_ptr(prm)); };
+  Tzu_rng_scale* ranges = zu_stl_mngr_get_rng_scale_ptr(manager);
+  for (std::uint64_t i = 0; i < zu_rng_scale_get_size(ranges); ++i)
+    row(zu_rng_scale_get_scale_prm_ptr(ranges, i));
+  row(zu_rng_scale_get_min_prm_ptr(ranges));
+  row(zu_rng_scale_get_max_prm_ptr(ranges));
+  row(zu_rng_scale_get_other_prm_ptr(ranges));
+  for (Tzu_val_scale* scale :
+       {zu_stl_mngr_get_val_scale_ptr(manager), zu_stl_mngr_get_rule_scale_ptr(manager)}) {
+    for (std::uint64_t i = 0; i < zu_val_scale_get_size(scale); ++i)
+      row(zu_val_scale_get_scale_prm_ptr(scale, i));
+    row(zu_val_scale_get_other_prm_ptr(scale));
+  }
 }
 
 }  // namespace
@@ -58,6 +82,32 @@ coord_properties coord_properties_of(const std::wstring& name) {
   return {zu_tos4_get_coord_prop(file.get(), 0), zu_tos4_get_coord_prop(file.get(), 1)};
 }
 
+coord_state::coord_state() {
+  constexpr double size = 1.0;
+  Tzu_stl_prm* simple = zu_stl_mngr_get_simple_sp_ptr(manager.get());
+  for (std::int32_t index : {0, 1}) {
+    Tzu_bpnt_style* point =
+        zu_pnt_style_get_bpnt_style_ptr(zu_stl_prm_get_pnt_style_ptr(simple, index));
+    zu_bpnt_style_set_figure(point, zu_figure_square);
+    zu_bpnt_style_set_size(point, size);
+  }
+}
+
+double coord_state::point_size() const {
+  Tzu_bpnt_style* point = zu_pnt_style_get_bpnt_style_ptr(
+      zu_stl_prm_get_pnt_style_ptr(zu_stl_mngr_get_simple_sp_ptr(manager.get()), 0));
+  if (zu_bpnt_style_get_use_complex(point))
+    return zu_cpx_pnt_style_get_point_size(zu_bpnt_style_get_complex_style(point));
+  return zu_bpnt_style_get_size(point);
+}
+
+void coord_state::set_point_size(double millimetres) {
+  if (std::isnan(millimetres)) return;
+  double size = std::clamp(millimetres, 0.0, largest_point);
+  set_size(zu_stl_mngr_get_simple_sp_ptr(manager.get()), size);
+  each_style(manager.get(), [&](Tzu_stl_prm* style) { set_size(style, size); });
+}
+
 bool coord_state::box_of(const std::wstring& name, data_source source, Tzu_box_d2& box) {
   constexpr double far = std::numeric_limits<double>::infinity();
   box = {far, far, -far, -far};
@@ -78,7 +128,6 @@ bool coord_state::box_of(const std::wstring& name, data_source source, Tzu_box_d
 void coord_state::save(Tzu_xnode* node, void* context) const {
   node_ptr params(zu_xnode_set_node_w(node, key::params));
   save_projection(params.get(), *this);
-  zu_xnode_set_attr_dbl_w(params.get(), key::point_size, point_size);
   zu_xml_save_style_save_mngr_style(context, node, key::styles,
                                     zu_stl_mngr_get_style_type(manager.get()), manager.get());
 }
@@ -86,9 +135,36 @@ void coord_state::save(Tzu_xnode* node, void* context) const {
 void coord_state::load(Tzu_xnode* node, void* context) {
   node_ptr params(zu_xnode_get_node_w(node, key::params));
   load_projection(params.get(), *this);
-  set_point_size(point_size, zu_xnode_get_attr_dbl_w(params.get(), key::point_size, point_size));
-  zu_xml_save_style_load_mngr_style(context, node, key::styles,
-                                    zu_stl_mngr_get_style_type(manager.get()), manager.get());
+  if (zu_xml_save_style_load_mngr_style(context, node, key::styles,
+                                        zu_stl_mngr_get_style_type(manager.get()), manager.get()))
+    return;
+  // Once the points of a layer had colours and one size.
+  owned<zu_stl_mngr_destroy> colors(zu_clr_stl_mngr_create());
+  if (!zu_xml_save_style_load_mngr_style(context, node, key::styles,
+                                         zu_stl_mngr_get_style_type(colors.get()), colors.get()))
+    return;
+  take_colors(colors.get());
+  set_point_size(zu_xnode_get_attr_dbl_w(params.get(), key::point_size, point_size()));
+}
+
+void coord_state::take_colors(Tzu_stl_mngr* colors) {
+  Tzu_stl_mngr* own = manager.get();
+  for (std::int32_t index : {0, 1})
+    zu_stl_prm_clr_set_all(zu_stl_mngr_get_simple_sp_ptr(own),
+                           zu_stl_prm_get_color(zu_stl_mngr_get_simple_sp_ptr(colors), index),
+                           index);
+  zu_rng_scale_assign(zu_stl_mngr_get_rng_scale_ptr(own), zu_stl_mngr_get_rng_scale_ptr(colors));
+  zu_val_scale_assign(zu_stl_mngr_get_val_scale_ptr(own), zu_stl_mngr_get_val_scale_ptr(colors));
+  auto field = [&](auto get) { return text_of([&](Tzu_string_adp* a) { get(colors, a); }); };
+  zu_stl_mngr_set_rng_prop_name_w(own, field(&zu_stl_mngr_get_rng_prop_name_w).c_str());
+  zu_stl_mngr_set_val_prop_name_w(own, field(&zu_stl_mngr_get_val_prop_name_w).c_str());
+  zu_stl_mngr_set_mode(own, zu_stl_mngr_get_mode(colors));
+  each_style(own, [](Tzu_stl_prm* style) {
+    for (std::int32_t index : {0, 1})
+      zu_bpnt_style_set_figure(
+          zu_pnt_style_get_bpnt_style_ptr(zu_stl_prm_get_pnt_style_ptr(style, index)),
+          zu_figure_square);
+  });
 }
 
 }  // namespace zu::platform
@@ -102,10 +178,9 @@ Tzu_stl_mngr* zu_tos_2crd_lr2d_get_clr_stl_mngr_ptr(const Izu_layer* layer) {
 }
 double zu_tos_2crd_lr2d_get_point_size(const Izu_layer* layer) {
   const coord_state* state = state_as<coord_state>(layer);
-  return state != nullptr ? state->point_size : 1.0;
+  return state != nullptr ? state->point_size() : 1.0;
 }
 void zu_tos_2crd_lr2d_set_point_size(Izu_layer* layer, double millimetres) {
-  zu::platform::guarded(state_as<coord_state>(layer), [&](coord_state& s) {
-    zu::platform::set_point_size(s.point_size, millimetres);
-  });
+  zu::platform::guarded(state_as<coord_state>(layer),
+                        [&](coord_state& s) { s.set_point_size(millimetres); });
 }

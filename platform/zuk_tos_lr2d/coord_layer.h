@@ -10,13 +10,22 @@ namespace zu::platform {
 
 class coord_state final : public own_state {
  public:
+  /// Nodes are squares of 1 mm.
+  coord_state();
   Tzu_stl_mngr* style_manager() override { return manager.get(); }
   bool box_of(const std::wstring& name, data_source source, Tzu_box_d2& box) override;
   void save(Tzu_xnode* node, void* context) const override;
   void load(Tzu_xnode* node, void* context) override;
 
-  owned<zu_stl_mngr_destroy> manager{zu_clr_stl_mngr_create()};
-  double point_size = 1.0;  // millimetres
+  /// Of the simple symbol, millimetres.
+  double point_size() const;
+  /// Gives all symbols a size.
+  void set_point_size(double millimetres);
+
+  owned<zu_stl_mngr_destroy> manager{zu_stl_mngr_create("pnt_mngr_style")};
+
+ private:
+  void take_colors(Tzu_stl_mngr* colors);
 };
 
 /// A property of an open grid, some nodes at a time, as doubles. What has no value is NaN.

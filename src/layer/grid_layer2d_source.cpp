@@ -6,6 +6,7 @@
 #include "zu/platform/zuk_io.h"
 #include "zu/platform/zuk_lr2d.h"
 #include "zu/platform/zuk_proj4_d2.h"
+#include "zu/platform/zuk_stat.h"
 
 namespace zu {
 namespace {
@@ -16,6 +17,14 @@ bool shows_itself_as_image(data::grid_datasource& source) {
     if (source.color_role(field) == role_none || source.sample_type(field) != element_uint8)
       return false;
   return count > 0;
+}
+
+/// Of the channels: they are those of the data that was there.
+void forget_histograms(Tzu_rgb_channels* channels) {
+  for (Tzu_clr_channel* channel :
+       {zu_rgb_channels_get_red(channels), zu_rgb_channels_get_green(channels),
+        zu_rgb_channels_get_blue(channels), zu_rgb_channels_get_gray(channels)})
+    zu_stat_set_histogramm(zu_clr_channel_get_stat(channel), false);
 }
 
 }  // namespace
@@ -29,6 +38,7 @@ bool grid_layer2d::open_source(data::grid_datasource& source) const {
 
 void grid_layer2d::source_changed() {
   zu_table_data_set_wsource(table_data_.get(), wsource().c_str());
+  forget_histograms(rgb_channels());
   data::grid_datasource source;
   if (!open_source(source)) return;
   if (proj4_.empty()) proj4_ = source.projection();

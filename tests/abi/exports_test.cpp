@@ -45,7 +45,8 @@ TEST(exports, the_bundle_asks_the_platform_for_plain_functions_alone) {
   for (const std::string& line : lines) {
     std::string name = last_word(line);
     if (name.find('@') != std::string::npos || line.find(" w ") != std::string::npos) continue;
-    EXPECT_EQ(name.rfind("zu_", 0), 0u) << name;
+    // Conversions have names of their own.
+    EXPECT_TRUE(name.rfind("zu_", 0) == 0 || name.rfind("gp_", 0) == 0) << name;
     ++asked;
   }
   EXPECT_GT(asked, 0);

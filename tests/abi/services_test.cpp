@@ -36,6 +36,10 @@ std::vector<service> all_services() {
       {10, "zu_objinfo_service_visitor_interface_6", "zu_objinfo_service_visitor_interface_5",
        "zu_objinfo_service_interface_6"},
   };
+  for (std::size_t row : {7, 8, 9, 16})
+    all.push_back({row, "zu_layer_2d_editor_extension_service_visitor_interface_98",
+                   "zu_layer_2d_editor_extension_service_visitor_interface_97",
+                   "zu_layer_2d_editor_extension_service_interface_98"});
   std::vector<std::size_t> dialogs = {3, 14};
   for (std::size_t row = 20; row <= 39; ++row) dialogs.push_back(row);
   for (std::size_t row : dialogs)

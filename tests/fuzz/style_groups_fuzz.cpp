@@ -18,6 +18,8 @@ struct styles {
   using owned = std::unique_ptr<object, destroyed_by<destroy>>;
   owned<Tzu_stl_mngr, zu_stl_mngr_destroy> colors{zu_stl_mngr_create("clr_mngr_style")};
   owned<Tzu_stl_mngr, zu_stl_mngr_destroy> lines{zu_stl_mngr_create("pln_mngr_style")};
+  owned<Tzu_stl_mngr, zu_stl_mngr_destroy> points{zu_stl_mngr_create("pnt_mngr_style")};
+  owned<Tzu_stl_mngr, zu_stl_mngr_destroy> polygons{zu_stl_mngr_create("pgn_mngr_style")};
   owned<Tzu_hillshade_style, zu_hillshade_style_destroy> shade{zu_hillshade_style_create()};
   owned<Tzu_isoline_style, zu_isoline_style_destroy> isolines{zu_isoline_style_create()};
   owned<Tzu_rgb_channels, zu_rgb_channels_destroy> channels{zu_rgb_channels_create()};
@@ -25,6 +27,8 @@ struct styles {
   void load(Tzu_xnode* node) {
     zu_xml_save_style_load_mngr_style(nullptr, node, L"styles", "clr_mngr_style", colors.get());
     zu_xml_save_style_load_mngr_style(nullptr, node, L"lines", "pln_mngr_style", lines.get());
+    zu_xml_save_style_load_mngr_style(nullptr, node, L"points", "pnt_mngr_style", points.get());
+    zu_xml_save_style_load_mngr_style(nullptr, node, L"polygons", "pgn_mngr_style", polygons.get());
     zu_xml_save_style_load_hillshade_style(nullptr, node, L"hillshade", shade.get());
     zu_xml_save_style_load_isoline_style(nullptr, node, L"isoline", isolines.get());
     zu_xml_save_style_load_rgb_channels(nullptr, node, L"channels", channels.get());
@@ -35,6 +39,10 @@ struct styles {
     zu_xml_save_style_save_mngr_style(nullptr, root.get(), L"styles", "clr_mngr_style",
                                       colors.get());
     zu_xml_save_style_save_mngr_style(nullptr, root.get(), L"lines", "pln_mngr_style", lines.get());
+    zu_xml_save_style_save_mngr_style(nullptr, root.get(), L"points", "pnt_mngr_style",
+                                      points.get());
+    zu_xml_save_style_save_mngr_style(nullptr, root.get(), L"polygons", "pgn_mngr_style",
+                                      polygons.get());
     zu_xml_save_style_save_hillshade_style(nullptr, root.get(), L"hillshade", shade.get());
     zu_xml_save_style_save_isoline_style(nullptr, root.get(), L"isoline", isolines.get());
     zu_xml_save_style_save_rgb_channels(nullptr, root.get(), L"channels", channels.get());

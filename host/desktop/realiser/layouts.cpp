@@ -18,13 +18,14 @@ constexpr std::uint32_t most_cells = 1000;
 
 int bounded(std::uint32_t count) { return int(std::min(count, most_cells)); }
 
-/// The control itself or the first one in it that a key can reach.
-QWidget* reachable(QWidget* control) {
-  if (control->focusPolicy() & Qt::TabFocus) return control;
-  const QList<QWidget*> inner = control->findChildren<QWidget*>();
-  for (QWidget* child : inner)
-    if ((child->focusPolicy() & Qt::TabFocus) && child->focusProxy() == nullptr) return child;
-  return nullptr;
+/// The control itself, or those in it, that a key can reach.
+QList<QWidget*> reachable(QWidget* control) {
+  if (control->focusPolicy() & Qt::TabFocus) return {control};
+  QList<QWidget*> inner = control->findChildren<QWidget*>();
+  inner.removeIf([](const QWidget* child) {
+    return !(child->focusPolicy() & Qt::TabFocus) || child->focusProxy() != nullptr;
+  });
+  return inner;
 }
 
 /// Ends what stands in a control, so that elements lose their views before the element around them:
@@ -74,10 +75,13 @@ void grid_layout_widget::name_controls() {
       return other.row == first.row && other.column == first.column + first.columns;
     });
     if (next == cells_.end() || qobject_cast<QLabel*>(next->control) != nullptr) continue;
-    QWidget* control = reachable(next->control);
-    if (control == nullptr) continue;
-    label->setBuddy(control);
-    control->setAccessibleName(plain_name(label->text()));
+    const QList<QWidget*> controls = reachable(next->control);
+    if (controls.isEmpty()) continue;
+    label->setBuddy(controls.front());
+    // A number and its slider share the label; what has a name of its own keeps it.
+    for (QWidget* each : controls)
+      if (each == controls.front() || each->accessibleName().isEmpty())
+        each->setAccessibleName(plain_name(label->text()));
     // Beside something high a label stands at its first line.
     if (next->control->sizePolicy().verticalPolicy() & QSizePolicy::ExpandFlag)
       grid_->setAlignment(label, Qt::AlignTop);

@@ -202,8 +202,25 @@ void outline_widget::show_columns() {
   header()->setSectionResizeMode(call<&outline_impl::can_resize_columns>(element_)
                                      ? QHeaderView::Interactive
                                      : QHeaderView::Fixed);
+  const int spare = spare_column();
+  header()->setStretchLastSection(spare < 0);
+  if (spare >= 0) header()->setSectionResizeMode(spare, QHeaderView::Stretch);
   is_fitted_ = false;
   if (isVisible()) fit_columns();
+}
+
+int outline_widget::spare_column() const {
+  int found = -1;
+  bool any_wish = false;
+  for (int i = 0; i < model_->columnCount(); ++i) {
+    const shown_column& c = model_->column(i);
+    if (header()->isSectionHidden(i)) continue;
+    any_wish = any_wish || c.width > 0;
+    if (c.width > 0 || (c.kind != column_kind::string && c.kind != column_kind::assisted)) continue;
+    if (found >= 0) return -1;
+    found = i;
+  }
+  return any_wish ? found : -1;
 }
 
 void outline_widget::show_empty_text() {

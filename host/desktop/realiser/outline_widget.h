@@ -40,6 +40,9 @@ class outline_widget final : public realised<outline_impl, QWidget> {
   void show_columns();
   void show_empty_text();
   void fit_columns();
+  /// The column that takes what the others leave: the one of texts without a wish where there are
+  /// wishes; -1 if there is no such column, or more than one.
+  int spare_column() const;
   int fitting_width(int column) const;
   int fitting_row_height() const;
   void open_items(const QModelIndex& parent);

@@ -27,6 +27,8 @@ editor_docks::editor_docks(QMainWindow& window, document& shown,
         service, docker_visitor(handle_of<docker_visitor_impl>(found)));
     for (const auto& [id, panel] : found.all) add_dock(id, panel);
   }
+  soon_.setSingleShot(true);
+  connect(&soon_, &QTimer::timeout, this, &editor_docks::show_wanted);
   connect(&document_, &document::layer_activated, this, &editor_docks::follow_layer);
   follow_layer();
   if (!docks_.empty()) docks_.front()->raise();
@@ -59,7 +61,7 @@ void editor_docks::add_dock(const QString& id, docker panel) {
   };
   name();
   connect(content, &realised_docker::title_changed, dock, name);
-  connect(content, &realised_docker::wanted_changed, this, [this, dock] { show_or_hide(dock); });
+  connect(content, &realised_docker::wanted_changed, this, &editor_docks::settle);
   connect(dock->toggleViewAction(), &QAction::triggered, this, [this, dock](bool shown) {
     if (shown)
       closed_.remove(dock->objectName());
@@ -79,7 +81,16 @@ void editor_docks::follow_layer() {
   for (const layer_2d_editor_extension_service& service : services_)
     call<&layer_2d_editor_extension_service_impl::layer_changed>(
         service, active != nullptr ? active->entity() : nullptr);
-  show_wanted();
+  settle();
+}
+
+void editor_docks::settle() {
+  // A layer that undo changes is let go of and taken again at once: the panels would leave their
+  // place, and a person theirs in them.
+  if (document_.active_layer() != nullptr)
+    show_wanted();
+  else
+    soon_.start(0);
 }
 
 void editor_docks::show_or_hide(QDockWidget* dock) {

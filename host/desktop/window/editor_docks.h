@@ -3,6 +3,7 @@
 
 #include <QObject>
 #include <QSet>
+#include <QTimer>
 #include <vector>
 
 #include "host/desktop/window/document.h"
@@ -40,6 +41,8 @@ class editor_docks final : public QObject {
  private:
   void add_dock(const QString& id, docker panel);
   void follow_layer();
+  /// Shows what applies: at once for a layer, soon for none.
+  void settle();
   void show_or_hide(QDockWidget* dock);
   static realised_docker* panel_of(QDockWidget* dock);
 
@@ -48,6 +51,7 @@ class editor_docks final : public QObject {
   std::vector<layer_2d_editor_extension_service> services_;
   std::vector<QDockWidget*> docks_;
   QSet<QString> closed_;
+  QTimer soon_;
 };
 
 }  // namespace zu::desktop

@@ -37,10 +37,11 @@ ZU_API void zu_render_cr_pnt(Izu_render* render, const Tzu_ov_d2* points,
 /// Draws a polygon given in render coordinates, as `zu_drwc_draw_pgn` draws millimetres.
 ZU_API void zu_render_cr_pgn(Izu_render* render, const Tzu_ov_d2* rings,
                              const Tzu_pgn_style* style);
-/// Draws the nodes of a layer of the type "tos_2crd_lr2d" as square points in the colours of its
-/// style manager: the simple one, or by the value of a scale's field. Selected nodes have the
-/// scene's colour of the selection, or their own. A layer of another type is left alone, and what
-/// cannot be read is not drawn.
+/// Draws the nodes of a layer of the type "tos_2crd_lr2d" with the symbols of its style manager:
+/// the simple one, or by the value of a scale's field, or the first whose rule holds. Nodes of a
+/// hidden row are not drawn. Selected nodes come last, in the scene's colour of the selection, or
+/// with the symbol for what is selected. A layer of another type is left alone, and what cannot be
+/// read is not drawn.
 ZU_API void zu_tos_2crd_lr2d_draw(Izu_render* render, Izu_layer* layer);
 /// Draws a layer of the types of zuk_plot_lr2d.h; false, and nothing drawn, for another.
 ZU_API bool zu_plot_lr2d_draw(Izu_render* render, Izu_layer* layer);

@@ -56,9 +56,9 @@ ZU_API Tzu_pgn_style* zu_idx_pgn_style_get_pgn_style_ptr(Tzu_idx_style* entry);
 // --- The libraries of the folder that `zu_options_get_style_libs_path` names: its "._ls" files by
 // name; and behind them, unless the host has set a folder, those of
 // `zu_options_get_own_style_libs_path` in the language in force, but for files of the same name.
-// Read at the first call, and anew when a folder, a file or the language has changed: what was
-// handed out before ends then. A file that cannot be read is left out, and its reason is kept under
-// its path (`zu_problems_get`).
+// Read at the first call, and anew when a folder, a file or the language has changed; a library
+// that was handed out stays as it was. A file that cannot be read is left out, and its reason is
+// kept under its path (`zu_problems_get`).
 
 typedef struct Tzu_style_libs Tzu_style_libs;
 ZU_API Tzu_style_libs* zu_global_lib_styles_get_libs(void);  ///< null if there are no such folders

@@ -47,7 +47,9 @@ ZU_API void zu_tos_grid_lr1d_set_affine_trnsf(Izu_layer* layer, const Tzu_affine
 
 // --- Grids whose nodes have columns of x and y ("tos_2crd_lr2d"), drawn as points
 
+/// Styles of the symbols; a new layer's simple one is a gray square of 1 mm.
 ZU_API Tzu_stl_mngr* zu_tos_2crd_lr2d_get_clr_stl_mngr_ptr(const Izu_layer* layer);
-/// Side of a point, 0 to 100 mm; a new layer has 1. What is no number is ignored.
+/// Size of the simple symbol. Setting it, 0 to 100 mm, gives it to the symbols of all scales too;
+/// what is no number is ignored.
 ZU_API double zu_tos_2crd_lr2d_get_point_size(const Izu_layer* layer);
 ZU_API void zu_tos_2crd_lr2d_set_point_size(Izu_layer* layer, double millimetres);

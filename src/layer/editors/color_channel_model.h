@@ -32,12 +32,18 @@ class color_channel_model {
     zu_clr_channel_set_limits(channel, minimum, maximum);
   }
 
-  /// Of the field, by reading all of it where nobody has yet; null without a field or where it
-  /// cannot be read.
-  const Tzu_histogramm_data* histogram() const;
+  /// Of the field; null without a field, where it cannot be read and where a person did not want to
+  /// wait for it.
+  const Tzu_histogramm_data* histogram() const { return histogram_; }
+
+ private:
+  /// By reading all of the field, where nobody has yet.
+  const Tzu_histogramm_data* fetch_histogram() const;
+
+  const Tzu_histogramm_data* histogram_ = nullptr;
 };
 
-/// Between which values a histogram lies; 0 and 255 where it has no classes.
+/// Between which values a histogram lies; 0 and 255 where it counts nothing.
 struct value_range {
   double minimum = 0, maximum = 255;
 };

@@ -36,14 +36,19 @@ hillshade_manager::hillshade_manager() {
   root_.place(use_, 2).place(field_).place(z_factor_).place(altitude_).place(azimuth_);
   root_.place(blend_).place(multidirectional_, 2);
   root_.set_column_stretch(1).set_row_stretch(7);
-  set(nullptr, nullptr);
+  use_.assign(false);
+  multidirectional_.assign(false);
+  enable();
 }
 
 void hillshade_manager::set(Izu_layer* layer, Tzu_hillshade_style* style) {
   style_ = style;
-  use_.assign(style != nullptr && zu_hillshade_style_get_use(style));
-  multidirectional_.assign(style != nullptr && zu_hillshade_style_get_multidir(style));
-  if (style != nullptr) reload(layer);
+  // Without a layer the panel is not seen: what it shows stands, and with it a person's place in
+  // it.
+  if (style == nullptr) return;
+  use_.assign(zu_hillshade_style_get_use(style));
+  multidirectional_.assign(zu_hillshade_style_get_multidir(style));
+  reload(layer);
   enable();
 }
 

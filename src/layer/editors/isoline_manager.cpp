@@ -41,13 +41,17 @@ isoline_manager::isoline_manager() {
   root_.place(use_, 2).place(field_).place(thin_step_).place(thin_style_, 2);
   root_.place(bold_step_).place(bold_style_, 2);
   root_.set_column_stretch(1).set_row_stretch(6);
-  set(nullptr, nullptr);
+  use_.assign(false);
+  enable();
 }
 
 void isoline_manager::set(Izu_layer* layer, Tzu_isoline_style* style) {
   style_ = style;
-  use_.assign(style != nullptr && zu_isoline_style_get_use(style));
-  if (style != nullptr) reload(layer);
+  // Without a layer the panel is not seen: what it shows stands, and with it a person's place in
+  // it.
+  if (style == nullptr) return;
+  use_.assign(zu_isoline_style_get_use(style));
+  reload(layer);
   enable();
 }
 

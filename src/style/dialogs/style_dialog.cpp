@@ -63,39 +63,40 @@ template <class traits> void style_exchange_tools<traits>::load() {
   if (!path.empty() && traits::load_file(xml.get(), path.c_str(), edited_)) loaded_();
 }
 
-template <class traits> style_dialog<traits>::style_dialog() {
+template <class traits, class T> style_dialog<traits, T>::style_dialog() {
   parts_.on_change = [this] { preview_.redraw(); };
   preview_.on_draw = [this](Tzu_drwc* page) {
     Tzu_box_d2 whole{};
     zu_drwc_get_page(page, &whole);
     traits::draw(page, whole.x1, whole.y1, traits::given(own_.get()));
   };
-  libraries_.on_pick = [this](argument from) { picked(from); };
+  libraries_.on_pick = favorites_.on_pick = [this](argument from) { picked(from); };
+  favorites_.on_style = [this] { return traits::given(own_.get()); };
   buttons_.on_accept = [this] {
     if (edited_ != nullptr) traits::assign(edited_, own_.get());
     return true;
   };
   preview_frame_.place(preview_);
-  side_.place(preview_frame_);
-  if (libraries_.has_libraries()) side_.place(libraries_);
-  side_.set_row_stretch(libraries_.has_libraries() ? 1 : 2);
+  if (libraries_.has_libraries()) ready_.place(L"zu_style_dialog_libraries", 14905, libraries_);
+  ready_.place(L"zu_style_dialog_favorites", 14915, favorites_);
+  side_.place(preview_frame_).place(ready_).set_row_stretch(1);
   columns_.place(parts_).place(side_).set_column_stretch(0);
   root_.place(tools_).place(columns_).place(buttons_).set_row_stretch(1);
   reload();
 }
 
-template <class traits> void style_dialog<traits>::set(style* edited) {
+template <class traits, class T> void style_dialog<traits, T>::set(style* edited) {
   edited_ = edited;
   traits::assign(own_.get(), edited);
   reload();
 }
 
-template <class traits> void style_dialog<traits>::reload() {
+template <class traits, class T> void style_dialog<traits, T>::reload() {
   parts_.set(own_.get());
   preview_.redraw();
 }
 
-template <class traits> void style_dialog<traits>::picked(argument from) {
+template <class traits, class T> void style_dialog<traits, T>::picked(argument from) {
   traits::assign(own_.get(), from);
   reload();
 }
@@ -103,8 +104,8 @@ template <class traits> void style_dialog<traits>::picked(argument from) {
 template class style_exchange_tools<point_dialog_traits>;
 template class style_exchange_tools<line_dialog_traits>;
 template class style_exchange_tools<polygon_dialog_traits>;
-template class style_dialog<point_dialog_traits>;
-template class style_dialog<line_dialog_traits>;
-template class style_dialog<polygon_dialog_traits>;
+template class style_dialog<point_dialog_traits, favorites_point>;
+template class style_dialog<line_dialog_traits, favorites_line>;
+template class style_dialog<polygon_dialog_traits, favorites_polygon>;
 
 }  // namespace zu::style::detail

@@ -1,9 +1,9 @@
 #pragma once
 // A dialog around the parts of a style: preview, libraries, copy and paste, files.
 
-#include "src/style/dialogs/lib_style_outline.h"
+#include "src/style/dialogs/favorites_list.h"
 #include "src/toolkit/drawn.h"
-#include "src/toolkit/toolbars.h"
+#include "src/toolkit/tabs.h"
 
 namespace zu::style::detail {
 
@@ -28,7 +28,8 @@ template <class traits> class style_exchange_tools {
   toolkit::action_tool copy_{10008}, paste_{10010}, save_{14910}, load_{14911};
 };
 
-template <class traits> class style_dialog : public toolkit::with_element {
+/// `T` is of the kind of `traits`.
+template <class traits, class T> class style_dialog : public toolkit::with_element {
  public:
   using argument = typename traits::argument;
   using style = typename traits::style;
@@ -50,7 +51,9 @@ template <class traits> class style_dialog : public toolkit::with_element {
   toolkit::canvas preview_{45, 30};  // millimetres
   toolkit::groupbox<1, 1> preview_frame_{10333};
   library_picker<traits> libraries_;
-  toolkit::grid_layout<1, 3> side_;
+  favorites_list<T> favorites_;
+  toolkit::tab_layout<2> ready_;
+  toolkit::grid_layout<1, 2> side_;
   toolkit::grid_layout<2, 1> columns_;
   toolkit::button_box buttons_{toolkit::button_box::ok | toolkit::button_box::cancel};
   toolkit::grid_layout<1, 3> root_;

@@ -6,7 +6,8 @@
 
 namespace zu::dialog::detail {
 
-class point_style : public style::detail::style_dialog<style::detail::point_dialog_traits> {
+class point_style : public style::detail::style_dialog<style::detail::point_dialog_traits,
+                                                       style::favorites_point> {
  public:
   static constexpr wchar_t id[] = L"zu_common_point_style_dialog";
   static constexpr std::int32_t caption = 14907;
@@ -14,14 +15,16 @@ class point_style : public style::detail::style_dialog<style::detail::point_dial
   static bool run(Tzu_pnt_style* edited);
 };
 
-class line_style : public style::detail::style_dialog<style::detail::line_dialog_traits> {
+class line_style
+    : public style::detail::style_dialog<style::detail::line_dialog_traits, style::favorites_line> {
  public:
   static constexpr wchar_t id[] = L"zu_common_line_style_dialog";
   static constexpr std::int32_t caption = 10359;
   static bool run(Tzu_pln_style* edited);
 };
 
-class polygon_style : public style::detail::style_dialog<style::detail::polygon_dialog_traits> {
+class polygon_style : public style::detail::style_dialog<style::detail::polygon_dialog_traits,
+                                                         style::favorites_polygon> {
  public:
   static constexpr wchar_t id[] = L"zu_common_polygon_style_dialog";
   static constexpr std::int32_t caption = 14908;

@@ -16,10 +16,12 @@ inline void give(const std::wstring& text, string_visitor visitor) {
 /// A column of kind `x` of a model; `id` must outlive it.
 template <class model, class x> class scale_column : public x {
  public:
-  scale_column(model& m, const wchar_t* id, std::int32_t caption)
-      : model_(m), id_(id), caption_(caption) {}
+  /// `width` is in units of layouts; 0 takes what the other columns leave.
+  scale_column(model& m, const wchar_t* id, std::int32_t caption, std::uint32_t width)
+      : model_(m), id_(id), caption_(caption), width_(width) {}
   void id(string_visitor visitor) override { call<&string_visitor_impl::visit>(visitor, id_); }
   void caption(string_visitor visitor) override { toolkit::visit_text(caption_, visitor); }
+  std::uint32_t width() override { return width_; }
 
  protected:
   static std::int64_t row(outline_item item) { return toolkit::row_of(item); }
@@ -28,6 +30,7 @@ template <class model, class x> class scale_column : public x {
  private:
   const wchar_t* id_;
   std::int32_t caption_;
+  std::uint32_t width_;
 };
 
 template <class model>
@@ -140,7 +143,7 @@ class scale_outline_style_column : public scale_column<model, bitmap_outline_col
                                    public sized_pictures_impl {
  public:
   scale_outline_style_column(model& m, const wchar_t* id, std::int32_t caption, std::int32_t kind)
-      : scale_column<model, bitmap_outline_column_impl>(m, id, caption), kind_(kind) {}
+      : scale_column<model, bitmap_outline_column_impl>(m, id, caption, 6), kind_(kind) {}
 
   int query_interface(const char* name, const void** table, void** instance) override {
     const int difference = bitmap_outline_column_impl::query_interface(name, table, instance);

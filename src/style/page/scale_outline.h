@@ -13,10 +13,11 @@ template <class model> struct key_columns;
 
 template <class style_traits> struct key_columns<scale_model<style_traits, value_scale_traits>> {
   using model = scale_model<style_traits, value_scale_traits>;
+  static constexpr std::uint32_t caption_width = 0;
   static constexpr const wchar_t* ids[] = {
       ZU_SCALE_COLUMN(L"value", L"caption"), ZU_SCALE_COLUMN(L"value", L"visible"),
       ZU_SCALE_COLUMN(L"value", L"prim_style"), ZU_SCALE_COLUMN(L"value", L"sel_style")};
-  explicit key_columns(model& m) : value(m, ZU_SCALE_COLUMN(L"value", L"value"), 10320) {}
+  explicit key_columns(model& m) : value(m, ZU_SCALE_COLUMN(L"value", L"value"), 10320, 8) {}
   template <class outline> void add_to(outline& table) { table.add_column(value); }
 
   scale_outline_value_column<model> value;
@@ -24,12 +25,13 @@ template <class style_traits> struct key_columns<scale_model<style_traits, value
 
 template <class style_traits> struct key_columns<scale_model<style_traits, range_scale_traits>> {
   using model = scale_model<style_traits, range_scale_traits>;
+  static constexpr std::uint32_t caption_width = 0;
   static constexpr const wchar_t* ids[] = {
       ZU_SCALE_COLUMN(L"range", L"caption"), ZU_SCALE_COLUMN(L"range", L"visible"),
       ZU_SCALE_COLUMN(L"range", L"prim_style"), ZU_SCALE_COLUMN(L"range", L"sel_style")};
   explicit key_columns(model& m)
-      : minimum(m, ZU_SCALE_COLUMN(L"range", L"min"), 10322),
-        maximum(m, ZU_SCALE_COLUMN(L"range", L"max"), 10323) {}
+      : minimum(m, ZU_SCALE_COLUMN(L"range", L"min"), 10322, 7),
+        maximum(m, ZU_SCALE_COLUMN(L"range", L"max"), 10323, 7) {}
   template <class outline> void add_to(outline& table) {
     table.add_column(minimum).add_column(maximum);
   }
@@ -40,10 +42,11 @@ template <class style_traits> struct key_columns<scale_model<style_traits, range
 
 template <class style_traits> struct key_columns<scale_model<style_traits, rule_scale_traits>> {
   using model = scale_model<style_traits, rule_scale_traits>;
+  static constexpr std::uint32_t caption_width = 9;
   static constexpr const wchar_t* ids[] = {
       ZU_SCALE_COLUMN(L"rule", L"caption"), ZU_SCALE_COLUMN(L"rule", L"visible"),
       ZU_SCALE_COLUMN(L"rule", L"prim_style"), ZU_SCALE_COLUMN(L"rule", L"sel_style")};
-  explicit key_columns(model& m) : rule(m, ZU_SCALE_COLUMN(L"rule", L"rule"), 10321) {}
+  explicit key_columns(model& m) : rule(m, ZU_SCALE_COLUMN(L"rule", L"rule"), 10321, 0) {}
   template <class outline> void add_to(outline& table) { table.add_column(rule); }
 
   scale_outline_rule_column<model> rule;
@@ -57,8 +60,8 @@ template <class model> class scale_outline : public toolkit::outline_table {
   explicit scale_outline(model& m)
       : model_(m),
         keys_(m),
-        caption_(m, ids[0], 10324),
-        visible_(m, ids[1], 10325),
+        caption_(m, ids[0], 10324, key_columns<model>::caption_width),
+        visible_(m, ids[1], 10325, 4),
         primary_(m, ids[2], 14519, primary),
         selection_(m, ids[3], 14520, selection) {
     keys_.add_to(*this);

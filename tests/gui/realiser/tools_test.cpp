@@ -246,4 +246,61 @@ TEST(tool_icons, every_id_is_known_once_and_others_have_none) {
             QKeySequence(Qt::CTRL | Qt::Key_E));
 }
 
+TEST(tool_icons, an_id_may_have_more_behind_the_one_that_is_known) {
+  auto name = [](const char* id) { return tool_icon(QString::fromLatin1(id)).name(); };
+  EXPECT_EQ(name("zu_common_style_tool_value_sort_strings_on_a_page"), QStringLiteral("view-sort"));
+  EXPECT_EQ(name("zu_common_style_tool_value_sort_strings_dsc_on_a_page"),
+            QStringLiteral("view-sort-descending"));
+}
+
+TEST(tool_actions, a_tool_that_draws_itself_has_its_own_picture) {
+  struct square final : bitmap_impl {
+    void pixels(bytes_visitor visitor) override {
+      const std::uint8_t green[] = {0, 200, 0, 255};
+      call<&bytes_visitor_impl::visit>(visitor, 1, 4, 1, 4, 4, 1, green);
+    }
+  };
+  struct drawn_tool final : action_tool_impl, tool_pictures_impl {
+    int query_interface(const char* name, const void** table, void** instance) override {
+      int difference = action_tool_impl::query_interface(name, table, instance);
+      return difference == 0 ? 0 : tool_pictures_impl::query_interface(name, table, instance);
+    }
+    handle polymorphic_handle() override { return action_tool_impl::polymorphic_handle(); }
+    void visit(std::int32_t item, std::uint32_t, std::uint32_t, bitmap_visitor visitor) override {
+      square picture;
+      if (item == -1) call<&bitmap_visitor_impl::visit>(visitor, handle_of<bitmap_impl>(picture));
+    }
+  } tool;
+  auto action = tool_action::of_tool(QStringLiteral("zu_common_scale_tool_save"),
+                                     handle_of<action_tool_impl>(tool));
+  ASSERT_NE(action, nullptr);
+  EXPECT_EQ(action->icon().pixmap(1, 1).toImage().pixelColor(0, 0), QColor(0, 200, 0));
+}
+
+TEST(tool_actions, a_menu_says_what_its_tools_are_called_when_it_opens) {
+  struct renamed_tool final : action_tool_impl {
+    void caption(string_visitor visitor) override {
+      call<&string_visitor_impl::visit>(visitor, name);
+    }
+    const wchar_t* name = L"first";
+  } tool;
+  struct menu_tool final : category_tool_impl {
+    explicit menu_tool(renamed_tool& inside) : inside(inside) {}
+    void visit_tools(tool_visitor visitor) override {
+      call<&tool_visitor_impl::visit>(visitor, L"inside",
+                                      handle(handle_of<action_tool_impl>(inside)));
+    }
+    renamed_tool& inside;
+  } menu(tool);
+  auto action = tool_action::of_tool(QStringLiteral("menu"), handle_of<category_tool_impl>(menu));
+  ASSERT_NE(action, nullptr);
+  auto opened = [&] {
+    Q_EMIT action->menu()->aboutToShow();
+    return action->menu()->actions().value(0)->text();
+  };
+  EXPECT_EQ(opened(), QStringLiteral("first"));
+  tool.name = L"second";
+  EXPECT_EQ(opened(), QStringLiteral("second"));
+}
+
 }  // namespace zu::desktop

@@ -125,7 +125,7 @@ TEST_F(editor_docks_test, a_panel_that_was_closed_stays_closed_until_it_is_opene
 TEST_F(editor_docks_test, without_a_layer_there_are_no_panels) {
   answers_.unsaved = unsaved_answer::discard;
   actions().file_new->trigger();
-  EXPECT_TRUE(dock(0)->isHidden());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return dock(0)->isHidden(); }));
   EXPECT_TRUE(dock(1)->isHidden());
 }
 

@@ -28,6 +28,10 @@ class made_pgrid {
     auto index = static_cast<std::uint32_t>(zu_tos4_file_add_prop(file_.get(), &property));
     EXPECT_TRUE(zu_tos4_file_write(file_.get(), index, 0, nodes.size(), nodes.data()));
   }
+  /// A property that was added holds the coordinates along an axis.
+  void coordinate(std::int32_t axis, std::uint32_t property) {
+    EXPECT_TRUE(zu_tos4_file_set_coord_prop(file_.get(), axis, property));
+  }
   /// Ends the writing and gives the path.
   std::wstring close() {
     EXPECT_TRUE(zu_tos4_file_commit(file_.get()));

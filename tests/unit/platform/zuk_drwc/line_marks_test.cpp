@@ -68,8 +68,7 @@ TEST(line_marks, a_mark_turns_with_the_line_if_it_is_asked_to) {
     style.begin_turns = style.end_turns = turn;
     drwc_ptr drwc = drawn({{20, 60}, {20, 20}}, style);  // downwards
     for (std::uint64_t y : {60u, 20u}) {
-      EXPECT_EQ(at(drwc, 15, y + 4).opacity == 255, turn) << y;  // the base above
-      EXPECT_EQ(at(drwc, 24, y + 4).opacity == 255, turn) << y;
+      EXPECT_EQ(at(drwc, 24, y + 4).opacity == 255, turn) << y;   // the base above
       EXPECT_EQ(at(drwc, 15, y - 5).opacity == 255, !turn) << y;  // the base to the left
     }
   }
@@ -106,7 +105,7 @@ TEST(line_marks, a_closed_line_has_vertices_and_no_ends) {
   style.vertex.size = 4;
   style.vertex.color = {0, 0, 200, 128};
   drwc_ptr drwc = drawn({{20, 20}, {60, 20}, {40, 60}, {20, 20}}, style);
-  EXPECT_EQ(ink(drwc, side, side), 3 * 16 * 127 / 255.0);  // each once
+  EXPECT_NEAR(ink(drwc, side, side), 3 * 16 * 127 / 255.0, 1e-9);  // each once
 }
 
 TEST(line_marks, vertices_without_a_place_bear_none) {

@@ -1,8 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <cstdlib>
 #include <filesystem>
 
 #include "platform/zuk_basic/owned.h"
+#include "platform/zuk_style_libs/style_library.h"
 #include "tests/unit/platform/own_folder.h"
 #include "tests/unit/platform/taken_text.h"
 #include "zu/platform/zuk_os.h"
@@ -79,6 +82,17 @@ TEST_F(global_libraries, a_change_of_the_folder_is_seen_at_the_next_call) {
   EXPECT_EQ(zu_global_lib_styles_get_libs(), nullptr);
 }
 
+TEST_F(global_libraries, a_library_that_was_handed_out_stays_as_it_was) {
+  write("styles/a._ls", "old");
+  write("styles/b._ls", "same");
+  Tzu_style_libs* all = zu_global_lib_styles_get_libs();
+  Tzu_style_lib *old = zu_style_libs_get_lib_ptr(all, 0), *same = zu_style_libs_get_lib_ptr(all, 1);
+  write("styles/a._ls", "new");
+  EXPECT_EQ(names(), (captions{L"new", L"same"}));
+  EXPECT_EQ(text_of([&](Tzu_string_adp* a) { zu_style_lib_get_caption(old, a); }), L"old");
+  EXPECT_EQ(zu_style_libs_get_lib_ptr(zu_global_lib_styles_get_libs(), 1), same);
+}
+
 TEST_F(global_libraries, a_broken_file_is_left_out_and_its_reason_is_kept) {
   write("styles/a._ls", "good");
   folder.write("styles/b._ls", "<no_library/>");
@@ -105,6 +119,33 @@ TEST_F(global_libraries, those_of_the_program_follow_in_its_language_unless_a_fo
   EXPECT_EQ(names(), (captions{L"Rocks", L"Soils"}));
   write("home/zugrid/styles/soil._ls", "My soils");
   EXPECT_EQ(names(), (captions{L"My soils", L"Rocks"}));
+  unsetenv("XDG_DATA_HOME");
+}
+
+// Beside the test program as beside the others.
+TEST_F(global_libraries, those_that_come_with_the_program_name_and_style_the_same_codes) {
+  ASSERT_EQ(setenv("XDG_DATA_HOME", folder.path().c_str(), 1), 0);
+  zu_options_set_style_libs_path(nullptr);
+  std::vector<std::vector<std::int32_t>> codes[2];
+  for (int language : {0, 1}) {
+    zu_res_set_lng(language * 50000);
+    Tzu_style_libs* all = zu_global_lib_styles_get_libs();
+    ASSERT_EQ(zu_style_libs_get_size(all), 3u);
+    for (std::uint64_t i = 0; i < 3; ++i) {
+      Tzu_style_lib* library = zu_style_libs_get_lib_ptr(all, i);
+      std::vector<std::int32_t>& found = codes[language].emplace_back();
+      for (const auto& style : zu_style_lib_get_pgn_list_ptr(library)->styles) {
+        found.push_back(style->index);
+        Tzu_style_item* item =
+            zu_style_item_find_by_index(zu_style_lib_get_root_item_ptr(library), style->index);
+        EXPECT_NE(text_of([&](Tzu_string_adp* a) { zu_style_item_get_caption(item, a); }), L"");
+        EXPECT_NE(zu_style_list_find_idx(zu_style_lib_get_pnt_list_ptr(library), style->index), -1);
+        EXPECT_NE(zu_style_list_find_idx(zu_style_lib_get_pln_list_ptr(library), style->index), -1);
+      }
+      EXPECT_GT(found.size(), 10u);
+    }
+  }
+  EXPECT_EQ(codes[0], codes[1]);
   unsetenv("XDG_DATA_HOME");
 }
 

@@ -5,12 +5,14 @@
 #include <array>
 #include <cmath>
 #include <filesystem>
+#include <iterator>
 
 #include "platform/zuk_basic/owned.h"
 #include "zu/platform/zuk_file_tos4.h"
 #include "zu/platform/zuk_io.h"
 #include "zu/platform/zuk_render.h"
 #include "zu/platform/zuk_tos_lr2d.h"
+#include "zu/platform/zuk_xml_data.h"
 
 namespace {
 
@@ -90,6 +92,8 @@ TEST(coord_layer, its_points_have_the_colours_of_a_scale_and_the_hidden_ones_non
   zu_val_scale_set_text_w(scale, 0, L"2");
   zu_stl_prm_clr_set_all(zu_scale_prm_get_stl_prm_ptr(zu_val_scale_get_scale_prm_ptr(scale, 0)),
                          {1, 2, 3, 0}, 0);
+  zu_scale_prm_set_visible(zu_val_scale_get_other_prm_ptr(scale), false);
+  zu_tos_2crd_lr2d_set_point_size(b.layer.get(), 4);
   b.draw();
   EXPECT_EQ(b.at(15, 15), (rgba{1, 2, 3, 255}));
   EXPECT_EQ(b.at(5, 5), nothing);
@@ -105,6 +109,62 @@ TEST(coord_layer, selected_nodes_have_the_scenes_colour_or_their_own) {
     EXPECT_EQ(b.at(15, 15), own ? (rgba{0, 200, 0, 255}) : (rgba{250, 240, 0, 255}));
     EXPECT_EQ(b.at(5, 5), red);
   }
+}
+
+TEST(coord_layer, its_points_are_the_symbols_of_their_rows) {
+  coord_bench b(nodes("coord_symbols.pgrid"));
+  zu_stl_mngr_set_mode(b.manager(), zu_style_range);
+  zu_stl_mngr_set_rng_prop_name_w(b.manager(), L"v");
+  Tzu_rng_scale* scale = zu_stl_mngr_get_rng_scale_ptr(b.manager());
+  zu_rng_scale_set_size(scale, 2);
+  for (int i = 0; i < 2; ++i) {
+    zu_rng_scale_set_min(scale, i, i + 0.5);
+    zu_rng_scale_set_max(scale, i, i + 1.5);
+    Tzu_bpnt_style* point = zu_pnt_style_get_bpnt_style_ptr(zu_stl_prm_get_pnt_style_ptr(
+        zu_scale_prm_get_stl_prm_ptr(zu_rng_scale_get_scale_prm_ptr(scale, i)), 0));
+    zu_bpnt_style_set_figure(point, i == 0 ? zu_figure_square : zu_figure_square_frame);
+    zu_bpnt_style_set_color(point, {200, 0, 0, 0});
+    zu_bpnt_style_set_size(point, 6);
+  }
+  zu_rng_scale_set_min_value(scale, 0.5);
+  zu_rng_scale_set_max_value(scale, 2.5);
+  zu_scale_prm_set_visible(zu_rng_scale_get_max_prm_ptr(scale), false);
+  b.draw();
+  EXPECT_EQ(b.at(5, 5), red);        // 1: a square
+  EXPECT_EQ(b.at(15, 15), nothing);  // 2: a frame
+  EXPECT_EQ(b.at(12, 15), red);
+  EXPECT_EQ(b.at(25, 5), nothing);  // 3: the hidden tail
+}
+
+TEST(coord_layer, its_points_show_by_the_first_rule_that_holds) {
+  coord_bench b(nodes("coord_rules.pgrid"));
+  zu_stl_mngr_set_mode(b.manager(), zu_style_rule);
+  Tzu_val_scale* scale = zu_stl_mngr_get_rule_scale_ptr(b.manager());
+  const wchar_t* rules[] = {L"no rule", L"and \"v\" greater number \"2\"",
+                            L"and \"v\" equal text \"2\"; or \"x\" less number \"0\"",
+                            L"and \"none\" less number \"5\""};
+  zu_val_scale_set_size(scale, std::size(rules));
+  for (std::uint64_t i = 0; i < std::size(rules); ++i) {
+    zu_val_scale_set_text_w(scale, i, rules[i]);
+    zu_stl_prm_clr_set_all(zu_scale_prm_get_stl_prm_ptr(zu_val_scale_get_scale_prm_ptr(scale, i)),
+                           {static_cast<std::uint8_t>(i), 0, 0, 0}, 0);
+  }
+  zu_stl_prm_clr_set_all(zu_scale_prm_get_stl_prm_ptr(zu_val_scale_get_other_prm_ptr(scale)),
+                         {9, 0, 0, 0}, 0);
+  zu_tos_2crd_lr2d_set_point_size(b.layer.get(), 4);
+  b.draw();
+  EXPECT_EQ(b.at(25, 5), (rgba{1, 0, 0, 255}));
+  EXPECT_EQ(b.at(15, 15), (rgba{2, 0, 0, 255}));
+  EXPECT_EQ(b.at(5, 5), (rgba{9, 0, 0, 255}));
+}
+
+TEST(coord_layer, selected_points_lie_above_the_others) {
+  coord_bench b(nodes("coord_above.pgrid"));
+  zu_tos_2crd_lr2d_set_point_size(b.layer.get(), 30);
+  zu_lr_set_own_selected_style_flag(b.layer.get(), true);
+  zu_table_data_set_selected_id(zu_lr2d_get_data_ptr(b.layer.get()), 0, true);
+  b.draw();
+  EXPECT_EQ(b.at(14, 14), (rgba{0, 200, 0, 255}));
 }
 
 TEST(coord_layer, its_box_is_that_of_its_nodes) {
@@ -148,6 +208,33 @@ TEST(coord_layer, its_settings_come_back_from_the_tree) {
   zu_lr2d_load_state(read.get(), node.get(), nullptr);
   EXPECT_EQ(zu_tos_2crd_lr2d_get_point_size(read.get()), 2.5);
   EXPECT_EQ(zu_stl_mngr_get_mode(zu_lr_get_style_mngr_ptr(read.get())), zu_style_range);
+}
+
+TEST(coord_layer, a_tree_that_knows_colours_and_one_size_gives_squares) {
+  owned<zu_xnode_close> node(zu_xnode_create_root_w(L"layer"));
+  owned<zu_stl_mngr_destroy> colors(zu_clr_stl_mngr_create());
+  zu_stl_mngr_set_mode(colors.get(), zu_style_value);
+  zu_stl_mngr_set_val_prop_name_w(colors.get(), L"v");
+  zu_val_scale_set_size(zu_stl_mngr_get_val_scale_ptr(colors.get()), 1);
+  zu_stl_prm_clr_set_all(zu_scale_prm_get_stl_prm_ptr(zu_val_scale_get_scale_prm_ptr(
+                             zu_stl_mngr_get_val_scale_ptr(colors.get()), 0)),
+                         {1, 2, 3, 0}, 0);
+  zu_xml_save_style_save_mngr_style(nullptr, node.get(), L"styles", "clr_mngr_style", colors.get());
+  owned<zu_xnode_close> params(zu_xnode_set_node_w(node.get(), L"coord_params"));
+  zu_xnode_set_attr_dbl_w(params.get(), L"point_size", 2.5);
+  owned<zu_lr2d_destroy> read(zu_lr2d_create("tos_2crd_lr2d"));
+  zu_lr2d_load_state(read.get(), node.get(), nullptr);
+  Tzu_stl_mngr* manager = zu_lr_get_style_mngr_ptr(read.get());
+  EXPECT_STREQ(zu_stl_mngr_get_style_type(manager), "pnt_mngr_style");
+  EXPECT_EQ(zu_stl_mngr_get_mode(manager), zu_style_value);
+  EXPECT_EQ(zu_tos_2crd_lr2d_get_point_size(read.get()), 2.5);
+  Tzu_val_scale* scale = zu_stl_mngr_get_val_scale_ptr(manager);
+  ASSERT_EQ(zu_val_scale_get_size(scale), 1u);
+  Tzu_bpnt_style* point = zu_pnt_style_get_bpnt_style_ptr(zu_stl_prm_get_pnt_style_ptr(
+      zu_scale_prm_get_stl_prm_ptr(zu_val_scale_get_scale_prm_ptr(scale, 0)), 0));
+  EXPECT_EQ(zu_bpnt_style_get_figure(point), zu_figure_square);
+  EXPECT_EQ(zu_bpnt_style_get_size(point), 2.5);
+  EXPECT_EQ(zu_bpnt_style_get_color(point).b, 3);
 }
 
 }  // namespace

@@ -35,7 +35,7 @@ node_ptr tree_of(const std::string& text) {
 }
 
 TEST(style_groups, any_settings_come_back) {
-  for (unsigned seed = 0; seed < 200; ++seed) {
+  for (unsigned seed = 0; seed < 80; ++seed) {
     style_maker make(seed);
     for (const char* type : manager_types) {
       manager_ptr saved = make.manager(type), loaded = make.manager(type);

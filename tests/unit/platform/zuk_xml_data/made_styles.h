@@ -43,7 +43,7 @@ class style_maker {
   }
   double length() { return below(100000) / 1024.0; }
   std::wstring text() {
-    static constexpr wchar_t letters[] = L"aZ09 _x<>&\"'\t\n\x01йЖ\u4E2D\U0001F30D";
+    static constexpr wchar_t letters[] = L"aZ09 _x<>&\"'\t\r\n\x01йЖ\u4E2D\U0001F30D";
     std::wstring made;
     for (int i = below(12); i > 0; --i) made += letters[below(std::size(letters) - 1)];
     return made;

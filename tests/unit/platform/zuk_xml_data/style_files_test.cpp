@@ -69,7 +69,7 @@ struct style_files : testing::Test {
 };
 
 TEST_F(style_files, any_style_comes_back_from_files_and_texts) {
-  for (unsigned seed = 0; seed < 100; ++seed) {
+  for (unsigned seed = 0; seed < 40; ++seed) {
     style_maker make(seed);
     SCOPED_TRACE(seed);
     expect_back(make.point(), make.point());

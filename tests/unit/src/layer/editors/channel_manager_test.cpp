@@ -5,6 +5,7 @@
 #include "src/bundle/owned.h"
 #include "tests/unit/src/layer/editors/panel.h"
 #include "tests/unit/src/made_grid.h"
+#include "zu/platform/zuk_msgs.h"
 
 namespace tests {
 namespace {
@@ -169,6 +170,19 @@ TEST_F(channel_panel, makes_a_histogram_once_for_a_field) {
   std::filesystem::remove(source_.name);
   panel_.set_source(source_, channel_);
   EXPECT_EQ(bars(), first) << "it lives with the channel";
+}
+
+TEST_F(channel_panel, a_person_need_not_wait_for_a_histogram) {
+  Tzu_progress_hooks hooks{};
+  int asked = 0;
+  hooks.user = &asked;
+  hooks.stopped = [](void*, void* user) { return ++*static_cast<int*>(user) > 0; };
+  zu_progress_set_hooks(&hooks);
+  bind(L"low");
+  zu_progress_set_hooks(nullptr);
+  EXPECT_EQ(asked, 1) << "and is not asked again";
+  EXPECT_EQ(bars(), nullptr);
+  EXPECT_EQ(limits(), numbers(0, 255));
 }
 
 TEST(rgb_channels, stand_in_tabs_under_their_colours) {

@@ -84,8 +84,8 @@ using states = std::vector<bool>;
 
 TEST(layer_editors, have_their_panels_in_order) {
   serving<grid_layer2d_editor> grid;
-  EXPECT_EQ(grid.ids, (ids{L"zu_grid_layer2d_plugin_style_editor",
-                           L"zu_grid_layer2d_plugin_slice_editor"}));
+  EXPECT_EQ(grid.ids,
+            (ids{L"zu_grid_layer2d_plugin_style_editor", L"zu_grid_layer2d_plugin_slice_editor"}));
   EXPECT_EQ(grid.sizes(), (sizes{{20, 20}, {50, 50}}));
   EXPECT_EQ(grid.enabled(), (states{true, true}));
   EXPECT_EQ(grid.service->get_order(), 1);
@@ -165,8 +165,7 @@ TEST(layer_editors, of_a_picture_are_not_those_of_a_grid) {
   hillshade.service->layer_changed(picture.get());
   isoline.service->layer_changed(picture.get());
   EXPECT_EQ(grid.enabled(), (states{false, false}));
-  EXPECT_EQ(hillshade.enabled(),
-            states{zu_lr2d_get_hillshade_style(picture.get()) != nullptr});
+  EXPECT_EQ(hillshade.enabled(), states{zu_lr2d_get_hillshade_style(picture.get()) != nullptr});
   EXPECT_EQ(isoline.enabled(), states{zu_lr2d_get_isoline_style(picture.get()) != nullptr});
 }
 
@@ -206,10 +205,12 @@ TEST(layer_editors, of_one_type_want_exactly_that_type) {
 
 TEST(points_editor, sets_the_size_of_points_and_names_the_fields) {
   made_pgrid file("points_editor.pgrid");
-  file.grid.type = zu_tos4_coord_xy;
+  file.grid.type = zu_tos4_two_columns;
   file.grid.size[0] = 2;
   file.add(L"east", {10, 20});
   file.add(L"north", {30, 40});
+  file.coordinate(0, 0);
+  file.coordinate(1, 1);
   entity points(zu_lr2d_create("tos_2crd_lr2d"));
   zu_lr2d_set_wsource(points.get(), file.close().c_str());
   serving<tos4_coord_xy_layer2d_editor> editor;
@@ -218,6 +219,12 @@ TEST(points_editor, sets_the_size_of_points_and_names_the_fields) {
   EXPECT_EQ(call<&floating_input_impl::value>(size), 1);
   enter(size, 2.5);
   EXPECT_EQ(zu_tos_2crd_lr2d_get_point_size(points.get()), 2.5);
+  auto name = [&](int n) {
+    auto shown = editor.controls(0).at<output_impl>(n);
+    return text([&](string_visitor v) { call<&output_impl::text>(shown, v); });
+  };
+  EXPECT_EQ(name(0), L"east");
+  EXPECT_EQ(name(1), L"north");
   editor.service->layer_changed(nullptr);
 }
 

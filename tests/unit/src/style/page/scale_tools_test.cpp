@@ -3,6 +3,7 @@
 #include "platform/zuk_basic/utf8.h"
 #include "src/style/page/scale_toolbar.h"
 #include "tests/unit/src/style/made_scale.h"
+#include "tests/unit/src/style/page/asking_host.h"
 #include "tests/unit/src/style/page/shown_tools.h"
 #include "tests/unit/src/toolkit/fake_views.h"
 
@@ -32,7 +33,7 @@ struct rule_tools : scale_tools<color_rules> {};
 
 /// Short for the ids, which all begin so.
 std::wstring short_ids(std::wstring text) {
-  for (const std::wstring& start : {L"zu_common_style_tool_", L"zu_common_scale_tool_"})
+  for (std::wstring start : {L"zu_common_style_tool_", L"zu_common_scale_tool_"})
     for (std::size_t at; (at = text.find(start)) != std::wstring::npos;)
       text.erase(at, start.size());
   return text;
@@ -196,11 +197,11 @@ TEST_F(value_tools, spread_an_array_over_the_rows_as_a_ramp_or_colour_by_colour)
   std::vector<Tzu_color> ramp(3), turns(3);
   ASSERT_TRUE(zu_clr_arrays_generate_ex(8, 3, ramp.data(), 0));
   ASSERT_TRUE(zu_clr_arrays_generate_ex(8, 3, turns.data(), 1));
-  ASSERT_FALSE(ramp[1] == turns[1]);
+  ASSERT_NE(ramp[1].g, turns[1].g);
   act(L"zu_common_style_tool_rainbow_grad");
-  for (int i = 0; i < 3; ++i) EXPECT_EQ(color(i).g, ramp[i].g) << i;
+  for (int i = 0; i < 3; ++i) EXPECT_EQ(color(i)[1], ramp[static_cast<std::size_t>(i)].g);
   act(L"zu_common_style_tool_rainbow_palette");
-  for (int i = 0; i < 3; ++i) EXPECT_EQ(color(i).g, turns[i].g) << i;
+  for (int i = 0; i < 3; ++i) EXPECT_EQ(color(i)[1], turns[static_cast<std::size_t>(i)].g);
   EXPECT_EQ(told, 2);
 }
 
@@ -334,39 +335,8 @@ TEST_F(value_tools, turn_the_styles_and_spread_them_between_the_ends) {
   EXPECT_EQ(told, 2);
 }
 
-/// Answers questions for files and colours as a test says.
-struct asked {
-  asked() {
-    hooks.user = this;
-    hooks.open_file = [](const wchar_t* filter, Tzu_string_adp* adapter, void* user) {
-      auto* self = static_cast<asked*>(user);
-      self->filter = filter;
-      if (!self->path.empty()) zu_string_adp_feed(adapter, self->path.c_str());
-      return !self->path.empty();
-    };
-    hooks.save_file = [](const wchar_t* filter, const wchar_t* suggested, Tzu_string_adp* adapter,
-                         void* user) {
-      auto* self = static_cast<asked*>(user);
-      self->suggested = suggested != nullptr ? suggested : L"";
-      return self->hooks.open_file(filter, adapter, user);
-    };
-    hooks.color = [](Tzu_color* color, void* user) {
-      auto* self = static_cast<asked*>(user);
-      ++self->colors;
-      *color = {77, 0, 0, 0};
-      return self->accepts;
-    };
-    zu_set_asking_hooks(&hooks);
-  }
-  ~asked() { zu_set_asking_hooks(nullptr); }
-  Tzu_asking_hooks hooks{};
-  std::wstring path, filter, suggested;
-  bool accepts = true;
-  int colors = 0;
-};
-
 TEST_F(value_tools, edit_the_active_row_s_style_or_that_of_all_marked_rows) {
-  asked host;
+  asking_host host;
   set_size(3);
   paint();
   m.set_active_row(1);
@@ -385,7 +355,7 @@ TEST_F(value_tools, edit_the_active_row_s_style_or_that_of_all_marked_rows) {
 
 TEST_F(value_tools, save_the_scale_and_load_it_again) {
   base_language base;
-  asked host;
+  asking_host host;
   set_size(2);
   m.set_value(0, L"a"), m.set_value(1, L"b");
   act(L"zu_common_scale_tool_save");
@@ -411,7 +381,7 @@ TEST_F(value_tools, save_the_scale_and_load_it_again) {
 }
 
 TEST_F(range_tools, suggest_the_name_by_which_the_scale_is_found_again) {
-  asked host;
+  asking_host host;
   m.source.name = L"/data/hills.tif";
   m.set_field(L"z");
   act(L"zu_common_scale_tool_save");
@@ -419,7 +389,7 @@ TEST_F(range_tools, suggest_the_name_by_which_the_scale_is_found_again) {
 }
 
 TEST_F(value_tools, are_silent_without_a_manager) {
-  asked host;
+  asking_host host;
   host.path = L"/nowhere";
   m.mngr = nullptr;
   auto press_all = [](auto& self, const std::vector<shown_tool>& tools) -> void {

@@ -1,0 +1,237 @@
+// The panels of a grid in the real window, worked as a person works them: the map follows each
+// change, and undo takes it back in both.
+
+#include <QAbstractSpinBox>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDockWidget>
+#include <QScrollArea>
+#include <QSlider>
+#include <QStackedWidget>
+#include <QTabBar>
+
+#include "host/desktop/map/map_view.h"
+#include "host/desktop/window/editor_docks.h"
+#include "tests/gui/window/window_fixture.h"
+
+namespace zu::desktop {
+namespace {
+
+constexpr int patience = 20000;  // milliseconds
+
+class layer_panels : public main_window_test {
+ protected:
+  void SetUp() override {
+    main_window_test::SetUp();
+    QString source = qEnvironmentVariable("ZU_SOURCE_DIR", QStringLiteral("."));
+    window_->open_paths({source + QStringLiteral("/samples/hills.tif")});
+    ASSERT_TRUE(window_->wait_until_drawn(patience));
+    shown_ = map();
+  }
+
+  QImage map() {
+    EXPECT_TRUE(window_->wait_until_drawn(patience));
+    return window_->views().current().grab().toImage();
+  }
+  /// The map is another now than it was at the last look.
+  void expect_another_map() {
+    QImage now = map();
+    EXPECT_NE(now, shown_);
+    shown_ = now;
+  }
+  /// Undo brings back what the map was at `before`; the step was one.
+  void expect_undone_to(const QImage& before, bool steps_left = true) {
+    actions().edit_undo->trigger();
+    EXPECT_EQ(map(), before);
+    EXPECT_EQ(content().can_undo(), steps_left);
+    shown_ = before;
+  }
+
+  QDockWidget* dock(const char* id) {
+    auto* found = window_->findChild<QDockWidget*>(
+        QStringLiteral("panel_zu_grid_layer2d_plugin_%1").arg(QString::fromUtf8(id)));
+    EXPECT_NE(found, nullptr) << id;
+    return found;
+  }
+  QDockWidget* raise(const char* id) {
+    QDockWidget* found = dock(id);
+    found->raise();
+    QCoreApplication::processEvents();
+    return found;
+  }
+  /// The control that a label or its own caption names, among those that are seen.
+  template <class widget> widget* control(QWidget* in, const char* caption) {
+    const QList<widget*> all = in->findChildren<widget*>();
+    for (widget* each : all) {
+      QString name = each->accessibleName();
+      if constexpr (std::is_base_of_v<QAbstractButton, widget>) name = each->text();
+      if (name == QString::fromUtf8(caption) && each->isVisible()) return each;
+    }
+    ADD_FAILURE() << caption;
+    return nullptr;
+  }
+  static void choose(QComboBox* list, const char* item) {
+    int index = list->findText(QString::fromUtf8(item));
+    ASSERT_GE(index, 0) << item;
+    list->setFocus();
+    list->setCurrentIndex(index);
+    Q_EMIT list->activated(index);
+  }
+  static void type(QAbstractSpinBox* number, const char* text) {
+    number->setFocus();
+    number->selectAll();
+    QTest::keyClicks(number, QString::fromUtf8(text));
+    QTest::keyClick(number, Qt::Key_Return);
+  }
+  static void click(QCheckBox* box) {
+    QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
+  }
+  /// For a person to look at: $ZU_GRABS names a folder.
+  void grab(const QString& name) {
+    QByteArray folder = qgetenv("ZU_GRABS");
+    if (!folder.isEmpty())
+      window_->grab().save(QString::fromUtf8(folder) + QLatin1Char('/') + name);
+  }
+
+  QImage shown_;
+};
+
+TEST_F(layer_panels, stand_at_the_right_with_the_style_in_front) {
+  EXPECT_FALSE(dock("style_editor")->isHidden());
+  EXPECT_FALSE(dock("hillshade")->isHidden());
+  EXPECT_FALSE(dock("isoline")->isHidden());
+  EXPECT_TRUE(dock("slice_editor")->isHidden()) << "of one slice";
+  EXPECT_EQ(window_->dockWidgetArea(dock("style_editor")), Qt::RightDockWidgetArea);
+  EXPECT_FALSE(dock("style_editor")->visibleRegion().isEmpty());
+  EXPECT_TRUE(dock("hillshade")->visibleRegion().isEmpty());
+}
+
+TEST_F(layer_panels, the_way_of_drawing_is_a_step_of_undo) {
+  QDockWidget* panel = raise("style_editor");
+  QImage by_scale = shown_;
+  choose(control<QComboBox>(panel, "Method"), "Gray");
+  EXPECT_EQ(content().undo_name(), QStringLiteral("Method"));
+  expect_another_map();
+  QImage unlimited = shown_;
+  choose(control<QComboBox>(panel, "Classification field"), "height");
+  expect_another_map();
+  expect_undone_to(unlimited);
+  expect_undone_to(by_scale);
+  EXPECT_EQ(control<QComboBox>(panel, "Method")->currentText(), QStringLiteral("Scale"));
+  actions().edit_redo->trigger();
+  EXPECT_EQ(map(), unlimited);
+  EXPECT_EQ(control<QComboBox>(panel, "Method")->currentText(), QStringLiteral("Gray"));
+}
+
+TEST_F(layer_panels, the_map_follows_the_slider_of_transparency_while_it_moves) {
+  QDockWidget* panel = raise("style_editor");
+  QImage before = shown_;
+  auto* slider = control<QSlider>(panel, "Overall transparency, %");
+  ASSERT_NE(slider, nullptr);
+  slider->setSliderDown(true);
+  slider->setValue(30);
+  expect_another_map();
+  slider->setValue(60);
+  expect_another_map();
+  slider->setSliderDown(false);
+  EXPECT_EQ(control<QAbstractSpinBox>(panel, "Overall transparency, %")->text(),
+            QStringLiteral("60"));
+  expect_undone_to(before);
+  EXPECT_EQ(control<QSlider>(panel, "Overall transparency, %")->value(), 0);
+}
+
+TEST_F(layer_panels, handles_of_the_histogram_are_dragged) {
+  QDockWidget* panel = raise("style_editor");
+  choose(control<QComboBox>(panel, "Method"), "Gray");
+  choose(control<QComboBox>(panel, "Classification field"), "height");
+  shown_ = map();
+  QImage before = shown_;
+  auto* bars = panel->findChild<QWidget*>(QStringLiteral("histogram"));
+  ASSERT_NE(bars, nullptr);
+  QTest::mousePress(bars, Qt::LeftButton, {}, QPoint(6, bars->height() / 2));
+  for (double share : {0.1, 0.2, 0.3})
+    QTest::mouseMove(bars, QPoint(int(bars->width() * share), bars->height() / 2));
+  QTest::mouseRelease(bars, Qt::LeftButton, {},
+                      QPoint(int(bars->width() * 0.3), bars->height() / 2));
+  expect_another_map();
+  double low = control<QAbstractSpinBox>(panel, "Minimum")->property("text").toDouble();
+  EXPECT_NEAR(low, 235 + 0.3 * (1080 - 235), 10);
+  grab(QStringLiteral("panel_gray.png"));
+  expect_undone_to(before);
+  EXPECT_EQ(control<QAbstractSpinBox>(panel, "Minimum")->property("text").toDouble(), 235);
+}
+
+TEST_F(layer_panels, three_fields_make_a_picture) {
+  QDockWidget* panel = raise("style_editor");
+  choose(control<QComboBox>(panel, "Method"), "RGB");
+  auto* tabs = panel->findChild<QTabBar*>();
+  ASSERT_NE(tabs, nullptr);
+  EXPECT_EQ(tabs->tabText(0), QStringLiteral("Red"));
+  for (int tab : {0, 1, 2}) {
+    tabs->setCurrentIndex(tab);
+    choose(control<QComboBox>(panel, "Classification field"), "height");
+  }
+  expect_another_map();
+  grab(QStringLiteral("panel_rgb.png"));
+}
+
+TEST_F(layer_panels, a_relief_is_shaded) {
+  QDockWidget* panel = raise("hillshade");
+  QImage before = shown_;
+  click(control<QCheckBox>(panel, "Use"));
+  EXPECT_EQ(content().undo_name(), QStringLiteral("Use"));
+  expect_another_map();
+  QImage shaded = shown_;
+  auto* azimuth = control<QSlider>(panel, "Azimuth");
+  azimuth->setValue(100);
+  expect_another_map();
+  QImage turned = shown_;
+  auto* blend = control<QSlider>(panel, "Blend");
+  blend->setValue(90);
+  expect_another_map();
+  grab(QStringLiteral("panel_hillshade.png"));
+  expect_undone_to(turned);
+  expect_undone_to(shaded);
+  EXPECT_EQ(control<QSlider>(panel, "Azimuth")->value(), 315);
+  expect_undone_to(before);
+  EXPECT_FALSE(control<QCheckBox>(panel, "Use")->isChecked());
+  EXPECT_FALSE(panel->visibleRegion().isEmpty()) << "the panel stays in front";
+}
+
+TEST_F(layer_panels, isolines_are_drawn) {
+  QDockWidget* panel = raise("isoline");
+  QImage before = shown_;
+  click(control<QCheckBox>(panel, "Use"));
+  expect_another_map();
+  QImage lines = shown_;
+  type(control<QAbstractSpinBox>(panel, "Contour interval"), "50");
+  expect_another_map();
+  grab(QStringLiteral("panel_isoline.png"));
+  expect_undone_to(lines);
+  expect_undone_to(before);
+  EXPECT_FALSE(control<QCheckBox>(panel, "Use")->isChecked());
+  EXPECT_FALSE(panel->visibleRegion().isEmpty()) << "the panel stays in front";
+}
+
+TEST_F(layer_panels, are_as_wide_as_what_they_show) {
+  window_->resize(1366, 768);
+  for (const char* id : {"style_editor", "hillshade", "isoline"}) {
+    QDockWidget* panel = raise(id);
+    for (language speech : {language::english, language::russian}) {
+      choose_language(speech);
+      QCoreApplication::processEvents();
+      map();
+      grab(QStringLiteral("window_%1_%2.png")
+               .arg(QString::fromUtf8(id))
+               .arg(speech == language::english ? QStringLiteral("en") : QStringLiteral("ru")));
+      auto* area = qobject_cast<QScrollArea*>(panel->widget());
+      ASSERT_NE(area, nullptr);
+      EXPECT_GE(area->viewport()->width(), area->widget()->minimumSizeHint().width()) << id;
+    }
+    choose_language(language::english);
+  }
+  EXPECT_GE(window_->views().width(), 600) << "the map keeps its room";
+}
+
+}  // namespace
+}  // namespace zu::desktop

@@ -40,7 +40,7 @@ class count_input : public toolkit::labeled_element<toolkit::integer_input> {
 };
 
 /// Of the labels of all pages and of the choice above them, so that the inputs stand in one line.
-inline constexpr std::uint32_t label_width = 18;
+inline constexpr std::uint32_t label_width = 20;
 
 /// `load` shows the count, outer boundaries and digits of a scale; the boundaries of one that has
 /// no classes are the field's.

@@ -318,7 +318,7 @@ void apply_look(const layer_look& look, layer& dressed) {
   draw_settings settings = dressed.settings();
   settings.draw = drawn_as(look, settings.draw);
   settings.transparency = look.transparency;
-  settings.interpolate = look.interpolate || (look.table && look.table->is_continuous());
+  settings.interpolate = look.interpolate;
   settings.channels.reset(zu_rgb_channels_create());
   set_channels(settings.draw, look, data, settings.channels.get());
   dressed.set_settings(settings);

@@ -34,7 +34,7 @@ ZU_API bool zu_xml_save_style_load_isoline_style(void* context, Tzu_xnode* node,
 // where the path ends in "._rl", in small or capital letters.
 
 /// What the operations on files of scales and libraries work through; it says why the last one
-/// failed.
+/// failed. They take null for it where nobody asks.
 typedef struct Tzu_xml_save_2d Tzu_xml_save_2d;
 ZU_API Tzu_xml_save_2d* zu_xml_save_2d_create(void);  ///< null if out of memory
 ZU_API void zu_xml_save_2d_destroy(Tzu_xml_save_2d* xml);
@@ -51,7 +51,7 @@ ZU_API bool zu_xml_data_load_val_scale_w(Tzu_xml_save_2d* xml, const wchar_t* pa
 ZU_API bool zu_xml_data_load_rng_scale_w(Tzu_xml_save_2d* xml, const wchar_t* path,
                                          Tzu_stl_mngr* manager, const char* key);
 
-/// What the operations below work through; it says why the last one failed.
+/// What the operations below work through, or null; it says why the last one failed.
 typedef struct Tzu_xml_save_style Tzu_xml_save_style;
 ZU_API Tzu_xml_save_style* zu_xml_save_style_create(void);  ///< null if out of memory
 ZU_API void zu_xml_save_style_destroy(Tzu_xml_save_style* xml);

@@ -52,8 +52,9 @@ template <class traits> void style_exchange_tools<traits>::save() {
   });
   owned_xml xml(zu_xml_save_style_create());
   if (path.empty() || traits::save_file(xml.get(), path.c_str(), edited_)) return;
-  zu_show_wwarning(
-      text_of([&](Tzu_string_adp* a) { zu_xml_save_style_get_reason_w(xml.get(), a); }).c_str());
+  const std::wstring reason =
+      text_of([&](Tzu_string_adp* a) { zu_xml_save_style_get_reason_w(xml.get(), a); });
+  zu_show_wwarning((path + L": " + reason).c_str());
 }
 
 template <class traits> void style_exchange_tools<traits>::load() {

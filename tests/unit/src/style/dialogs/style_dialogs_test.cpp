@@ -31,11 +31,6 @@ std::wstring text_of_style(const Tzu_pln_style* style) {
   return text_of(
       [&](Tzu_string_adp* a) { zu_xml_save_style_save_style_pln_str(nullptr, style, a); });
 }
-std::wstring text_of_style(const Tzu_pgn_style* style) {
-  return text_of(
-      [&](Tzu_string_adp* a) { zu_xml_save_style_save_style_pgn_str(nullptr, style, a); });
-}
-
 /// A dialog on a style, seen through its elements.
 template <class dialog, class style> struct opened {
   explicit opened(style* edited) { shown.set(edited); }
@@ -320,17 +315,18 @@ TEST_F(style_dialogs, a_file_that_holds_no_style_changes_nothing) {
 
 TEST_F(style_dialogs, a_style_that_cannot_be_saved_is_told) {
   std::vector<std::wstring> messages;
-  zu_set_message_sink(
-      [](const wchar_t* text, void* user) {
-        static_cast<std::vector<std::wstring>*>(user)->emplace_back(text);
-      },
-      &messages);
+  const Tzu_message_hooks hooks{[](const wchar_t* text, void* user) {
+                                  static_cast<std::vector<std::wstring>*>(user)->emplace_back(text);
+                                },
+                                nullptr, &messages};
+  zu_set_message_hooks(&hooks);
   person_.path = path("nowhere") + L"/a.s_p";
   point_dialog d(point_.get());
   d.form.use_tool(L"zu_common_style_dialog_save_tool");
-  zu_set_message_sink(nullptr, nullptr);
+  zu_set_message_hooks(nullptr);
   ASSERT_EQ(messages.size(), 1u);
-  EXPECT_FALSE(messages[0].empty());
+  EXPECT_EQ(messages[0].find(person_.path + L": "), 0u);
+  EXPECT_GT(messages[0].size(), person_.path.size() + 2);
 }
 
 TEST_F(style_dialogs, the_preview_is_drawn_anew_at_each_change) {

@@ -31,6 +31,7 @@ std::wstring text_of_style(const Tzu_pln_style* style) {
   return text_of(
       [&](Tzu_string_adp* a) { zu_xml_save_style_save_style_pln_str(nullptr, style, a); });
 }
+
 /// A dialog on a style, seen through its elements.
 template <class dialog, class style> struct opened {
   explicit opened(style* edited) { shown.set(edited); }

@@ -1,5 +1,6 @@
 // zugrid render: grids into a picture.
 
+#include <cstdio>
 #include <memory>
 #include <tuple>
 
@@ -12,6 +13,7 @@
 #include "host/core/layer_look.h"
 #include "host/core/picture.h"
 #include "host/core/scale_files.h"
+#include "host/core/texts.h"
 
 namespace zu::cli {
 namespace {
@@ -149,6 +151,15 @@ void save_scale(const host::scene& scene, const std::string& file) {
   throw host::failure(file, "no layer has a scale");
 }
 
+/// What of the values got no row; drawing forgets it.
+void warn_of_cut_values(const host::scene& scene) {
+  for (const auto& layer : scene.layers())
+    for (const std::string& reason :
+         host::reasons(host::wide(layer->source_name()), zu_problem_part))
+      std::fprintf(stderr, "zugrid: warning: %s: %s\n", layer->source_name().c_str(),
+                   reason.c_str());
+}
+
 int run(const texts& given) {
   host::layer_look look = look_of(given);
   host::page_request request = request_of(given.page);
@@ -165,6 +176,7 @@ int run(const texts& given) {
   for (const std::string& source : given.sources) scene.add(source);
   if (!given.crs.empty()) scene.set_projection(given.crs);
   host::dress(scene, look);
+  if (look.unique_values) warn_of_cut_values(scene);
   if (!given.saved_table.empty()) save_color_table(scene, given.saved_table);
   if (!given.saved_scale.empty()) save_scale(scene, given.saved_scale);
   host::drawn_picture picture = draw(scene, request);

@@ -139,9 +139,9 @@ ZU_API void zu_rng_scale_set_min_style_prm(Tzu_rng_scale* scale, const Tzu_stl_p
 ZU_API void zu_rng_scale_set_max_style_prm(Tzu_rng_scale* scale, const Tzu_stl_prm* prm,
                                            int32_t selected);
 // Between the classes `first` and `last` (cut to the scale), or between the first and last marked
-// row over the marked ones, tails among them, the inner rows get what lies evenly between the two ends: the colour
-// with its transparency kept, the hue alone by the shorter way, the transparency alone, the size of
-// symbols and the width of lines. Fewer than three rows: nothing.
+// row over the marked ones, tails among them, the inner rows get what lies evenly between the two
+// ends: the colour with its transparency kept, the hue alone by the shorter way, the transparency
+// alone, the size of symbols and the width of lines. Fewer than three rows: nothing.
 ZU_API void zu_rng_scale_clr_gradient(Tzu_rng_scale* scale, uint64_t first, uint64_t last,
                                       int32_t selected);
 ZU_API void zu_rng_scale_hue_gradient(Tzu_rng_scale* scale, uint64_t first, uint64_t last,

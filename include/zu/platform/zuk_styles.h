@@ -30,7 +30,7 @@ typedef struct Tzu_scale_prm {
 } Tzu_scale_prm;
 
 ZU_API void zu_scale_prm_set_visible(Tzu_scale_prm* prm, bool visible);
-/// Sets one colour (index 0 or 1).
+/// Sets one colour (index 0 or 1), and that of the main part of the styles made of it.
 ZU_API void zu_stl_prm_clr_set_all(Tzu_stl_prm* prm, Tzu_color color, int32_t index);
 /// Colour `index` (0 or 1); a line's or a symbol's is that of its main part. Black for null.
 ZU_API Tzu_color zu_stl_prm_get_color(const Tzu_stl_prm* prm, int32_t index);
@@ -139,9 +139,9 @@ ZU_API void zu_rng_scale_set_min_style_prm(Tzu_rng_scale* scale, const Tzu_stl_p
 ZU_API void zu_rng_scale_set_max_style_prm(Tzu_rng_scale* scale, const Tzu_stl_prm* prm,
                                            int32_t selected);
 // Between the classes `first` and `last` (cut to the scale), or between the first and last marked
-// one over the marked ones, the inner rows get what lies evenly between the two ends: the colour
-// with its transparency kept, the hue alone by the shorter way, the transparency alone, the size of
-// symbols and the width of lines. Fewer than three rows: nothing.
+// row over the marked ones, tails among them, the inner rows get what lies evenly between the two
+// ends: the colour with its transparency kept, the hue alone by the shorter way, the transparency
+// alone, the size of symbols and the width of lines. Fewer than three rows: nothing.
 ZU_API void zu_rng_scale_clr_gradient(Tzu_rng_scale* scale, uint64_t first, uint64_t last,
                                       int32_t selected);
 ZU_API void zu_rng_scale_hue_gradient(Tzu_rng_scale* scale, uint64_t first, uint64_t last,
@@ -154,7 +154,7 @@ ZU_API void zu_rng_scale_clr_gradient_marked(Tzu_rng_scale* scale, int32_t selec
 ZU_API void zu_rng_scale_transparency_gradient_marked(Tzu_rng_scale* scale, int32_t selected);
 ZU_API void zu_rng_scale_size_gradient_marked(Tzu_rng_scale* scale, int32_t selected);
 /// Called before a scale is filled from data: rows made from now on are as transparent as the first
-/// row is now.
+/// one is now; without classes, as the lower tail.
 ZU_API void zu_rng_scale_init_opacity_pts(Tzu_rng_scale* scale);
 
 /// How boundaries were made; kept for whoever makes them anew.

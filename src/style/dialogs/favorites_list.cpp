@@ -90,8 +90,9 @@ template <class T> void favorites_list<T>::save() {
       [](Tzu_string_adp* a) { zu_ask_save_file_w(load_text(file_filter).c_str(), nullptr, a); });
   owned_xml xml(zu_xml_save_2d_create());
   if (path.empty() || zu_xml_data_save_style_lib(xml.get(), path.c_str(), library_.get())) return;
-  zu_show_wwarning(
-      text_of([&](Tzu_string_adp* a) { zu_xml_save_2d_get_reason_w(xml.get(), a); }).c_str());
+  const std::wstring reason =
+      text_of([&](Tzu_string_adp* a) { zu_xml_save_2d_get_reason_w(xml.get(), a); });
+  zu_show_wwarning((path + L": " + reason).c_str());
 }
 
 template <class T> void favorites_list<T>::load() {

@@ -1,5 +1,7 @@
 #include "src/style/dialogs/forms.h"
 
+#include "src/style/dialogs/dash_text.h"
+
 namespace zu::style::detail {
 namespace {
 
@@ -30,6 +32,11 @@ void write_width(Tzu_bpln_style* line, double millimetres) {
 void write_fill(Tzu_bpgn_style* fill, Tzu_color color) {
   zu_bpgn_style_set_color(fill, color);
   zu_cpx_pgn_style_set_color(zu_bpgn_style_get_complex_style(fill), color);
+}
+
+void write_dashes(Tzu_bpln_style* line, const std::wstring& text) {
+  if (auto lengths = parse_dashes(text))
+    zu_bpln_style_set_dashes(line, static_cast<std::int32_t>(lengths->size()), lengths->data());
 }
 
 void write_symbol_or_figure(Tzu_bpnt_style* point, bool figure) {
@@ -117,12 +124,16 @@ line_form::line_form() {
   width_.on_change = writes<double>(*this, edited_, &write_width);
   cap_.on_change = writes<std::int32_t>(*this, edited_, &zu_bpln_style_set_cap_style);
   join_.on_change = writes<std::int32_t>(*this, edited_, &zu_bpln_style_set_join_style);
+  dashes_.set_hint(14918);
+  dashes_.set_suggestions({L"3 2", L"1 1", L"0 1", L"4 1 0.2 1"});
+  dashes_.validate = [](const std::wstring& text) { return parse_dashes(text).has_value(); };
+  dashes_.on_commit = writes<const std::wstring&>(*this, edited_, &write_dashes);
   use_complex_.on_state = [this](bool complex) {
     writes<bool>(*this, edited_, &zu_bpln_style_set_use_complex)(complex);
     show();
   };
-  root_.place(color_).skip().place(width_).place(cap_, 2).place(join_, 2).place(use_complex_, 3);
-  root_.set_column_stretch(1);
+  root_.place(color_).skip().place(width_).place(cap_, 2).place(join_, 2);
+  root_.place(dashes_).place(use_complex_, 3).set_column_stretch(1);
 }
 
 void line_form::set(Tzu_bpln_style* edited) {
@@ -137,8 +148,9 @@ void line_form::show() {
   width_.assign(complex ? complex_width : zu_bpln_style_get_width(edited_));
   cap_.assign_value(zu_bpln_style_get_cap_style(edited_));
   join_.assign_value(zu_bpln_style_get_join_style(edited_));
+  dashes_.assign(dash_text(edited_));
   use_complex_.assign(complex);
-  constexpr int complex_row = 4;
+  constexpr int complex_row = 5;
   root_.set_row_visible(complex_row, complex || complex_width > 0);
 }
 

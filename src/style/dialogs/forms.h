@@ -8,6 +8,7 @@
 #include "src/style/pickers/symbol_input.h"
 #include "src/style/style_links.h"
 #include "src/toolkit/dropdown.h"
+#include "src/toolkit/inputs.h"
 #include "src/toolkit/numbers.h"
 
 namespace zu::style::detail {
@@ -65,8 +66,9 @@ class line_form : public toolkit::with_element {
   toolkit::labeled_element<color_style_input> color_{10354, 10354};
   measure_input width_{10355, measure_input::millimetres};
   toolkit::labeled_element<toolkit::dropdownex<std::int32_t>> cap_{13501}, join_{13502};
+  toolkit::labelex_element<toolkit::assisted_input> dashes_{14917, measure_input::millimetres};
   toolkit::checkbox use_complex_{14902};
-  toolkit::grid_span_layout<3, 5> root_;
+  toolkit::grid_span_layout<3, 6> root_;
 };
 
 class fill_form : public toolkit::with_element {

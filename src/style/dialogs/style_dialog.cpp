@@ -52,8 +52,9 @@ template <class traits> void style_exchange_tools<traits>::save() {
   });
   owned_xml xml(zu_xml_save_style_create());
   if (path.empty() || traits::save_file(xml.get(), path.c_str(), edited_)) return;
-  zu_show_wwarning(
-      text_of([&](Tzu_string_adp* a) { zu_xml_save_style_get_reason_w(xml.get(), a); }).c_str());
+  const std::wstring reason =
+      text_of([&](Tzu_string_adp* a) { zu_xml_save_style_get_reason_w(xml.get(), a); });
+  zu_show_wwarning((path + L": " + reason).c_str());
 }
 
 template <class traits> void style_exchange_tools<traits>::load() {
@@ -80,8 +81,8 @@ template <class traits, class T> style_dialog<traits, T>::style_dialog() {
   if (libraries_.has_libraries()) ready_.place(L"zu_style_dialog_libraries", 14905, libraries_);
   ready_.place(L"zu_style_dialog_favorites", 14915, favorites_);
   side_.place(preview_frame_).place(ready_).set_row_stretch(1);
-  constexpr std::uint32_t room_for_tabs = 38;
-  columns_.place(parts_).place(side_).set_column_stretch(0).set_column_size(0, room_for_tabs);
+  columns_.place(parts_).place(side_).set_column_stretch(0).set_column_size(0,
+                                                                            traits::parts::width);
   root_.place(tools_).place(columns_).place(buttons_).set_row_stretch(1);
   reload();
 }

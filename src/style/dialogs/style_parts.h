@@ -41,8 +41,12 @@ template <class form> class part_page : public toolkit::with_element {
   toolkit::grid_layout<1, 3> root_;
 };
 
+/// So that the captions of four tabs are seen, in Russian too.
+constexpr std::uint32_t room_for_tabs = 50;
+
 class point_parts : public toolkit::with_element {
  public:
+  static constexpr std::uint32_t width = 0;  ///< in the units of layouts; 0: by content
   point_parts();
   void set(Tzu_pnt_style* edited);
   std::function<void()> on_change;
@@ -55,6 +59,7 @@ class point_parts : public toolkit::with_element {
 
 class line_parts : public toolkit::with_element {
  public:
+  static constexpr std::uint32_t width = room_for_tabs;
   line_parts();
   void set(Tzu_pln_style* edited);
   std::function<void()> on_change;
@@ -74,6 +79,7 @@ class line_parts : public toolkit::with_element {
 
 class polygon_parts : public toolkit::with_element {
  public:
+  static constexpr std::uint32_t width = room_for_tabs;
   polygon_parts();
   void set(Tzu_pgn_style* edited);
   std::function<void()> on_change;

@@ -51,6 +51,7 @@ class favorites : public testing::Test {
       all.push_back(zu_bpln_style_get_width(zu_pln_style_get_bpln_style_ptr(copy.get())));
     };
     for (std::uint32_t i = 0; i < of.size(); ++i) pick(of, i);
+    of.on_pick = nullptr;
     return all;
   }
   void pick(list& of, std::uint32_t row) {

@@ -146,6 +146,27 @@ TEST_F(style_dialogs, a_line_has_caps_and_joins_in_the_order_of_the_lists) {
   }
 }
 
+TEST_F(style_dialogs, dashes_are_lengths_with_blanks_between) {
+  Tzu_bpln_style* part = zu_pln_style_get_bpln_style_ptr(line_.get());
+  const double given[] = {3, 0.25};
+  zu_bpln_style_set_dashes(part, 2, given);
+  line_dialog d(line_.get());
+  EXPECT_EQ(d.form.line_of(14917), L"3 0.25");
+  for (const wchar_t* wrong : {L"3 -1", L"a", L"3;2", L"0 0", L"1 inf", L"1 1 1 1 1 1 1 1 1"})
+    EXPECT_FALSE(d.form.write(14917, wrong));
+  struct {
+    const wchar_t* text;
+    std::vector<double> lengths;
+  } const rows[] = {{L" 4  1,5 ", {4, 1.5}}, {L"0 1", {0, 1}}, {L"", {}}};
+  for (const auto& r : rows) {
+    EXPECT_TRUE(d.form.write(14917, r.text));
+    d.form.accept();
+    std::vector<double> taken(zu_line_dashes);
+    taken.resize(static_cast<std::size_t>(zu_bpln_style_get_dashes(part, taken.data())));
+    EXPECT_EQ(taken, r.lengths);
+  }
+}
+
 TEST_F(style_dialogs, parts_of_a_line_are_shown_and_hidden_by_their_marks) {
   line_dialog d(line_.get());
   d.form.check(shown, false, 0);  // the line
@@ -316,17 +337,18 @@ TEST_F(style_dialogs, a_file_that_holds_no_style_changes_nothing) {
 
 TEST_F(style_dialogs, a_style_that_cannot_be_saved_is_told) {
   std::vector<std::wstring> messages;
-  zu_set_message_sink(
-      [](const wchar_t* text, void* user) {
-        static_cast<std::vector<std::wstring>*>(user)->emplace_back(text);
-      },
-      &messages);
+  const Tzu_message_hooks hooks{[](const wchar_t* text, void* user) {
+                                  static_cast<std::vector<std::wstring>*>(user)->emplace_back(text);
+                                },
+                                nullptr, &messages};
+  zu_set_message_hooks(&hooks);
   person_.path = path("nowhere") + L"/a.s_p";
   point_dialog d(point_.get());
   d.form.use_tool(L"zu_common_style_dialog_save_tool");
-  zu_set_message_sink(nullptr, nullptr);
+  zu_set_message_hooks(nullptr);
   ASSERT_EQ(messages.size(), 1u);
-  EXPECT_FALSE(messages[0].empty());
+  EXPECT_EQ(messages[0].find(person_.path + L": "), 0u);
+  EXPECT_GT(messages[0].size(), person_.path.size() + 2);
 }
 
 TEST_F(style_dialogs, the_preview_is_drawn_anew_at_each_change) {

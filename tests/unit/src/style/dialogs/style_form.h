@@ -58,6 +58,17 @@ class style_form {
     EXPECT_TRUE(call<&floating_input_impl::set_value>(input, value));
     call<&floating_input_impl::apply>(input);
   }
+  std::wstring line_of(std::int32_t label, int n = 0) {
+    auto input = labelled<assisted_input_impl>(label, n);
+    return tests::text([&](auto v) { call<&assisted_input_impl::text>(input, v); });
+  }
+  /// False if it is refused.
+  bool write(std::int32_t label, const wchar_t* text, int n = 0) {
+    auto input = labelled<assisted_input_impl>(label, n);
+    if (!call<&assisted_input_impl::set_text>(input, text)) return false;
+    call<&assisted_input_impl::commit>(input);
+    return true;
+  }
   void choose(std::int32_t label, std::int32_t item, int n = 0) {
     call<&dropdown_impl::set_current>(labelled<dropdown_impl>(label, n), item);
   }

@@ -128,7 +128,10 @@ struct scale_colors {
 
 std::string numbers(std::initializer_list<int> all, char between) {
   std::string text;
-  for (int each : all) text += (text.empty() ? "" : std::string(1, between)) + std::to_string(each);
+  for (int each : all) {
+    if (!text.empty()) text += between;
+    text += std::to_string(each);
+  }
   return text;
 }
 

@@ -56,6 +56,8 @@ palettes_table::palettes_table(Tzu_clr_palettes* list) : list_(list) {
     edited();
     return true;
   };
+  caption_.on_width = [] { return 26u; };
+  strip_.on_width = [] { return 19u; };
   strip_.on_picture = [this](outline_item item, bitmap_visitor visitor) {
     visit_strip(colors_of(zu_clr_palettes_get_ptr(list_, toolkit::row_of(item))), strip_width,
                 strip_height, visitor);

@@ -22,6 +22,7 @@ class palettes_table : public marked_table {
 
   std::uint32_t row_count() override;
   std::uint32_t visible_rows() override { return 12; }
+  std::uint32_t width() override { return 47; }
   void visit_empty_text(string_visitor visitor) override;
 
  private:
@@ -48,6 +49,7 @@ class colors_table : public marked_table {
 
   std::uint32_t row_count() override;
   std::uint32_t visible_rows() override { return 12; }
+  std::uint32_t width() override { return 47; }
   void activate(outline_item item) override;
 
  private:

@@ -2,6 +2,7 @@
 
 #include <QAbstractItemView>
 #include <QAction>
+#include <QApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QDockWidget>
@@ -11,6 +12,7 @@
 #include <QToolBar>
 #include <functional>
 
+#include "host/desktop/realiser/modal_runner.h"
 #include "host/desktop/realiser/outline_flat_view.h"
 #include "host/desktop/words.h"
 #include "tests/gui/window/window_fixture.h"
@@ -25,6 +27,9 @@ constexpr int patience = 20000;  // milliseconds
 class user_palettes : public main_window_test {
  protected:
   void SetUp() override {
+    services_.set_dialog_runners([this](const std::wstring& id) {
+      return id == L"zu_clr_palettes_dialog" ? runner_.runner() : modal_dialog_runner();
+    });
     main_window_test::SetUp();
     former_data_ = qgetenv("XDG_DATA_HOME");
     qputenv("XDG_DATA_HOME", folder_.path().toUtf8());
@@ -51,6 +56,7 @@ class user_palettes : public main_window_test {
     zu_set_asking_hooks(&hooks);
   }
   void TearDown() override {
+    services_.set_dialog_runners({});
     zu_set_asking_hooks(nullptr);
     zu_clr_palettes_assign(zu_get_user_palettes(), former_.get());
     if (former_data_.isNull())
@@ -132,6 +138,7 @@ class user_palettes : public main_window_test {
     if (!folder.isEmpty()) shown.grab().save(QString::fromUtf8(folder) + QLatin1Char('/') + name);
   }
 
+  modal_runner runner_{QStringLiteral("zu_clr_palettes_dialog")};
   struct ended {
     void operator()(Tzu_clr_palettes* list) const { zu_clr_palettes_destroy(list); }
   };

@@ -148,7 +148,7 @@ def qgis(path, kind, box, crs, fresh, breaks):
     if kind == "natural":
         return natural_breaks(q, path)
     if kind == "unique":
-        return unique_values(q, layer())
+        return unique_values(q, layer)
     if fresh:
         return timed(lambda: draw(layer()))
     made = layer()
@@ -165,10 +165,12 @@ def natural_breaks(q, path):
     return dict(timed(classify, 3), check=[c.upperBound() for c in found[-1]])
 
 
-def unique_values(q, made):
+def unique_values(q, layer):
+    """Of a layer made anew: what it has counted once it keeps."""
     found = []
 
     def collect():
+        made = layer()  # it must outlive its provider
         found.append(len(q.QgsPalettedRasterRenderer.classDataFromRaster(made.dataProvider(), 1)))
     return dict(timed(collect, 3), check=[found[-1]])
 

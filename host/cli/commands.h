@@ -32,6 +32,7 @@ command add_probe(CLI::App& options);
 command add_classify(CLI::App& options);
 command add_project(CLI::App& options);
 command add_gradients(CLI::App& options);
+command add_symbols(CLI::App& options);
 command add_config(CLI::App& options);
 
 }  // namespace zu::cli

@@ -32,6 +32,7 @@ constexpr entry commands[] = {
     {"classify", "make classes of the values of a grid", &add_classify},
     {"project", "keep scenes of layers in a file and draw them", &add_project},
     {"gradients", "name the arrays of colours and draw them", &add_gradients},
+    {"symbols", "name the figures of points and draw them", &add_symbols},
     {"config", "choose what holds for all projects", &add_config},
 };
 

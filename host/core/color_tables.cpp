@@ -18,8 +18,6 @@ namespace {
 constexpr std::size_t most_classes = 256;
 constexpr int bytes_a_step = 4;
 
-bool same(Tzu_color a, Tzu_color b) { return a.r == b.r && a.g == b.g && a.b == b.b && a.a == b.a; }
-
 Tzu_color mixed(Tzu_color from, Tzu_color to, double share) {
   auto byte = [&](std::uint8_t a, std::uint8_t b) {
     return static_cast<std::uint8_t>(a + (b - a) * share + 0.5);
@@ -202,11 +200,6 @@ std::string gdal_text(const scale_colors& scale) {
 bool color_table::has_shares() const {
   return std::any_of(parts.begin(), parts.end(),
                      [](const table_part& part) { return part.low.is_share; });
-}
-
-bool color_table::is_continuous() const {
-  return std::any_of(parts.begin(), parts.end(),
-                     [](const table_part& part) { return !same(part.from, part.to); });
 }
 
 void apply_color_table(const color_table& table, std::pair<double, double> limits,

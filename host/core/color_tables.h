@@ -40,7 +40,6 @@ struct color_table {
   std::optional<Tzu_color> other;         ///< of what nothing else holds; none: not drawn
 
   bool has_shares() const;
-  bool is_continuous() const;  ///< a colour runs from one to another somewhere
 };
 
 enum class table_format { gmt, qgis, gdal };

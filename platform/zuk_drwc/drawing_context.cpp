@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
+#include <vector>
 
 #include "platform/zuk_drwc/cut_ring.h"
 #include "platform/zuk_drwc/text_line.h"

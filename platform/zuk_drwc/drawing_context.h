@@ -71,6 +71,8 @@ class drawing_context {
   /// above: viewers soften the edges of what a document holds, and a piece that reaches under the
   /// next one hides the seam. Only what is opaque may be drawn there.
   pixel_box bled_region() const;
+  /// The one of the two that what has a colour may be drawn in.
+  pixel_box region_for(Tzu_color color) const { return color.a == 0 ? bled_region() : region(); }
   struct restored {
     void operator()(cairo_t* cairo) const { cairo_restore(cairo); }
   };

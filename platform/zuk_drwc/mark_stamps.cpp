@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <new>
+#include <utility>
 
 #include "platform/zuk_drwc/cairo_owned.h"
 
@@ -15,14 +16,18 @@ std::uint32_t part_of(std::uint32_t value, std::uint32_t of_255) {
   return (value * of_255 + full / 2) / full;
 }
 
+/// Two channels, each in a half of the word, by a part of 255.
+std::uint32_t parts_of(std::uint32_t halves, std::uint32_t of_255) {
+  constexpr std::uint32_t low_bytes = 0x00FF00FF, rounding = 0x00800080;
+  std::uint32_t x = (halves & low_bytes) * of_255 + rounding;
+  return (x + (x >> 8 & low_bytes)) >> 8 & low_bytes;
+}
+
 /// A premultiplied word over another one.
 std::uint32_t over(std::uint32_t word, std::uint32_t below) {
   std::uint32_t rest = full - (word >> 24);
   if (rest == 0) return word;
-  auto channel = [&](int shift) {
-    return (word >> shift & full) + part_of(below >> shift & full, rest);
-  };
-  return channel(24) << 24 | channel(16) << 16 | channel(8) << 8 | channel(0);
+  return word + (parts_of(below, rest) | parts_of(below >> 8, rest) << 8);
 }
 
 }  // namespace

@@ -10,6 +10,7 @@ namespace zu::platform {
 namespace {
 
 constexpr double miter_limit = 10;
+constexpr double shortest_dot = 0.01;  // pixels
 /// Vertices after which opaque lines are stroked: Cairo sorts the edges of a path, and several
 /// paths are done sooner than a long one. On a screen each line is a path of its own.
 constexpr std::size_t opaque_at_once = 200;
@@ -20,6 +21,8 @@ std::vector<double> dashes_of(const Tzu_bpln_style& style, double per_mm) {
   double sum = 0;
   for (double millimetres : style.dashes) {
     double length = millimetres * per_mm;
+    // Cairo leaves out dots without a length.
+    if (length == 0 && dashes.size() % 2 == 0) length = shortest_dot;
     if (!(length >= 0) || !std::isfinite(length)) return {};
     dashes.push_back(length);
     sum += length;

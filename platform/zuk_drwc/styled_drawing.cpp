@@ -120,7 +120,7 @@ void drawing_context::draw_polygon(const Tzu_ov_d2& rings, const Tzu_pgn_style& 
 
 void drawing_context::fill_rings(const Tzu_ov_d2& rings, Tzu_color color) {
   if (color.a == 255) return;
-  saved_state saved = clipped_to(region());
+  saved_state saved = clipped_to(region_for(color));
   set_color(color);
   add_rings(rings);
   cairo_fill(cairo_.get());
@@ -152,7 +152,7 @@ void drawing_context::stroke_styled(const Tzu_ov_d2& lines, const Tzu_bpln_style
   }
   if (parts.empty()) return;
   for (strokes& pen : pens) {
-    saved_state saved = clipped_to(pen.color.a == 0 ? bled_region() : region());
+    saved_state saved = clipped_to(region_for(pen.color));
     std::swap(pen.parts, parts);
     stroke_lines(pen);
     std::swap(pen.parts, parts);
@@ -180,7 +180,7 @@ void drawing_context::put_styled(const std::vector<mark_place>& places,
 
 void drawing_context::put_marks(const mark& drawn, const std::vector<mark_place>& places) {
   constexpr int at_once = 100;  // opaque marks of a path: what they share is filled once
-  pixel_box box = region();
+  pixel_box box = region_for(drawn.color());
   double reach = drawn.reach() * turned_reach;
   double x0 = static_cast<double>(box.x0) - reach, x1 = static_cast<double>(box.x1) + reach;
   double y0 = height_ - static_cast<double>(box.y1) - reach;

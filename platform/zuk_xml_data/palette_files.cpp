@@ -1,12 +1,9 @@
 // Palettes in files: a root with a node for each palette, in it one for each colour.
 
-#include <filesystem>
 #include <string>
 
 #include "platform/zuk_basic/owned.h"
-#include "platform/zuk_basic/utf8.h"
 #include "platform/zuk_xml_data/file_operation.h"
-#include "zu/platform/zuk_ini_data.h"
 #include "zu/platform/zuk_xml_data.h"
 
 using zu::platform::attribute;
@@ -91,14 +88,6 @@ bool save(const wchar_t* path, const Tzu_clr_palettes* list, std::wstring& reaso
   return zu::platform::save_tree(root.get(), path, reason);
 }
 
-/// Empty if there is no folder for it.
-std::wstring user_file() {
-  owned<zu_ini_data_destroy> data(zu_ini_data_create(L"user_palettes"));
-  std::wstring folder =
-      text_of([&](Tzu_string_adp* a) { zu_ini_data_get_storage_path(data.get(), a); });
-  return folder.empty() ? folder : folder + L"/user_palettes.clrs";
-}
-
 }  // namespace
 
 bool zu_xml_data_save_clr_palettes(Tzu_xml_save_2d* xml, const wchar_t* path,
@@ -110,17 +99,4 @@ bool zu_xml_data_load_clr_palettes(Tzu_xml_save_2d* xml, const wchar_t* path,
                                    Tzu_clr_palettes* list) {
   return list != nullptr &&
          zu::platform::telling(xml, [&](std::wstring& reason) { return load(path, list, reason); });
-}
-
-Tzu_clr_palettes* zu_get_user_palettes() {
-  static const palettes_ptr list = [] {
-    palettes_ptr made(zu_clr_palettes_create());
-    std::wstring path = user_file();
-    owned<zu_xml_save_2d_destroy> xml(zu_xml_save_2d_create());
-    if (!path.empty() && std::filesystem::exists(zu::platform::to_utf8(path)) &&
-        !zu_xml_data_load_clr_palettes(xml.get(), path.c_str(), made.get()))
-      zu_problems_add(path.c_str(), zu_problem_open, xml->reason.c_str());
-    return made;
-  }();
-  return list.get();
 }

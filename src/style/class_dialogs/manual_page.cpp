@@ -29,7 +29,7 @@ manual_page::manual_page(const known_field& field) : method_page(field) {
   remove_.set_enabled(false);
   listen(digits_);
   buttons_.place(add_).place(remove_).set_column_stretch(2);
-  rounding_.place(digits_).set_column_stretch(1);
+  rounding_.place(digits_).set_column_size(0, label_width).set_column_stretch(1);
   root_.place(table_).place(buttons_).place(rounding_).set_row_stretch(0);
 }
 

@@ -29,6 +29,7 @@ class manual_page : public method_page {
         : page_(page), limit_(limit), id_(id), caption_(caption) {}
     void id(string_visitor visitor) override { call<&string_visitor_impl::visit>(visitor, id_); }
     void caption(string_visitor visitor) override { toolkit::visit_text(caption_, visitor); }
+    std::uint32_t width() override { return 20; }
     double value(outline_item item) override;
     bool is_editable(outline_item) override { return true; }
     bool set_value(outline_item item, double value) override;

@@ -57,7 +57,7 @@ equal_page::equal_page(const known_field& field) : method_page(field) {
   };
   listen(count_, step_, minimum_, maximum_, digits_);
   root_.place(count_).place(step_).place(minimum_).place(maximum_).place(digits_);
-  root_.set_column_stretch(1).set_row_stretch(5);
+  root_.set_column_size(0, label_width).set_column_stretch(1).set_row_stretch(5);
 }
 
 void equal_page::assign_step(double minimum, double maximum, double count) {
@@ -81,7 +81,7 @@ limits_page::limits_page(const known_field& field, builder build)
     : method_page(field), build_(std::move(build)) {
   listen(count_, minimum_, maximum_, digits_);
   root_.place(count_).place(minimum_).place(maximum_).place(digits_);
-  root_.set_column_stretch(1).set_row_stretch(4);
+  root_.set_column_size(0, label_width).set_column_stretch(1).set_row_stretch(4);
 }
 
 void limits_page::load(const Tzu_rng_scale* scale) {
@@ -100,7 +100,7 @@ deviation_page::deviation_page(const known_field& field) : method_page(field) {
   coefficient_.add(10431, 0, 0.5).add(10432, 0, 1.0).add(10433, 0, 2.0).add(10434, 0, 3.0);
   listen(count_, coefficient_, digits_);
   root_.place(count_).place(coefficient_).place(digits_);
-  root_.set_column_stretch(1).set_row_stretch(3);
+  root_.set_column_size(0, label_width).set_column_stretch(1).set_row_stretch(3);
 }
 
 void deviation_page::load(const Tzu_rng_scale* scale) {
@@ -128,7 +128,7 @@ logarithmic_page::logarithmic_page(const known_field& field) : method_page(field
   two_sided_.on_state = changed;
   digits_.on_change = changed;
   root_.place(start_).skip().place(two_sided_).place(count_).place(digits_);
-  root_.set_column_stretch(1).set_row_stretch(4);
+  root_.set_column_size(0, label_width).set_column_stretch(1).set_row_stretch(4);
 }
 
 logarithmic_params logarithmic_page::params() {

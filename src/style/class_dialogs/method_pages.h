@@ -39,6 +39,9 @@ class count_input : public toolkit::labeled_element<toolkit::integer_input> {
   void assign_count(double count);  ///< cut to what a person may give; finite alone
 };
 
+/// Of the labels of all pages and of the choice above them, so that the inputs stand in one line.
+inline constexpr std::uint32_t label_width = 20;
+
 /// `load` shows the count, outer boundaries and digits of a scale; the boundaries of one that has
 /// no classes are the field's.
 class method_page : public toolkit::with_element {

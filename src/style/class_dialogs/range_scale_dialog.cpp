@@ -65,7 +65,8 @@ range_scale::range_scale(Tzu_rng_scale* scale, Tzu_stat* stat, const data::open_
   information_.place(minimum_).place(maximum_).place(mean_).place(deviation_);
   information_.place(has_statistic_, 4);
   information_.cells().set_column_stretch(1).set_column_stretch(3);
-  method_row_.place(method_).set_column_stretch(1);
+  information_.cells().set_row_visible(2, !zu_stat_has_statistic(stat_));
+  method_row_.place(method_).set_column_size(0, style::detail::label_width).set_column_stretch(1);
   root_.place(information_).place(method_row_).place(stack_).place(preview_).place(buttons_);
   root_.set_row_stretch(3);
 }

@@ -28,7 +28,6 @@ value_scale::value_scale(Tzu_val_scale* scale, const data::open_reference& sourc
   add_.assign(true);
   remove_.assign(false);
   change_captions_.assign(false);
-  change_captions_.on_state = [this](bool) { enable_params(); };
   buttons_.on_accept = [this] {
     take();
     return true;
@@ -72,7 +71,7 @@ void value_scale::enable_params() {
   add_.set_enabled(enabled);
   remove_.set_enabled(enabled);
   change_captions_.set_enabled(enabled);
-  captions_field_.set_enabled(enabled && change_captions_.is_checked());
+  captions_field_.set_enabled(enabled);
 }
 
 void value_scale::take() {

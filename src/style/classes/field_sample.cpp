@@ -12,7 +12,7 @@
 namespace zu::style {
 namespace {
 
-constexpr std::uint64_t whole_limit = 1000;
+constexpr std::uint64_t whole_limit = sample_limit;  // of which drawing cells would give all too
 // Beyond this, reading all of the field in order is the quicker way to rare values.
 constexpr std::uint64_t draw_limit = 20 * sample_limit;
 

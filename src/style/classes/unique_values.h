@@ -2,7 +2,6 @@
 // The distinct values of a field as rows of a value scale.
 
 #include <cstdint>
-#include <functional>
 #include <set>
 #include <string>
 

@@ -72,9 +72,9 @@ point_form::point_form() {
     writes<bool>(*this, edited_, &zu_bpnt_style_set_use_complex)(complex);
     show();
   };
-  symbols_.place(symbol_).place(figure_);
-  root_.place(use_figure_, 3).put(symbol_label_);
-  root_.place(symbols_, 2).place(color_).skip().place(size_).place(use_complex_, 3);
+  root_.place(use_figure_, 3).place(figure_label_).place(figure_).skip();
+  root_.place(symbol_label_).place(symbol_, 2);
+  root_.place(color_).skip().place(size_).place(use_complex_, 3);
   root_.place(dx_).place(dy_).place(angle_).set_column_stretch(1);
 }
 
@@ -92,7 +92,7 @@ void point_form::show() {
   bool complex = zu_bpnt_style_get_use_complex(edited_);
   size_.assign(complex ? complex_size : zu_bpnt_style_get_size(edited_));
   use_complex_.assign(complex);
-  constexpr int complex_row = 4;
+  constexpr int complex_row = 5;
   root_.set_row_visible(complex_row, complex || complex_size > 0);
   dx_.assign(zu_bpnt_style_get_dx(edited_));
   dy_.assign(zu_bpnt_style_get_dy(edited_));
@@ -103,7 +103,8 @@ void point_form::show() {
 void point_form::show_symbol() {
   bool figure = zu_bpnt_style_get_use_figure(edited_);
   use_figure_.assign(figure);
-  symbols_.assign(figure ? 1 : 0);
+  constexpr int figure_row = 1, symbol_row = 2;
+  root_.set_row_visible(figure_row, figure).set_row_visible(symbol_row, !figure);
 }
 
 // --- Lines

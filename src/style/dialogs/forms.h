@@ -36,17 +36,16 @@ class point_form : public toolkit::with_element {
 
   Tzu_bpnt_style* edited_ = nullptr;
   toolkit::checkbox use_figure_{14901};
-  toolkit::label symbol_label_{10337};
+  toolkit::label figure_label_{10337}, symbol_label_{10337};
   figure_input figure_;
   symbol_input symbol_;
-  toolkit::stack_layout<2> symbols_;
   toolkit::labeled_element<color_style_input> color_{10338, 10338};
   measure_input size_{10339, measure_input::millimetres};
   toolkit::checkbox use_complex_{14902};
   measure_input dx_{10502, measure_input::millimetres};
   measure_input dy_{10503, measure_input::millimetres};
   measure_input angle_{10504, measure_input::degrees};
-  toolkit::grid_span_layout<3, 8> root_;
+  toolkit::grid_span_layout<3, 9> root_;
 };
 
 class line_form : public toolkit::with_element {

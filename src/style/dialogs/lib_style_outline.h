@@ -20,6 +20,7 @@ template <class traits> class lib_style_outline : public toolkit::outline_table 
 
   std::uint32_t attributes() override { return 0; }
   std::uint32_t visible_rows() override { return 6; }
+  void visit_empty_text(string_visitor visitor) override { toolkit::visit_text(14916, visitor); }
   std::uint32_t row_count() override;
   std::int64_t current_row() override { return current_; }
   void set_current_row(std::int64_t row) override;

@@ -80,7 +80,8 @@ template <class traits, class T> style_dialog<traits, T>::style_dialog() {
   if (libraries_.has_libraries()) ready_.place(L"zu_style_dialog_libraries", 14905, libraries_);
   ready_.place(L"zu_style_dialog_favorites", 14915, favorites_);
   side_.place(preview_frame_).place(ready_).set_row_stretch(1);
-  columns_.place(parts_).place(side_).set_column_stretch(0);
+  constexpr std::uint32_t room_for_tabs = 38;
+  columns_.place(parts_).place(side_).set_column_stretch(0).set_column_size(0, room_for_tabs);
   root_.place(tools_).place(columns_).place(buttons_).set_row_stretch(1);
   reload();
 }

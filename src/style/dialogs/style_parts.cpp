@@ -28,8 +28,9 @@ line_parts::line_parts() {
     zu_pln_style_set_end_use_line_dir(edited_, turn);
     if (on_change) on_change();
   };
-  ends_.place(begin_).place(end_).place(turns_, 2).set_row_stretch(0);
-  ends_.set_column_stretch(0).set_column_stretch(1);
+  marks_.place(L"zu_line_style_dialog_beginning", 13605, begin_)
+      .place(L"zu_line_style_dialog_end", 13606, end_);
+  ends_.place(marks_).place(turns_).set_row_stretch(0);
   tabs_.place(L"zu_line_style_dialog_line", 13604, line_)
       .place(L"zu_line_style_dialog_vertices", 13609, vertex_)
       .place(L"zu_line_style_dialog_ends", 14914, ends_)

@@ -10,7 +10,7 @@ namespace zu::style::detail {
 /// A form and the mark over it.
 template <class form> class part_page : public toolkit::with_element {
  public:
-  explicit part_page(std::int32_t caption = 14903) : shown_(caption) {
+  part_page() {
     shown_.on_state = [this](bool shown) {
       write_(shown);
       tell();
@@ -36,7 +36,7 @@ template <class form> class part_page : public toolkit::with_element {
   }
 
   std::function<void(bool)> write_;
-  toolkit::checkbox shown_;
+  toolkit::checkbox shown_{14903};
   form form_;
   toolkit::grid_layout<1, 3> root_;
 };
@@ -64,10 +64,10 @@ class line_parts : public toolkit::with_element {
  private:
   Tzu_pln_style* edited_ = nullptr;
   part_page<line_form> line_;
-  part_page<point_form> vertex_;
-  part_page<point_form> begin_{13605}, end_{13606};
+  part_page<point_form> vertex_, begin_, end_;
+  toolkit::tab_layout<2> marks_;
   toolkit::checkbox turns_{10501};
-  toolkit::grid_span_layout<2, 2> ends_;
+  toolkit::grid_layout<1, 2> ends_;
   part_page<number_form> number_;
   toolkit::tab_layout<4> tabs_;
 };

@@ -12,6 +12,7 @@
 
 #include "host/desktop/realiser/grid_widget.h"
 #include "host/desktop/realiser/realiser.h"
+#include "tests/gui/realiser/fakes.h"
 
 namespace zu::desktop {
 namespace {
@@ -416,6 +417,39 @@ TEST_F(grid_on_screen, tells_who_listens_of_each_input_once) {
   click(1, 2);
   settle();
   EXPECT_EQ(inputs, 2);
+}
+
+/// Rows of one picture, `height` pixels high.
+struct grid_of_pictures : grid_impl {
+  struct picture_cell final : grid_bitmap_cell_impl {
+    explicit picture_cell(fake_bitmap& shown) : shown(shown) {}
+    void picture(bitmap_visitor visitor) override { zu::desktop::show(visitor, shown); }
+    fake_bitmap& shown;
+  };
+  explicit grid_of_pictures(std::uint64_t height) {
+    shown.height = height;
+    shown.bytes.assign(shown.width * height * 4, 255);
+  }
+  std::uint32_t column_count() override { return 1; }
+  std::uint64_t row_count() override { return 3; }
+  void visit_cell(std::uint32_t, std::uint64_t, grid_cell_visitor visitor) override {
+    picture_cell cell(shown);
+    call<&grid_cell_visitor_impl::visit>(visitor, handle_of<grid_bitmap_cell_impl>(cell));
+  }
+  fake_bitmap shown;
+};
+
+TEST(grid_of_pictures, has_rows_as_high_as_its_pictures_within_reason) {
+  auto row_height = [](std::uint64_t height) {
+    grid_of_pictures table(height);
+    grid_widget widget(handle_of<grid_impl>(table), nullptr);
+    EXPECT_EQ(widget.places().rect({0, 1}).height(), widget.places().row_height);
+    return widget.places().row_height - widget.fontMetrics().height();
+  };
+  EXPECT_EQ(row_height(2), 6) << "as high as a text";
+  QWidget plain;
+  EXPECT_EQ(row_height(50) + plain.fontMetrics().height(), 54);
+  EXPECT_EQ(row_height(500) + plain.fontMetrics().height(), 68);
 }
 
 }  // namespace

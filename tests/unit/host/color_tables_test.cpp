@@ -46,14 +46,12 @@ TEST(gmt_table, has_ranges_whose_colours_run_and_the_three_for_the_rest) {
   EXPECT_EQ(text_of(table.below), "#000000");
   EXPECT_EQ(text_of(table.above), "#ff0000");
   EXPECT_EQ(text_of(table.other), "#808080");
-  EXPECT_TRUE(table.is_continuous());
 }
 
-TEST(gmt_table, of_one_colour_a_range_is_discrete_and_leaves_the_rest_undrawn) {
+TEST(gmt_table, without_colours_for_the_rest_leaves_it_undrawn) {
   color_table table = gmt("0 red 10 red\n10 - 20 -\n20 blue@50 30 blue@50\nB -\n");
   EXPECT_EQ(parts_of(table),
             "0#ff0000 10#ff0000 |10#00000000 20#00000000 |20#0000ff80 30#0000ff80 |");
-  EXPECT_FALSE(table.is_continuous());
   EXPECT_EQ(text_of(table.below), "none");
   EXPECT_EQ(text_of(table.above), "none");
 }

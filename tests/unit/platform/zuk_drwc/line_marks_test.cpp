@@ -142,6 +142,16 @@ TEST(line_marks, a_complex_line_draws_its_layers_in_order) {
   EXPECT_EQ(at(drwc, 40, 46), nothing);
 }
 
+TEST(line_marks, a_dash_without_length_and_round_ends_is_a_dot) {
+  Tzu_pln_style style;
+  style.line.width = 4;
+  style.line.cap = zu_cap_round;
+  style.line.dashes = {0, 10};
+  drwc_ptr drwc = drawn({{15, 40}, {65, 40}}, style);
+  for (std::uint64_t x : {15u, 25u, 55u}) EXPECT_EQ(at(drwc, x, 40), black) << x;
+  for (std::uint64_t x : {20u, 30u, 60u}) EXPECT_EQ(at(drwc, x, 40), nothing) << x;
+}
+
 TEST(line_marks, numbers_have_their_own_colour_and_size) {
   Tzu_pln_style style;
   style.line.width = 1;

@@ -151,6 +151,7 @@ TEST(coord_layer, its_points_show_by_the_first_rule_that_holds) {
   }
   zu_stl_prm_clr_set_all(zu_scale_prm_get_stl_prm_ptr(zu_val_scale_get_other_prm_ptr(scale)),
                          {9, 0, 0, 0}, 0);
+  zu_scale_prm_set_visible(zu_val_scale_get_other_prm_ptr(scale), true);
   zu_tos_2crd_lr2d_set_point_size(b.layer.get(), 4);
   b.draw();
   EXPECT_EQ(b.at(25, 5), (rgba{1, 0, 0, 255}));

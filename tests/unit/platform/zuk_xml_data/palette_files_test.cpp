@@ -8,6 +8,7 @@
 
 #include "platform/zuk_basic/owned.h"
 #include "platform/zuk_basic/utf8.h"
+#include "platform/zuk_xml_data/user_palettes.h"
 #include "tests/unit/platform/taken_text.h"
 #include "zu/platform/zuk_xml_data.h"
 
@@ -112,6 +113,24 @@ TEST_F(palette_files, that_cannot_be_written_leave_the_old_one) {
   fs::create_directory(folder / "b.clrs");
   EXPECT_FALSE(zu_xml_data_save_clr_palettes(xml.get(), path("b.clrs").c_str(), list.get()));
   EXPECT_EQ(written(), before);
+}
+
+TEST_F(palette_files, of_the_person_are_kept_aside_if_they_cannot_be_read) {
+  zu_clr_palettes_assign(list.get(),
+                         owned<zu_clr_palettes_destroy>(zu_clr_palettes_create()).get());
+  zu::platform::read_user_palettes(path(), list.get());
+  EXPECT_EQ(zu_problems_get_count(path().c_str()), 0) << "there is none yet";
+  std::ofstream(folder / "a.clrs") << "<palettes><palette><color/></palette></palettes>";
+  zu::platform::read_user_palettes(path(), list.get());
+  EXPECT_EQ(zu_clr_palettes_get_size(list.get()), 0U);
+  EXPECT_EQ(tests::text_of([&](Tzu_string_adp* a) { zu_problems_get(path().c_str(), 0, a); }),
+            L"holds a broken colour");
+  EXPECT_FALSE(fs::exists(folder / "a.clrs"));
+  EXPECT_TRUE(fs::exists(folder / "a.clrs.broken"));
+  std::ofstream(folder / "a.clrs") << "<palettes><palette/></palettes>";
+  zu::platform::read_user_palettes(path(), list.get());
+  EXPECT_EQ(zu_clr_palettes_get_size(list.get()), 1U);
+  zu_problems_clear(path().c_str());
 }
 
 TEST(user_palettes, are_one_list) {

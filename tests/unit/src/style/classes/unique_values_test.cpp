@@ -95,6 +95,18 @@ TEST_F(rows_of_unique_values, of_a_thousand_or_more_are_asked_about) {
   EXPECT_EQ(values.size(), 999u);
 }
 
+TEST_F(rows_of_unique_values, are_not_read_where_a_person_stops_it) {
+  data::open_reference made = source("stopped.tif", 24, 12);
+  Tzu_progress_hooks hooks = {};
+  hooks.stopped = [](void*, void*) { return true; };
+  zu_progress_set_hooks(&hooks);
+  style::unique_texts values{L"kept"};
+  EXPECT_FALSE(style::read_unique_values(made, L"Band 1", values, nullptr));
+  EXPECT_FALSE(style::change_captions(scale_, made, L"Band 1", L"Band 2"));
+  zu_progress_set_hooks(nullptr);
+  EXPECT_EQ(values, style::unique_texts{L"kept"});
+}
+
 TEST_F(rows_of_unique_values, lose_white_space_at_their_ends_alone) {
   EXPECT_EQ(style::trimmed(L" \t a b\n"), L"a b");
   EXPECT_EQ(style::trimmed(L"  "), L"");

@@ -31,10 +31,6 @@ std::wstring text_of_style(const Tzu_pln_style* style) {
   return text_of(
       [&](Tzu_string_adp* a) { zu_xml_save_style_save_style_pln_str(nullptr, style, a); });
 }
-std::wstring text_of_style(const Tzu_pgn_style* style) {
-  return text_of(
-      [&](Tzu_string_adp* a) { zu_xml_save_style_save_style_pgn_str(nullptr, style, a); });
-}
 
 /// A dialog on a style, seen through its elements.
 template <class dialog, class style> struct opened {
@@ -154,9 +150,9 @@ TEST_F(style_dialogs, parts_of_a_line_are_shown_and_hidden_by_their_marks) {
   line_dialog d(line_.get());
   d.form.check(shown, false, 0);  // the line
   d.form.check(shown, true, 1);   // vertices
-  d.form.check(13605, true);
-  d.form.check(13606, true);
-  d.form.check(shown, true, 2);  // numbers
+  d.form.check(shown, true, 2);   // the beginning
+  d.form.check(shown, true, 3);   // the end
+  d.form.check(shown, true, 4);   // numbers
   d.form.type(size_label, 5, 2);
   d.form.accept();
   EXPECT_FALSE(zu_pln_style_get_pln_visible(line_.get()));

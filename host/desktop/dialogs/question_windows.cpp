@@ -50,11 +50,11 @@ bool ask_save_file(const wchar_t* filter, const wchar_t* suggested, Tzu_string_a
 }
 
 bool ask_color(Tzu_color* color, void* /*user*/) {
-  QColorDialog dialog(QColor(color->r, color->g, color->b, 255 - color->a),
-                      QApplication::activeWindow());
+  QColorDialog dialog(QApplication::activeWindow());
   dialog.setObjectName(QStringLiteral("color"));
   dialog.setWindowTitle(words("Colour", "Цвет"));
-  dialog.setOption(QColorDialog::ShowAlphaChannel);
+  dialog.setOption(QColorDialog::ShowAlphaChannel);  // before the colour, which loses it otherwise
+  dialog.setCurrentColor(QColor(color->r, color->g, color->b, 255 - color->a));
   if (dialog.exec() != QDialog::Accepted) return false;
   auto byte = [](int part) { return static_cast<std::uint8_t>(part); };
   QColor chosen = dialog.selectedColor();

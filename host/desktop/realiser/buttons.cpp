@@ -47,7 +47,7 @@ template <class element, class control> class button_control : public realised<e
     this->setToolTip(hint);
     // A picture alone is read out as its hint.
     this->setAccessibleName(caption.isEmpty() ? hint : QString());
-    this->setEnabled(call<&element::enabled>(h));
+    set_control_enabled(this, call<&element::enabled>(h));
     set_hidden(this, hidden_by::element, !call<&element::visible>(h));
   }
 
@@ -127,7 +127,7 @@ class checkbox_widget final : public realised<checkbox_impl, QCheckBox> {
   void heard(notice) override {
     setText(text_by<&checkbox_impl::caption>(element_));
     setToolTip(text_by<&checkbox_impl::hint>(element_));
-    setEnabled(call<&checkbox_impl::enabled>(element_));
+    set_control_enabled(this, call<&checkbox_impl::enabled>(element_));
     bool undecided = call<&checkbox_impl::is_undecided>(element_);
     setTristate(undecided);
     setCheckState(undecided                                    ? Qt::PartiallyChecked

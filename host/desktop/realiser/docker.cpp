@@ -82,13 +82,15 @@ QSize realised_docker::sizeHint() const {
   QSize wanted = widget()->sizeHint();
   int unit = layout_unit(this);
   if (editor_) {
-    // A panel stands beside a map: what it would like is taken in units of half the size. Wishes
-    // beyond any screen are cut below.
+    // A panel stands beside a map: what it would like is taken in units of half the size, and it is
+    // no wider than it must. Wishes beyond any screen are cut below.
+    constexpr int most_beside_a_map = 50;
     auto units = [&](std::uint32_t count) {
       return int(std::min<std::uint32_t>(count, 2000)) * unit / 2;
     };
     wanted = wanted.expandedTo(
         QSize(units(call<&panel_impl::width>(editor_)), units(call<&panel_impl::height>(editor_))));
+    wanted.setWidth(std::min(wanted.width(), most_beside_a_map * unit));
   } else if (std::int32_t size = call<&docker_impl::preferred_size>(element_); size > 0) {
     wanted.setWidth(std::max(wanted.width(), std::min(size, 1000) * unit));
   }

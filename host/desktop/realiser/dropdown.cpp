@@ -34,7 +34,7 @@ class dropdown_widget final : public realised<dropdown_impl, QComboBox> {
     if (what == notice::list || what == notice::language) fill();
     setCurrentIndex(call<&dropdown_impl::current>(element_));
     setToolTip(text_by<&dropdown_impl::hint>(element_));
-    setEnabled(call<&dropdown_impl::enabled>(element_));
+    set_control_enabled(this, call<&dropdown_impl::enabled>(element_));
   }
   void wheelEvent(QWheelEvent* event) override {
     if (hasFocus())

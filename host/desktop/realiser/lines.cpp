@@ -48,7 +48,7 @@ template <class element> class line_control : public realised<element, QLineEdit
     handle h = this->element_;
     typed_.refresh(what == notice::value);
     this->setToolTip(text_by<&element::hint>(h));
-    this->setEnabled(call<&element::enabled>(h));
+    set_control_enabled(this, call<&element::enabled>(h));
     this->setReadOnly(call<&element::read_only>(h));
     set_hidden(this, hidden_by::element, !call<&element::visible>(h));
     if (auto width = call<&element::width>(h); width != width_) {

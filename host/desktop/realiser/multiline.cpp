@@ -57,7 +57,7 @@ class multiline_input_widget final : public realised<multiline_input_impl, QPlai
   void heard(notice) override {
     show_text();
     setToolTip(text_by<&multiline_input_impl::hint>(element_));
-    setEnabled(call<&multiline_input_impl::enabled>(element_));
+    set_control_enabled(this, call<&multiline_input_impl::enabled>(element_));
     setReadOnly(call<&multiline_input_impl::read_only>(element_));
     set_monospaced(this, call<&multiline_input_impl::monospaced>(element_));
   }

@@ -36,7 +36,7 @@ class number_input final : public realised<element, QWidget, notices> {
   void heard(notice what) override {
     handle h = this->element_;
     box_->setToolTip(text_by<&element::hint>(h));
-    box_->setEnabled(call<&element::enabled>(h));
+    set_control_enabled(box_, call<&element::enabled>(h));
     box_->setReadOnly(call<&element::read_only>(h));
     box_->set_characters(call<&element::width>(h));
     box_->refresh(what == notice::value);
@@ -92,7 +92,7 @@ class slider_widget final : public realised<slider_impl, QSlider, integer_notice
     setTickInterval(ticks ? tick : 0);
     setTickPosition(ticks ? TicksBelow : NoTicks);
     setValue(call<&slider_impl::value>(element_));
-    setEnabled(call<&slider_impl::enabled>(element_));
+    set_control_enabled(this, call<&slider_impl::enabled>(element_));
   }
   void wheelEvent(QWheelEvent* event) override {
     if (hasFocus())

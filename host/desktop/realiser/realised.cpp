@@ -17,6 +17,13 @@ void set_hidden(QWidget* control, hidden_by who, bool hidden) {
     control->setHidden(any);
 }
 
+void set_control_enabled(QWidget* control, bool enabled) {
+  QWidget* focus = control->window()->focusWidget();
+  if (!enabled && focus != nullptr && (focus == control || control->isAncestorOf(focus)))
+    focus->clearFocus();
+  control->setEnabled(enabled);
+}
+
 int layout_unit(const QWidget* control) {
   return std::max(1, (control->fontMetrics().height() + 1) / 2);
 }

@@ -92,6 +92,10 @@ template <auto operation, class... given> QString text_by(handle h, given... val
 enum class hidden_by { element, place };
 void set_hidden(QWidget* control, hidden_by who, bool hidden);
 
+/// Enables a control or not. The focus of one that is disabled goes nowhere: its next one may stand
+/// in a panel behind this one, which it would bring to the front.
+void set_control_enabled(QWidget* control, bool enabled);
+
 /// Half the height of a character of a control, the unit of layouts.
 int layout_unit(const QWidget* control);
 /// Width of so many characters in a control's font.

@@ -238,7 +238,7 @@ TEST_F(layer_panels, are_as_wide_as_what_they_show) {
     }
     choose_language(language::english);
   }
-  EXPECT_GE(window_->views().width(), 600) << "the map keeps its room";
+  EXPECT_GE(window_->views().width(), 700) << "the map keeps its room";
 }
 
 }  // namespace

@@ -12,6 +12,7 @@
 #include "host/core/failure.h"
 #include "host/core/layer_look.h"
 #include "host/core/picture.h"
+#include "host/core/scale_files.h"
 #include "host/core/texts.h"
 
 namespace zu::cli {
@@ -36,7 +37,7 @@ struct texts {
   std::vector<std::string> sources;
   page_texts page;
   std::string crs, draw, field, rgb, limits, breaks, colors, other, values, simple, hillshade,
-      isolines, gradient, color_table, saved_table;
+      isolines, gradient, color_table, saved_table, scale, saved_scale;
   class_texts classes;
   bool unique = false;
   std::optional<std::int64_t> slice;
@@ -63,6 +64,10 @@ void check_scale(const host::layer_look& look) {
   if (look.table && (breaks || values || look.simple || !look.colors.empty() || look.gradient ||
                      look.classes || look.unique_values))
     throw usage_error("--color-table: makes the whole scale; besides it there is --other alone");
+  if (!look.scale_file.empty() &&
+      (breaks || values || look.simple || !look.colors.empty() || look.gradient || look.classes ||
+       look.unique_values || look.table || look.other))
+    throw usage_error("--scale: is the whole scale; it goes without options that make one");
 }
 
 /// What does not go together.
@@ -86,7 +91,7 @@ void check(const host::layer_look& look) {
     throw usage_error("--rgb: goes with --draw rgb");
   bool scale = !look.breaks.empty() || !look.colors.empty() || !look.values.empty() ||
                look.simple || look.other || look.classes || look.unique_values || look.gradient ||
-               look.table;
+               look.table || !look.scale_file.empty();
   if (scale && (channels || look.draw == draw_type::image))
     throw usage_error("--draw: a scale's options go with --draw scale");
   bool own_fields = look.draw == draw_type::rgb || look.draw == draw_type::image ||
@@ -113,6 +118,7 @@ host::layer_look look_of(const texts& given) {
   if (!given.isolines.empty()) look.isolines = isolines_of("--isolines", given.isolines);
   if (!given.gradient.empty()) look.gradient = gradient_of("--gradient", given.gradient);
   if (!given.color_table.empty()) look.table = host::read_color_table(given.color_table);
+  look.scale_file = given.scale;
   if (!given.classes.method.empty())
     look.classes = request_of(given.classes);
   else if (given.classes.any_but_method())
@@ -144,12 +150,23 @@ void warn_of_cut_values(const host::scene& scene) {
                    reason.c_str());
 }
 
+/// The first layer's that has a scale.
+void save_scale(const host::scene& scene, const std::string& file) {
+  for (const auto& each : scene.layers()) {
+    Tzu_stl_mngr* styles = each->style_manager();
+    if (styles == nullptr || zu_stl_mngr_get_mode(styles) == zu_style_simple) continue;
+    return host::save_scale(file, styles);
+  }
+  throw host::failure(file, "no layer has a scale");
+}
+
 int run(const texts& given) {
   host::layer_look look = look_of(given);
   host::page_request request = request_of(given.page);
   if (!given.crs.empty()) check_projection("--crs", given.crs);
   check_output(given.page.output, given.sources);
   host::check_not_source(given.saved_table, given.sources);
+  host::check_not_source(given.saved_scale, given.sources);
 
   bool makes_classes = look.classes || look.unique_values;
   host::bundle services(makes_classes ? std::vector<std::string>{host::classes_bundle}
@@ -161,6 +178,7 @@ int run(const texts& given) {
   host::dress(scene, look);
   if (look.unique_values) warn_of_cut_values(scene);
   if (!given.saved_table.empty()) save_color_table(scene, given.saved_table);
+  if (!given.saved_scale.empty()) save_scale(scene, given.saved_scale);
   host::drawn_picture picture = draw(scene, request);
   return write_picture(picture, given.page.output, scene.projection());
 }
@@ -213,6 +231,14 @@ command add_render(CLI::App& options) {
       .add_option("--save-color-table", given->saved_table,
                   "write the classes for GMT (.cpt), QGIS (.qgis.txt) or, with any other name, "
                   "GDAL")
+      ->type_name("FILE");
+  options
+      .add_option("--scale", given->scale,
+                  "the scale of a file: ranges (._rg), values (._vl) or a legend of ArcView (.avl)")
+      ->type_name("FILE");
+  options
+      .add_option("--save-scale", given->saved_scale,
+                  "write the scale: ranges to ._rg, values to ._vl")
       ->type_name("FILE");
   options.add_option("--simple", given->simple, "one colour for the whole grid")
       ->type_name("COLOR");

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "host/core/failure.h"
+#include "host/core/scale_files.h"
 #include "host/core/texts.h"
 #include "zu/platform/zuk_palettes.h"
 #include "zu/platform/zuk_tos_lr2d.h"
@@ -124,7 +125,22 @@ void set_table(const layer_look& look, const source& data, std::size_t field,
           *look.other, true);
 }
 
+std::string field_in_use(const Tzu_stl_mngr* manager) {
+  return narrow(
+      text_of([&](Tzu_string_adp* adapter) { zu_stl_mngr_get_prop_name_w(manager, adapter); }));
+}
+
+/// The scale of a file colours the field that is asked for, else its own if the source has that.
+void set_scale_of_file(const layer_look& look, const source& data, Tzu_stl_mngr* manager) {
+  load_scale(look.scale_file, manager);
+  if (look.field.empty() && data.find(field_in_use(manager))) return;
+  std::wstring name = wide(data.fields().at(colored_field(look, data)).name);
+  zu_stl_mngr_set_val_prop_name_w(manager, name.c_str());
+  zu_stl_mngr_set_rng_prop_name_w(manager, name.c_str());
+}
+
 void set_style(const layer_look& look, const source& data, Tzu_stl_mngr* manager) {
+  if (!look.scale_file.empty()) return set_scale_of_file(look, data, manager);
   if (look.simple) {
     zu_stl_mngr_set_mode(manager, zu_style_simple);
     Tzu_stl_prm* simple = zu_stl_mngr_get_simple_sp_ptr(manager);

@@ -43,6 +43,7 @@ struct layer_look {
   std::vector<Tzu_color> colors;                    ///< n + 2, n with hidden tails, or none
   std::optional<std::int32_t> gradient;             ///< array of the colours; none: the default one
   std::optional<color_table> table;                 ///< the whole scale
+  std::string scale_file;                           ///< of the whole scale; empty: none
   std::vector<std::pair<std::string, Tzu_color>> values;  ///< a value scale
   std::optional<Tzu_color> simple;
   std::optional<Tzu_color> other;  ///< of what no class or value holds; none: invisible
@@ -54,12 +55,12 @@ struct layer_look {
 
   bool colors_nothing_but_lines() const {
     return !draw && field.empty() && rgb.empty() && breaks.empty() && colors.empty() &&
-           values.empty() && !classes && !unique_values && !gradient && !table && !other &&
-           !hillshade && !isolines && !slice;
+           values.empty() && !classes && !unique_values && !gradient && !table &&
+           scale_file.empty() && !other && !hillshade && !isolines && !slice;
   }
   bool styles_a_scale() const {
     return !field.empty() || !breaks.empty() || !colors.empty() || !values.empty() || simple ||
-           classes || unique_values || gradient || table || other;
+           classes || unique_values || gradient || table || !scale_file.empty() || other;
   }
 };
 

@@ -146,7 +146,7 @@ std::wstring calc_filter::readable_text() const {
   for (const filter_condition& c : conditions_) {
     if (!c.enabled) continue;
     if (!out.empty()) {
-      if (c.with_those_before && ends_in_alternatives) out = L'(' + out + L')';
+      if (c.with_those_before && ends_in_alternatives) out.insert(0, L"(").append(L")");
       out += c.with_those_before ? L" and " : L" or ";
       ends_in_alternatives = !c.with_those_before;
     }
@@ -154,7 +154,10 @@ std::wstring calc_filter::readable_text() const {
     out += L' ';
     out += operator_signs[c.comparison];
     out += L' ';
-    out += c.kind == zu_calc_text ? L'"' + c.text + L'"' : c.text;
+    const wchar_t* quote = c.kind == zu_calc_text ? L"\"" : L"";
+    out += quote;
+    out += c.text;
+    out += quote;
   }
   return out;
 }

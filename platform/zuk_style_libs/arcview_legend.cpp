@@ -13,14 +13,16 @@ constexpr double point = 25.4 / 72.0;
 /// What ArcView draws as thin as the screen can.
 constexpr double hair = 0.1;
 constexpr std::uint8_t invisible = 255;
+constexpr std::size_t most_dashes = 16;  // as many as ArcView writes
 
 /// ArcView writes the code page of its system, which it does not say; editors save UTF-8.
-std::wstring wide(const std::string& text) {
+std::wstring wide(std::string_view text) {
   std::wstring utf8 = from_utf8(text);
   if (utf8.find(L'\xFFFD') == std::wstring::npos) return utf8;
   constexpr std::uint32_t cyrillic = 1251, western = 1252;
   return text_of([&](Tzu_string_adp* adapter) {
-    zu_os_multibyte_to_wide(zu_res_get_lng() == 0 ? cyrillic : western, text.c_str(), -1, adapter);
+    zu_os_multibyte_to_wide(zu_res_get_lng() == 0 ? cyrillic : western, text.data(),
+                            static_cast<std::int64_t>(text.size()), adapter);
   });
 }
 
@@ -48,15 +50,14 @@ const odb_object* basic(const odb_file& file, const odb_object* symbol) {
   for (int depth = 0; symbol != nullptr && depth < 16; ++depth) {
     const odb_object* parts = file.referred(*symbol, "Symbols");
     if (parts == nullptr) return symbol;
-    std::vector<const odb_object*> all = file.all_referred(*parts, "Child");
-    symbol = all.empty() ? nullptr : all.front();
+    symbol = file.referred(*parts, "Child");
   }
   return nullptr;
 }
 
 std::vector<double> dashes_in(const odb_object& line) {
   std::vector<double> dashes;
-  for (double length : line.numbers("Pattern")) {
+  for (double length : line.numbers("Pattern", most_dashes)) {
     if (!(length > 0.0)) break;
     dashes.push_back(std::min(length, 1000.0) * point);
   }
@@ -93,22 +94,30 @@ legend_class class_in(const odb_object& object) {
   found.caption = wide(object.text("Label").value_or(""));
   found.minimum = object.number("MinNum");
   found.maximum = object.number("MaxNum");
-  if (std::optional<std::string> text = object.text("MinStr")) found.text = wide(*text);
+  if (std::optional<std::string_view> text = object.text("MinStr")) found.text = wide(*text);
   return found;
 }
 
 bool is_no_data(const odb_object& object) { return object.number("IsNoData").value_or(0.0) != 0.0; }
 
+bool is_limited(const legend_class& c) { return c.minimum || c.maximum || c.text; }
+
+/// A class without limits among others that have some is that of all other values.
+void take_others_out(arcview_legend& legend) {
+  auto& all = legend.classes;
+  auto first = std::stable_partition(all.begin(), all.end(), is_limited);
+  if (first != all.end()) legend.other = std::move(*first);
+  all.erase(first, all.end());
+}
+
 arcview_legend::forms form_of(const odb_object& legend, const std::vector<legend_class>& classes) {
   constexpr double graduated = 0x02, unique = 0x08;
   using forms = arcview_legend::forms;
-  auto limited = [](const legend_class& c) { return c.minimum || c.maximum || c.text; };
-  if (std::none_of(classes.begin(), classes.end(), limited)) return forms::single;
+  if (std::none_of(classes.begin(), classes.end(), is_limited)) return forms::single;
   std::optional<double> type = legend.number("LegType");
   if (type == unique) return forms::values;
-  bool values = std::all_of(classes.begin(), classes.end(), [](const legend_class& c) {
-    return c.text || (c.minimum && c.minimum == c.maximum);
-  });
+  bool values = std::all_of(classes.begin(), classes.end(),
+                            [](const legend_class& c) { return c.text || c.minimum == c.maximum; });
   return values && type != graduated ? forms::values : forms::ranges;
 }
 
@@ -139,7 +148,7 @@ arcview_legend legend_in(const odb_file& file) {
       legend.classes.push_back(std::move(one));
     } else {
       if (!one.symbol) one.symbol = symbol_in(file, file.referred(*object, "NullSymbol"));
-      legend.no_data = std::move(one);
+      legend.other = std::move(one);
     }
   }
   if (classes.empty() && !symbols.empty()) {
@@ -150,6 +159,7 @@ arcview_legend legend_in(const odb_file& file) {
                    [](const legend_class& c) { return c.symbol.has_value(); }))
     throw std::runtime_error("holds a legend without symbols");
   legend.form = form_of(*object, legend.classes);
+  if (legend.form != arcview_legend::forms::single) take_others_out(legend);
   if (const odb_object* names = file.referred(*object, "FieldNames"))
     legend.field = wide(names->text("S").value_or(""));
   return legend;

@@ -35,7 +35,8 @@ struct arcview_legend {
   forms form = forms::single;
   std::wstring field;  ///< empty if the legend names none
   std::vector<legend_class> classes;
-  std::optional<legend_class> no_data;
+  /// Of what no class holds: the class of all other values or, without it, that of no data.
+  std::optional<legend_class> other;
 };
 
 /// Reads a legend. Composite symbols count as their first part, fills of patterns as their

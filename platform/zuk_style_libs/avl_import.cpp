@@ -4,9 +4,9 @@
 #include <cmath>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <memory>
 #include <new>
-#include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -135,13 +135,13 @@ void style_row(const Tzu_stl_mngr* manager, Tzu_scale_prm* row, const legend_cla
   if (one.symbol) style(manager, zu_scale_prm_get_stl_prm_ptr(row), *one.symbol);
 }
 
-/// What no class holds: as the class of no data looks, and hidden if there is none.
+/// What no class holds is hidden if the legend does not say how it looks.
 void style_other(const Tzu_stl_mngr* manager, Tzu_scale_prm* row, const arcview_legend& legend) {
   constexpr std::uint8_t invisible = 255;
   zu_scale_prm_set_visible(row, false);
-  if (!legend.no_data || !legend.no_data->symbol) return;
-  style_row(manager, row, *legend.no_data);
-  zu_scale_prm_set_visible(row, legend.no_data->symbol->color.a != invisible);
+  if (!legend.other || !legend.other->symbol) return;
+  style_row(manager, row, *legend.other);
+  zu_scale_prm_set_visible(row, legend.other->symbol->color.a != invisible);
 }
 
 // --- Scales
@@ -165,28 +165,29 @@ void fill_values(Tzu_stl_mngr* manager, const arcview_legend& legend) {
     style_row(manager, zu_val_scale_get_scale_prm_ptr(scale, i), one);
   }
   style_other(manager, zu_val_scale_get_other_prm_ptr(scale), legend);
-  if (legend.no_data) zu_val_scale_set_other_caption_w(scale, legend.no_data->caption.c_str());
+  if (legend.other) zu_val_scale_set_other_caption_w(scale, legend.other->caption.c_str());
 }
 
-/// The largest upper end of a class that is not above `minimum`; nothing if there is none.
-std::optional<double> end_before(const arcview_legend& legend, const legend_class& one) {
-  std::optional<double> end;
+/// Upper ends of all classes, rising.
+std::vector<double> upper_ends(const arcview_legend& legend) {
+  std::vector<double> ends;
   for (const legend_class& each : legend.classes)
-    if (&each != &one && each.maximum && *each.maximum <= *one.minimum)
-      end = std::max(end.value_or(*each.maximum), *each.maximum);
-  return end;
+    if (each.maximum) ends.push_back(*each.maximum);
+  std::sort(ends.begin(), ends.end());
+  return ends;
 }
 
 /// A class of ArcView holds both its ends, ours the upper one alone: it begins where the class
 /// before ends if what lies between is but a step of rounding (1 between whole numbers, a
 /// thousandth of all classes else), and just below its own lower end if not.
-double lower_end(const arcview_legend& legend, const legend_class& one, double range) {
+double lower_end(const std::vector<double>& ends, const legend_class& one, double range) {
   if (!one.minimum) return -HUGE_VAL;
   double low = *one.minimum;
-  std::optional<double> before = end_before(legend, one);
-  if (before && one.minimum != one.maximum) {
-    bool whole = std::floor(low) == low && std::floor(*before) == *before;
-    if (low - *before <= range * 1e-3 || (whole && low - *before <= 1.0)) return *before;
+  auto above = std::upper_bound(ends.begin(), ends.end(), low);
+  if (above != ends.begin() && one.minimum != one.maximum) {
+    double before = *std::prev(above);
+    bool whole = std::floor(low) == low && std::floor(before) == before;
+    if (low - before <= range * 1e-3 || (whole && low - before <= 1.0)) return before;
   }
   // Next to 0 there are numbers too small to be read.
   return low != 0.0 ? std::nextafter(low, -HUGE_VAL) : range * -1e-12;
@@ -204,9 +205,10 @@ void fill_ranges(Tzu_stl_mngr* manager, const arcview_legend& legend) {
     high = std::max(high, one.maximum.value_or(high));
   }
   double range = high > low ? high - low : 1.0;
+  std::vector<double> ends = upper_ends(legend);
   for (std::uint64_t i = 0; i < legend.classes.size(); ++i) {
     const legend_class& one = legend.classes[i];
-    zu_rng_scale_set_min(scale, i, lower_end(legend, one, range));
+    zu_rng_scale_set_min(scale, i, lower_end(ends, one, range));
     zu_rng_scale_set_max(scale, i, one.maximum.value_or(HUGE_VAL));
     zu_rng_scale_set_caption_w(scale, i, one.caption.c_str());
     style_row(manager, zu_rng_scale_get_scale_prm_ptr(scale, i), one);
@@ -217,7 +219,7 @@ void fill_ranges(Tzu_stl_mngr* manager, const arcview_legend& legend) {
   zu_scale_prm_set_visible(zu_rng_scale_get_min_prm_ptr(scale), false);
   zu_scale_prm_set_visible(zu_rng_scale_get_max_prm_ptr(scale), false);
   style_other(manager, zu_rng_scale_get_other_prm_ptr(scale), legend);
-  if (legend.no_data) zu_rng_scale_set_other_caption_w(scale, legend.no_data->caption.c_str());
+  if (legend.other) zu_rng_scale_set_other_caption_w(scale, legend.other->caption.c_str());
 }
 
 void fill(Tzu_stl_mngr* manager, const arcview_legend& legend) {

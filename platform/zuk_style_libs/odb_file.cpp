@@ -1,5 +1,6 @@
 #include "platform/zuk_style_libs/odb_file.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <stdexcept>
@@ -102,50 +103,50 @@ class reader {
   std::string_view rest_;
 };
 
-/// Name and value of a field; a line without a name goes on with the value before.
-void read_field(reader& from, odb_object& object) {
-  if (from.at('"')) {
-    std::string more = from.quoted();
-    if (!object.fields.empty()) object.fields.back().second += more;
-    return;
-  }
+/// Name and value of a field into the object; gives the value. A line without a name goes on with
+/// `last`, which may be null.
+std::string* read_field(reader& from, odb_object& object, std::string* last) {
   std::string_view line = from.rest_of_line();
   std::size_t colon = line.find(':');
-  if (colon == std::string_view::npos) {
-    std::string_view more = trimmed(from.line());
-    if (!object.fields.empty()) object.fields.back().second += more;
-    return;
+  if (from.at('"') || colon == std::string_view::npos) {
+    std::string more = from.at('"') ? from.quoted() : std::string(trimmed(from.line()));
+    if (last != nullptr) *last += more;
+    return last;
   }
-  std::string name(trimmed(line.substr(0, colon)));
+  std::vector<std::string>& values = object.fields[std::string(trimmed(line.substr(0, colon)))];
   from.skip(colon + 1);
   std::string_view value = trimmed(from.rest_of_line());
   if (value.substr(0, 1) == "\"") {
     from.skip_blanks();
-    object.fields.emplace_back(std::move(name), from.quoted());
+    values.push_back(from.quoted());
   } else {
     from.line();
-    object.fields.emplace_back(std::move(name), value);
+    values.emplace_back(value);
   }
+  return &values.back();
 }
 
 }  // namespace
 
-std::optional<std::string> odb_object::text(std::string_view name) const {
-  for (const auto& [key, value] : fields)
-    if (key == name) return value;
-  return {};
+std::optional<std::string_view> odb_object::text(std::string_view name) const {
+  auto found = fields.find(name);
+  if (found == fields.end()) return {};
+  return found->second.front();
 }
 
 std::optional<double> odb_object::number(std::string_view name) const {
-  std::optional<std::string> found = text(name);
-  return found ? number_in(*found) : std::nullopt;
+  auto found = fields.find(name);
+  return found != fields.end() ? number_in(found->second.front()) : std::nullopt;
 }
 
-std::vector<double> odb_object::numbers(std::string_view name) const {
+std::vector<double> odb_object::numbers(std::string_view name, std::size_t most) const {
   std::vector<double> all;
-  for (const auto& [key, value] : fields)
-    if (std::optional<double> number = key == name ? number_in(value) : std::nullopt)
-      all.push_back(*number);
+  auto found = fields.find(name);
+  if (found == fields.end()) return all;
+  for (const std::string& value : found->second) {
+    if (all.size() >= most) break;
+    if (std::optional<double> number = number_in(value)) all.push_back(*number);
+  }
   return all;
 }
 
@@ -168,10 +169,9 @@ odb_file::odb_file(std::string_view text) {
     if (objects_.size() >= most_objects) throw refused("has more than a million objects");
     odb_object object;
     object.kind = trimmed(head.substr(1, dot - 1));
-    while (true) {
+    for (std::string* last = nullptr;; last = read_field(from, object, last)) {
       if (!from.skip_blanks()) throw refused("ends inside an object");
       if (from.at(')')) break;
-      read_field(from, object);
     }
     from.skip(1);
     objects_.emplace(static_cast<std::int64_t>(*id), std::move(object));

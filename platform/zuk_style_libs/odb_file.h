@@ -11,25 +11,25 @@
 // not of it: long lines are broken), quotes as "" or \", and escapes as in C.
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace zu::platform {
 
 struct odb_object {
   std::string kind;
-  std::vector<std::pair<std::string, std::string>> fields;
+  std::map<std::string, std::vector<std::string>, std::less<>> fields;
 
-  /// The first field of a name; nothing if there is none.
-  std::optional<std::string> text(std::string_view name) const;
+  /// The first field of a name, which lives as long as the object; nothing if there is none.
+  std::optional<std::string_view> text(std::string_view name) const;
   /// The same as a number, decimal or "0x…"; nothing if it is none.
   std::optional<double> number(std::string_view name) const;
-  /// All fields of a name that are numbers.
-  std::vector<double> numbers(std::string_view name) const;
+  /// Fields of a name that are numbers, at most so many.
+  std::vector<double> numbers(std::string_view name, std::size_t most = SIZE_MAX) const;
 };
 
 class odb_file {

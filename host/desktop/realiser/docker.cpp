@@ -82,9 +82,10 @@ QSize realised_docker::sizeHint() const {
   QSize wanted = widget()->sizeHint();
   int unit = layout_unit(this);
   if (editor_) {
-    // Wishes beyond any screen are cut below.
+    // A panel stands beside a map: what it would like is taken in units of half the size. Wishes
+    // beyond any screen are cut below.
     auto units = [&](std::uint32_t count) {
-      return int(std::min<std::uint32_t>(count, 1000)) * unit;
+      return int(std::min<std::uint32_t>(count, 2000)) * unit / 2;
     };
     wanted = wanted.expandedTo(
         QSize(units(call<&panel_impl::width>(editor_)), units(call<&panel_impl::height>(editor_))));

@@ -21,6 +21,7 @@ flat_view::flat_view(QWidget* parent)
   header_->setSectionsClickable(true);
   header_->setHighlightSections(false);
   header_->setStretchLastSection(true);
+  header_->setTextElideMode(Qt::ElideRight);
   header_->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   setHorizontalScrollMode(ScrollPerPixel);
   setSelectionBehavior(SelectRows);

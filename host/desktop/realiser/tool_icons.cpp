@@ -69,7 +69,7 @@ constexpr row rows[] = {
     {"zu_common_style_tool_dyn_palettes", "user-identity"},
     {"zu_common_style_tool_color_graident", "color-gradient"},
     {"zu_common_style_tool_size_graident", "transform-scale"},
-    {"zu_common_style_tool_opacity_graident", "object-opacity"},
+    {"zu_common_style_tool_opacity_graident", "edit-opacity"},
     {"zu_common_style_tool_maplegs", "description"},
     {"zu_common_style_tool_style_libs", "folder-library"},
     {"zu_common_style_tool_style_lib_", "bookmarks"},

@@ -114,8 +114,8 @@ ZU_API void gp_avl_to_stlmgr_params_set_stl_mngr(Tgp_avl_to_stlmgr_params* param
                                                  Tzu_stl_mngr* manager);
 /// 0 on success: the mode, and the field (if the legend names one) and the scale of that mode or
 /// the simple style are those of the legend; what else the manager has stays. Classes of ranges get
-/// their lower ends so that they hold what ArcView's did, tails are hidden, "other" looks as "no
-/// data" did. Markers become circles of their size, widths and dashes are kept in millimetres, the
-/// first part stands for a composite symbol, and the background for a pattern. Else the manager is
-/// as it was, and the environment's sink has the reason.
+/// their lower ends so that they hold what ArcView's did, tails are hidden, "other" looks as "all
+/// other values" or "no data" did. Markers become circles of their size, widths and dashes are kept
+/// in millimetres, the first part stands for a composite symbol, and the background for a pattern.
+/// Else the manager is as it was, and the environment's sink has the reason.
 ZU_API int32_t gp_avl_to_stlmngr_execute(Tgp_avl_to_stlmgr_params* params);

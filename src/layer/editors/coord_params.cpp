@@ -28,15 +28,15 @@ void coord_params::set_layer(Izu_layer* layer) {
 void coord_params::show_fields() {
   data::open_reference source = source_of(layer_);
   owned<zu_tos4_file_close> file(zu_tos4_file_open_w(source.name.c_str(), 1));
-  auto caption = [&](std::int32_t axis) {
+  auto name = [&](std::int32_t axis) {
     std::int32_t field = zu_tos4_get_coord_prop(file.get(), axis);
-    if (file == nullptr || field < 0) return std::wstring();
+    if (field < 0) return std::wstring();
     return text_of([&](Tzu_string_adp* a) {
-      zu_tos4_get_prop_caption_w(file.get(), static_cast<std::uint32_t>(field), a);
+      zu_tos4_get_prop_name_w(file.get(), static_cast<std::uint32_t>(field), a);
     });
   };
-  x_.assign(caption(0));
-  y_.assign(caption(1));
+  x_.assign(name(0));
+  y_.assign(name(1));
 }
 
 }  // namespace zu::element

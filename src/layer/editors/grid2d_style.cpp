@@ -30,7 +30,9 @@ grid2d_style::grid2d_style() {
   take_each_move(opacity_);
   pages_.skip().place(styles_).place(gray_).place(rgb_);
   constexpr std::uint32_t width_of_choice = 21;
-  root_.place(draw_type_).place(transparent_color_).place(pages_, 2).place(opacity_);
+  transparent_line_.place(transparent_color_).set_column_stretch(1);
+  root_.place(draw_type_).place(transparent_label_).place(transparent_line_);
+  root_.place(pages_, 2).place(opacity_);
   root_.set_column_size(1, width_of_choice).set_column_stretch(1);
   fill_draw_types();
   show_page(grid_draw_image);

@@ -30,7 +30,9 @@ class grid2d_style : public toolkit::with_element {
 
   grid_layer2d* layer_ = nullptr;
   toolkit::labeled_element<toolkit::dropdownex<grid_draw_type>> draw_type_{21};
-  toolkit::labeled_element<style::color_style_input> transparent_color_{31};
+  toolkit::label transparent_label_{31};
+  style::color_style_input transparent_color_;
+  toolkit::grid_layout<2, 1> transparent_line_;
   style::gray_channel_manager<style::color_channel_model> gray_;
   style::rgb_channel_manager<style::color_channel_model> rgb_;
   style::style_manager<style::color_style_traits> styles_;

@@ -23,6 +23,8 @@ hillshade_manager::hillshade_manager() {
   azimuth_.on_change = [this](double degrees) {
     zu_hillshade_style_set_sun_aspect_degree(style_, degrees);
   };
+  altitude_.slider().set_steps(1, 3, 3);
+  azimuth_.slider().set_steps(1, 45, 15);
   element::take_each_move(altitude_);
   element::take_each_move(azimuth_);
   blend_.assign(50);

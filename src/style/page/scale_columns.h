@@ -142,8 +142,11 @@ template <class model>
 class scale_outline_style_column : public scale_column<model, bitmap_outline_column_impl>,
                                    public sized_pictures_impl {
  public:
-  scale_outline_style_column(model& m, const wchar_t* id, std::int32_t caption, std::int32_t kind)
-      : scale_column<model, bitmap_outline_column_impl>(m, id, caption, 6), kind_(kind) {}
+  scale_outline_style_column(model& m, const wchar_t* id, std::int32_t caption, std::int32_t hint,
+                             std::int32_t kind)
+      : scale_column<model, bitmap_outline_column_impl>(m, id, caption, 5),
+        hint_(hint),
+        kind_(kind) {}
 
   int query_interface(const char* name, const void** table, void** instance) override {
     const int difference = bitmap_outline_column_impl::query_interface(name, table, instance);
@@ -151,6 +154,7 @@ class scale_outline_style_column : public scale_column<model, bitmap_outline_col
   }
   handle polymorphic_handle() override { return bitmap_outline_column_impl::polymorphic_handle(); }
 
+  void hint(string_visitor visitor) override { toolkit::visit_text(hint_, visitor); }
   void item_hint(outline_item, string_visitor visitor) override {
     toolkit::visit_text(14556, visitor);
   }
@@ -171,7 +175,7 @@ class scale_outline_style_column : public scale_column<model, bitmap_outline_col
   }
 
  private:
-  std::int32_t kind_;
+  std::int32_t hint_, kind_;
 };
 
 }  // namespace zu::style::detail

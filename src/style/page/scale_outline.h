@@ -62,8 +62,8 @@ template <class model> class scale_outline : public toolkit::outline_table {
         keys_(m),
         caption_(m, ids[0], 10324, key_columns<model>::caption_width),
         visible_(m, ids[1], 10325, 4),
-        primary_(m, ids[2], 14519, primary),
-        selection_(m, ids[3], 14520, selection) {
+        primary_(m, ids[2], 14519, 14519, primary),
+        selection_(m, ids[3], 14558, 14520, selection) {
     keys_.add_to(*this);
     add_column(caption_).add_column(visible_).add_column(primary_).add_column(selection_);
     connection_ = m.changed.connect([this] { redraw(); });

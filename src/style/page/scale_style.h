@@ -65,13 +65,13 @@ scale_style<model>::scale_style(std::wstring context)
     if (on_interpolate) on_interpolate(on);
   };
   outline_.set_context_menu(&menu_);
-  field_line_.place(field_).set_column_stretch(1).set_spacing(3);
+  field_line_.place(field_).set_column_stretch(1);
   if constexpr (has_field)
     root_.place(field_line_);
   else
     root_.skip();
   root_.place(tools_).place(outline_).place(unclassified_).place(interpolate_);
-  root_.set_row_stretch(2).set_spacing(3);
+  root_.set_row_stretch(2);
   // A file that was loaded brings its own field and "other".
   connection_ = model_.changed.connect([this] {
     field_.show_current();

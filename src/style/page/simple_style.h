@@ -16,8 +16,8 @@ template <class style_traits> class simple_style : public toolkit::with_element 
     import_.on_click = [this] {
       if (import_avl(mngr_) && on_import) on_import();
     };
-    links_.place(primary_).place(selection_).set_spacing(3);
-    root_.place(links_).place(import_).set_spacing(3).set_row_stretch(2);
+    links_.place(primary_).place(selection_);
+    root_.place(links_).place(import_).set_row_stretch(2);
     reload();
   }
   /// Not owned; null is none.

@@ -11,9 +11,9 @@ style_manager<style_traits>::style_manager(const std::wstring& context)
   connect(values_);
   connect(ranges_);
   connect(rules_);
-  mode_line_.place(mode_).set_column_stretch(1).set_spacing(3);
+  mode_line_.place(mode_).set_column_stretch(1);
   pages_.place(simple_).place(values_).place(ranges_).place(rules_);
-  root_.place(mode_line_).place(pages_).set_row_stretch(1).set_spacing(3);
+  root_.place(mode_line_).place(pages_).set_row_stretch(1);
 }
 
 template <class style_traits>

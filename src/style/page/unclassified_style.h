@@ -26,7 +26,7 @@ template <class model> class unclassified_style : public toolkit::with_element {
     };
     primary_.on_edited = selection_.on_edited = [this] { tell(); };
     root_.place(visible_).place(caption_).place(primary_).place(selection_);
-    root_.set_column_stretch(1).set_spacing(3);
+    root_.set_column_stretch(1);
     reload();
   }
   /// Shows what the model says now.

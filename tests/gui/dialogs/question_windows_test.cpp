@@ -35,11 +35,15 @@ class questions : public dialog_test {
     when_modal([=](QWidget& window) {
       auto& dialog = dynamic_cast<QFileDialog&>(window);
       if (look) look(dialog);
-      auto* name = find<QLineEdit>(dialog, "fileNameEdit");
-      name->selectAll();
-      QTest::keyClicks(name, typed);
-      QTest::keyClick(name, Qt::Key_Return);
+      enter(dialog, typed);
     });
+  }
+
+  static void enter(QFileDialog& dialog, const QString& name) {
+    find<QLineEdit>(dialog, "fileNameEdit")->setText(name);
+    auto role = dialog.acceptMode() == QFileDialog::AcceptSave ? QDialogButtonBox::Save
+                                                               : QDialogButtonBox::Open;
+    find<QDialogButtonBox>(dialog, "buttonBox")->button(role)->click();
   }
 
   question_windows windows_;
@@ -117,10 +121,7 @@ TEST_F(questions, an_older_file_is_given_up_only_after_one_question) {
         ++questions;
         dynamic_cast<QMessageBox&>(inner).button(said)->click();
       });
-      auto* name = find<QLineEdit>(dialog, "fileNameEdit");
-      name->selectAll();
-      QTest::keyClicks(name, path("old"));
-      QTest::keyClick(name, Qt::Key_Return);
+      enter(dialog, path("old"));
       if (dialog.isVisible()) dialog.reject();
     });
     EXPECT_EQ(ask_save(L"Scales|*.scl", nullptr),

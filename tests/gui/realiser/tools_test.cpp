@@ -9,6 +9,7 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include "host/desktop/appearance.h"
 #include "host/desktop/realiser/tool_actions.h"
 #include "host/desktop/realiser/tool_icons.h"
 #include "tests/gui/realiser/fakes.h"
@@ -247,6 +248,7 @@ TEST(tool_icons, every_id_is_known_once_and_others_have_none) {
 }
 
 TEST(tool_icons, an_id_may_have_more_behind_the_one_that_is_known) {
+  choose_appearance(appearance::light);
   auto name = [](const char* id) { return tool_icon(QString::fromLatin1(id)).name(); };
   EXPECT_EQ(name("zu_common_style_tool_value_sort_strings_on_a_page"), QStringLiteral("view-sort"));
   EXPECT_EQ(name("zu_common_style_tool_value_sort_strings_dsc_on_a_page"),

@@ -162,6 +162,21 @@ TEST_F(avl_import, graduated_colours_become_ranges_that_hold_what_they_held) {
             L"50 - 60");
 }
 
+// Each class is held against the others; a legend of very many must not take longer by their
+// square.
+TEST_F(avl_import, a_hundred_thousand_classes_are_read) {
+  std::vector<int> classes, symbols;
+  int symbol = made.fill(1, 2, 3);
+  for (int i = 0; i < 100000; ++i) {
+    std::string low = std::to_string(i), high = std::to_string(i + 1);
+    classes.push_back(made.one_class(low, {"MinNum:\t" + low, "MaxNum:\t" + high}));
+    symbols.push_back(symbol);
+  }
+  ASSERT_EQ(import(made.text("0x02", classes, symbols), manager.get()), 0);
+  ASSERT_EQ(zu_rng_scale_get_size(ranges()), 100000u);
+  EXPECT_EQ(zu_rng_scale_get_min(ranges(), 99999), 99999.0);
+}
+
 TEST_F(avl_import, a_class_without_a_limit_is_open_there) {
   std::vector<int> classes{made.one_class("low", {"MaxNum:\t5"}),
                            made.one_class("high", {"MinNum:\t5"})};
@@ -198,6 +213,23 @@ TEST_F(avl_import, the_class_of_no_data_is_other) {
     EXPECT_EQ(zu_val_scale_get_other_prm_ptr(values())->style.colors[0].r, 90);
     EXPECT_EQ(text_of([&](Tzu_string_adp* a) { zu_val_scale_get_other_caption_w(values(), a); }),
               L"No Data");
+  }
+}
+
+TEST_F(avl_import, the_class_of_all_other_values_is_other_before_that_of_no_data) {
+  std::vector<int> classes{made.one_class("All other values", {}),
+                           made.one_class("a", {"MinNum:\t1", "MaxNum:\t1"}),
+                           made.one_class("No Data", {"IsNoData:\t1"})};
+  std::vector<int> symbols{made.fill(5, 0, 0), made.fill(1, 0, 0), made.fill(9, 0, 0)};
+  for (const char* type : {"0x08", "0x00"}) {
+    legend_text copy = made;
+    ASSERT_EQ(import(copy.text(type, classes, symbols), manager.get()), 0);
+    EXPECT_EQ(zu_stl_mngr_get_mode(manager.get()), zu_style_value);
+    ASSERT_EQ(zu_val_scale_get_size(values()), 1u);
+    EXPECT_EQ(value_caption(0), L"a");
+    EXPECT_EQ(zu_val_scale_get_scale_prm_ptr(values(), 0)->style.colors[0].r, 1);
+    EXPECT_EQ(zu_val_scale_get_other_prm_ptr(values())->style.colors[0].r, 5);
+    EXPECT_TRUE(zu_val_scale_get_other_prm_ptr(values())->visible);
   }
 }
 
@@ -251,6 +283,8 @@ TEST_F(avl_import, fills_keep_their_contour_and_transparent_is_not_drawn) {
 }
 
 TEST_F(avl_import, texts_of_a_code_page_are_read_in_that_of_the_language) {
+  std::int32_t language = zu_res_get_lng();
+  zu_res_set_lng(0);
   std::string water = "\xC2\xEE\xE4\xE0";  // "Вода" in Windows-1251
   std::vector<int> classes{made.one_class(water, {"MinNum:\t1", "MaxNum:\t1"}),
                            made.one_class("\xD0\x92", {"MinNum:\t2", "MaxNum:\t2"})};
@@ -260,7 +294,7 @@ TEST_F(avl_import, texts_of_a_code_page_are_read_in_that_of_the_language) {
   EXPECT_EQ(value_caption(1), L"\u0412");
   zu_res_set_lng(50000);
   ASSERT_EQ(import(text, manager.get()), 0);
-  zu_res_set_lng(0);
+  zu_res_set_lng(language);
   EXPECT_EQ(value_caption(0), L"\u00C2\u00EE\u00E4\u00E0");
 }
 

@@ -3,6 +3,9 @@
 #include <chrono>
 #include <cstdlib>
 #include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
 
 #include "platform/zuk_basic/owned.h"
 #include "platform/zuk_style_libs/style_library.h"
@@ -16,13 +19,32 @@ namespace {
 namespace fs = std::filesystem;
 using namespace tests;
 
+/// Another folder of a person's data, for as long as it lives.
+class data_home {
+ public:
+  explicit data_home(const fs::path& folder) {
+    const char* set = std::getenv("XDG_DATA_HOME");
+    if (set != nullptr) former_ = set;
+    setenv("XDG_DATA_HOME", folder.c_str(), 1);
+  }
+  ~data_home() {
+    former_ ? setenv("XDG_DATA_HOME", former_->c_str(), 1) : unsetenv("XDG_DATA_HOME");
+  }
+
+ private:
+  std::optional<std::string> former_;
+};
+
 /// A style folder of the test's own, taken back at its end.
 struct global_libraries : testing::Test {
-  global_libraries() { zu_options_set_style_libs_path(folder.at("styles").c_str()); }
+  global_libraries() {
+    zu_options_set_style_libs_path(folder.at("styles").c_str());
+    zu_res_set_lng(0);
+  }
   ~global_libraries() override {
     zu_options_set_style_libs_path(nullptr);
     zu_options_set_main_module_path(nullptr);
-    zu_res_set_lng(0);
+    zu_res_set_lng(language_);
   }
   void write(const std::string& name, const std::string& caption) {
     folder.write(name, "<style_library caption='" + caption + "'/>");
@@ -40,6 +62,7 @@ struct global_libraries : testing::Test {
   own_folder folder{"global_libraries"};
 
  private:
+  std::int32_t language_ = zu_res_get_lng();
   int written_ = 0;
 };
 using captions = std::vector<std::wstring>;
@@ -112,19 +135,18 @@ TEST_F(global_libraries, those_of_the_program_follow_in_its_language_unless_a_fo
   zu_options_set_main_module_path(folder.at("bin/zugrid").c_str());
   EXPECT_EQ(zu_global_lib_styles_get_libs(), nullptr);
 
-  ASSERT_EQ(setenv("XDG_DATA_HOME", (folder.path() / "home").c_str(), 1), 0);
+  data_home home(folder.path() / "home");
   zu_options_set_style_libs_path(nullptr);
   EXPECT_EQ(names(), captions{L"\u041f\u043e\u0447\u0432\u044b"});
   zu_res_set_lng(50000);
   EXPECT_EQ(names(), (captions{L"Rocks", L"Soils"}));
   write("home/zugrid/styles/soil._ls", "My soils");
   EXPECT_EQ(names(), (captions{L"My soils", L"Rocks"}));
-  unsetenv("XDG_DATA_HOME");
 }
 
 // Beside the test program as beside the others.
 TEST_F(global_libraries, those_that_come_with_the_program_name_and_style_the_same_codes) {
-  ASSERT_EQ(setenv("XDG_DATA_HOME", folder.path().c_str(), 1), 0);
+  data_home home(folder.path());
   zu_options_set_style_libs_path(nullptr);
   std::vector<std::vector<std::int32_t>> codes[2];
   for (int language : {0, 1}) {
@@ -146,7 +168,6 @@ TEST_F(global_libraries, those_that_come_with_the_program_name_and_style_the_sam
     }
   }
   EXPECT_EQ(codes[0], codes[1]);
-  unsetenv("XDG_DATA_HOME");
 }
 
 }  // namespace

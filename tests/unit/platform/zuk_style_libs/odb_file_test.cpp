@@ -19,7 +19,8 @@ std::string refusal(std::string_view text) {
 }
 /// The value of the field "A" of the only object.
 std::string value(const std::string& field) {
-  return odb_file("/3.2\n(AVStr.1\n" + field + "\n)\n").find(1)->text("A").value_or("absent");
+  odb_file file("/3.2\n(AVStr.1\n" + field + "\n)\n");
+  return std::string(file.find(1)->text("A").value_or("absent"));
 }
 
 TEST(odb_file, objects_are_found_by_number_and_kind) {
@@ -50,6 +51,13 @@ TEST(odb_file, values_are_texts_in_quotes_or_the_rest_of_a_line) {
                      {"\tA:\t", ""},
                      {"\tB:\t1", "absent"}};
   for (const auto& c : cases) EXPECT_EQ(value(c.field), c.value) << c.field;
+}
+
+TEST(odb_file, a_field_may_stand_several_times_and_the_first_is_the_one) {
+  odb_file file("/3\n(X.1\n A: 1\n B: 2\n A: 3\n A: 4\n)\n");
+  EXPECT_EQ(file.find(1)->text("A"), "1");
+  EXPECT_EQ(file.find(1)->numbers("A"), (std::vector<double>{1, 3, 4}));
+  EXPECT_EQ(file.find(1)->numbers("A", 2), (std::vector<double>{1, 3}));
 }
 
 TEST(odb_file, numbers_are_decimal_or_hexadecimal) {

@@ -22,6 +22,8 @@ class panel_elements {
     for (handle element : all_)
       if (auto label = cast<label_impl>(element))
         found.push_back(text([&](string_visitor v) { call<&label_impl::text>(label, v); }));
+      else if (auto link = cast<button_impl>(element))
+        found.push_back(text([&](string_visitor v) { call<&button_impl::caption>(link, v); }));
       else if (auto box = cast<checkbox_impl>(element))
         found.push_back(text([&](string_visitor v) { call<&checkbox_impl::caption>(box, v); }));
     return found;

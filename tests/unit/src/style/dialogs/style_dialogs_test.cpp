@@ -31,10 +31,6 @@ std::wstring text_of_style(const Tzu_pln_style* style) {
   return text_of(
       [&](Tzu_string_adp* a) { zu_xml_save_style_save_style_pln_str(nullptr, style, a); });
 }
-std::wstring text_of_style(const Tzu_pgn_style* style) {
-  return text_of(
-      [&](Tzu_string_adp* a) { zu_xml_save_style_save_style_pgn_str(nullptr, style, a); });
-}
 
 /// A dialog on a style, seen through its elements.
 template <class dialog, class style> struct opened {

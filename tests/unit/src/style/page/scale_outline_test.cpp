@@ -100,8 +100,8 @@ TEST_F(value_table, has_its_columns_in_order) {
   base_language base;
   EXPECT_EQ(ids(),
             with_kind(L"value", {L"value", L"caption", L"visible", L"prim_style", L"sel_style"}));
-  EXPECT_EQ(headers(), (std::vector<std::wstring>{L"Значение", L"Название", L"Видимость", L"Стиль",
-                                                  L"Выделение"}));
+  EXPECT_EQ(headers(),
+            (std::vector<std::wstring>{L"Значение", L"Название", L"Видимость", L"Стиль", L"Выд."}));
 }
 TEST_F(range_table, has_its_columns_in_order) {
   base_language base;

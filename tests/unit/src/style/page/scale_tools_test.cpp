@@ -1,11 +1,12 @@
+#include "src/style/page/scale_toolbar.h"
+
 #include <filesystem>
 
-#include "platform/zuk_basic/utf8.h"
-#include "src/style/page/scale_toolbar.h"
 #include "tests/unit/src/style/made_scale.h"
 #include "tests/unit/src/style/page/asking_host.h"
 #include "tests/unit/src/style/page/shown_tools.h"
 #include "tests/unit/src/toolkit/fake_views.h"
+#include "zu/platform/zuk_xml_data.h"
 
 namespace {
 
@@ -13,23 +14,34 @@ using namespace tests;
 using namespace zu::style::detail;
 
 /// A scale with its tool bar and the menu of its rows.
-template <class model> struct scale_tools : made_scale<model> {
+template <class model> struct page_tools : made_scale<model> {
   using bar_type = zu::toolkit::toolbar<scale_toolset<model>>;
   using menu_type = style_context_menu<model>;
 
+  page_tools() {
+    std::filesystem::remove_all(libraries);
+    std::filesystem::create_directories(libraries);
+    zu_options_set_style_libs_path(libraries.wstring().c_str());
+  }
+  ~page_tools() override {
+    zu_options_set_style_libs_path(nullptr);
+    std::filesystem::remove_all(libraries);
+  }
   std::vector<std::vector<shown_tool>> bar_sets() { return sets_of(bar); }
   std::vector<std::vector<shown_tool>> menu_sets() { return sets_of(menu); }
   void act(const std::wstring& id) {
     execute(tool_named(bar_sets(), id) ? bar_sets() : menu_sets(), id);
   }
 
+  const std::filesystem::path libraries =
+      std::filesystem::path(testing::TempDir()) / "page_tools_libraries";
   bar_type bar{this->m};
   menu_type menu{this->m};
 };
 
-struct value_tools : scale_tools<color_values> {};
-struct range_tools : scale_tools<color_ranges> {};
-struct rule_tools : scale_tools<color_rules> {};
+struct value_page_tools : page_tools<color_values> {};
+struct range_page_tools : page_tools<color_ranges> {};
+struct rule_page_tools : page_tools<color_rules> {};
 
 /// Short for the ids, which all begin so.
 std::wstring short_ids(std::wstring text) {
@@ -54,7 +66,7 @@ constexpr wchar_t caption_sorts[] =
     L"caption_sort_numbers { caption_sort_numbers_asc caption_sort_numbers_dsc }";
 constexpr wchar_t visibility[] = L"visible_show visible_hide visible_flip";
 
-TEST_F(value_tools, stand_in_their_order_with_separators) {
+TEST_F(value_page_tools, stand_in_their_order_with_separators) {
   EXPECT_EQ(short_ids(ids_of(bar_sets(), m.tool_prefix())),
             std::wstring(L"settings | save load | append remove | style { ") + actions +
                 L" maplegs style_libs {  } }");
@@ -65,7 +77,7 @@ TEST_F(value_tools, stand_in_their_order_with_separators) {
           caption_sorts + L" | " + visibility);
 }
 
-TEST_F(range_tools, rescale_too_and_have_no_legends) {
+TEST_F(range_page_tools, rescale_too_and_have_no_legends) {
   EXPECT_EQ(short_ids(ids_of(bar_sets(), m.tool_prefix())),
             std::wstring(L"settings rescale | save load | append remove | style { ") + actions +
                 L" style_libs {  } }");
@@ -76,7 +88,7 @@ TEST_F(range_tools, rescale_too_and_have_no_legends) {
                 caption_sorts + L" | " + visibility);
 }
 
-TEST_F(rule_tools, import_the_other_scales) {
+TEST_F(rule_page_tools, import_the_other_scales) {
   EXPECT_EQ(short_ids(ids_of(bar_sets(), m.tool_prefix())),
             std::wstring(L"settings | save load | append remove | style { ") + actions +
                 L" maplegs style_libs {  } }");
@@ -102,7 +114,7 @@ TEST(scale_tool_keys, are_shared_by_layers_of_one_type_and_by_nobody_else) {
   EXPECT_TRUE(key(values, L"grid_layer2d").starts_with(L"zu_common_scale_tool_settings"));
 }
 
-TEST_F(value_tools, have_a_text_in_both_languages) {
+TEST_F(value_page_tools, have_a_text_in_both_languages) {
   for (std::int32_t language : {0, 1}) {
     zu_res_set_lng(language);
     auto check = [](auto& self, const std::vector<shown_tool>& tools) -> void {
@@ -118,7 +130,7 @@ TEST_F(value_tools, have_a_text_in_both_languages) {
   zu_res_set_lng(0);
 }
 
-TEST_F(value_tools, show_hide_and_flip_all_rows_or_the_marked_ones_if_they_are_several) {
+TEST_F(value_page_tools, show_hide_and_flip_all_rows_or_the_marked_ones_if_they_are_several) {
   set_size(3);
   mark({1});
   act(L"zu_common_style_tool_visible_hide");
@@ -131,14 +143,14 @@ TEST_F(value_tools, show_hide_and_flip_all_rows_or_the_marked_ones_if_they_are_s
   EXPECT_EQ(told, 3);
 }
 
-TEST_F(value_tools, tell_of_visibility_on_an_empty_scale_too) {
+TEST_F(value_page_tools, tell_of_visibility_on_an_empty_scale_too) {
   act(L"zu_common_style_tool_visible_show");
   act(L"zu_common_style_tool_visible_hide");
   act(L"zu_common_style_tool_visible_flip");
   EXPECT_EQ(told, 3);
 }
 
-TEST_F(range_tools, show_and_hide_the_tails_as_other_rows) {
+TEST_F(range_page_tools, show_and_hide_the_tails_as_other_rows) {
   set_size(1);
   act(L"zu_common_style_tool_visible_hide");
   EXPECT_EQ(visible(), (std::vector<bool>{false, false, false}));
@@ -147,7 +159,7 @@ TEST_F(range_tools, show_and_hide_the_tails_as_other_rows) {
   EXPECT_EQ(visible(), (std::vector<bool>{true, false, true}));
 }
 
-TEST_F(value_tools, sort_values_and_captions_as_texts_and_as_numbers) {
+TEST_F(value_page_tools, sort_values_and_captions_as_texts_and_as_numbers) {
   struct {
     const wchar_t* id;
     std::wstring values;
@@ -179,7 +191,7 @@ TEST_F(value_tools, sort_values_and_captions_as_texts_and_as_numbers) {
   EXPECT_EQ(told, 8);
 }
 
-TEST_F(range_tools, sort_classes_by_their_limits) {
+TEST_F(range_page_tools, sort_classes_by_their_limits) {
   set_size(2);
   m.set_min(1, L"5"), m.set_max(1, L"6"), m.set_min(2, L"1"), m.set_max(2, L"9");
   act(L"zu_common_style_tool_minimum_sort_number_asc");
@@ -192,7 +204,7 @@ TEST_F(range_tools, sort_classes_by_their_limits) {
   EXPECT_EQ(m.get_max(1), L"6");
 }
 
-TEST_F(value_tools, spread_an_array_over_the_rows_as_a_ramp_or_colour_by_colour) {
+TEST_F(value_page_tools, spread_an_array_over_the_rows_as_a_ramp_or_colour_by_colour) {
   set_size(3);
   std::vector<Tzu_color> ramp(3), turns(3);
   ASSERT_TRUE(zu_clr_arrays_generate_ex(8, 3, ramp.data(), 0));
@@ -205,7 +217,7 @@ TEST_F(value_tools, spread_an_array_over_the_rows_as_a_ramp_or_colour_by_colour)
   EXPECT_EQ(told, 2);
 }
 
-TEST_F(value_tools, draw_a_strip_of_their_array) {
+TEST_F(value_page_tools, draw_a_strip_of_their_array) {
   struct strip final : bitmap_visitor_impl, bytes_visitor_impl {
     void visit(zu::bitmap picture) override {
       call<&bitmap_impl::pixels>(picture, bytes_visitor(handle_of<bytes_visitor_impl>(*this)));
@@ -236,7 +248,7 @@ TEST_F(value_tools, draw_a_strip_of_their_array) {
   EXPECT_TRUE(drawn(L"zu_common_style_tool_edit_style").pixels.empty());
 }
 
-TEST_F(value_tools, offer_the_palettes_of_the_person_as_they_are_now) {
+TEST_F(value_page_tools, offer_the_palettes_of_the_person_as_they_are_now) {
   owned<zu_clr_palettes_destroy> before(zu_clr_palettes_create());
   zu_clr_palettes_assign(before.get(), zu_get_user_palettes());
   while (zu_clr_palettes_get_size(zu_get_user_palettes()) > 0)
@@ -262,7 +274,7 @@ TEST_F(value_tools, offer_the_palettes_of_the_person_as_they_are_now) {
   zu_clr_palettes_assign(zu_get_user_palettes(), before.get());
 }
 
-TEST_F(value_tools, offer_the_legends_of_the_project) {
+TEST_F(value_page_tools, offer_the_legends_of_the_project) {
   handle menu =
       cast<multiaction_tool_impl>(tool_named(bar_sets(), L"zu_common_style_tool_maplegs"));
   Tzu_prj* before = zu_prj_get_instance();
@@ -285,7 +297,32 @@ TEST_F(value_tools, offer_the_legends_of_the_project) {
   zu_prj_set_instance(before);
 }
 
-TEST_F(value_tools, add_a_row_behind_the_active_one_and_remove_the_marked_ones) {
+TEST_F(value_page_tools, offer_the_libraries_that_there_are_now) {
+  handle menu = tool_named(bar_sets(), L"zu_common_style_tool_style_libs");
+  EXPECT_TRUE(menu_of(menu).empty());
+  EXPECT_FALSE(call<&category_tool_impl::enabled>(menu));
+  owned<zu_style_lib_destroy> library(zu_style_lib_create());
+  zu_style_lib_set_caption(library.get(), L"Rocks");
+  zu_style_item_add(zu_style_lib_get_root_item_ptr(library.get()), 12, L"tuff");
+  ASSERT_TRUE(
+      zu_xml_data_save_style_lib_file((libraries / "a._ls").wstring().c_str(), library.get()));
+  std::vector<shown_tool> shown = menu_of(menu);
+  ASSERT_EQ(shown.size(), 1u);
+  EXPECT_TRUE(call<&category_tool_impl::enabled>(menu));
+  EXPECT_EQ(shown[0].key, L"zu_common_style_tool_style_lib_0" + m.tool_prefix());
+  EXPECT_EQ(text([&](auto v) { call<&action_tool_impl::caption>(shown[0].tool, v); }), L"Rocks");
+  base_language base;
+  EXPECT_EQ(text([&](auto v) { call<&action_tool_impl::hint>(shown[0].tool, v); }),
+            L"Применить библиотеку стилей");
+  EXPECT_EQ(menu_of(menu)[0].tool.instance, shown[0].tool.instance) << "a host may keep it";
+  set_size(1);
+  m.set_value(0, L"12.7");
+  call<&action_tool_impl::execute>(shown[0].tool);
+  EXPECT_EQ(m.get_caption(0), L"tuff");
+  EXPECT_EQ(told, 1);
+}
+
+TEST_F(value_page_tools, add_a_row_behind_the_active_one_and_remove_the_marked_ones) {
   set_size(2);
   m.set_value(0, L"a"), m.set_value(1, L"b");
   m.set_active_row(0);
@@ -299,7 +336,7 @@ TEST_F(value_tools, add_a_row_behind_the_active_one_and_remove_the_marked_ones) 
   EXPECT_EQ(told, 2);
 }
 
-TEST_F(range_tools, remove_classes_and_never_the_tails) {
+TEST_F(range_page_tools, remove_classes_and_never_the_tails) {
   set_size(2);
   mark({0, 1, 3});
   act(L"zu_common_scale_tool_remove");
@@ -307,14 +344,14 @@ TEST_F(range_tools, remove_classes_and_never_the_tails) {
   EXPECT_EQ(m.get_min(0), L"-∞");
 }
 
-TEST_F(rule_tools, add_nothing_without_an_editor_of_rules) {
+TEST_F(rule_page_tools, add_nothing_without_an_editor_of_rules) {
   act(L"zu_common_scale_tool_append");
   act(L"zu_common_scale_tool_settings");
   EXPECT_EQ(m.row_count(), 0);
   EXPECT_EQ(told, 0);
 }
 
-TEST_F(rule_tools, make_rules_of_the_value_scale) {
+TEST_F(rule_page_tools, make_rules_of_the_value_scale) {
   zu_stl_mngr_set_val_prop_name_w(manager.get(), L"z");
   zu_val_scale_set_size(zu_stl_mngr_get_val_scale_ptr(manager.get()), 2);
   act(L"zu_common_style_tool_build_value_rules");
@@ -324,7 +361,7 @@ TEST_F(rule_tools, make_rules_of_the_value_scale) {
   EXPECT_EQ(told, 2);
 }
 
-TEST_F(value_tools, turn_the_styles_and_spread_them_between_the_ends) {
+TEST_F(value_page_tools, turn_the_styles_and_spread_them_between_the_ends) {
   set_size(3);
   paint();
   act(L"zu_common_style_tool_invert_scale");
@@ -335,7 +372,7 @@ TEST_F(value_tools, turn_the_styles_and_spread_them_between_the_ends) {
   EXPECT_EQ(told, 2);
 }
 
-TEST_F(value_tools, edit_the_active_row_s_style_or_that_of_all_marked_rows) {
+TEST_F(value_page_tools, edit_the_active_row_s_style_or_that_of_all_marked_rows) {
   asking_host host;
   set_size(3);
   paint();
@@ -353,7 +390,7 @@ TEST_F(value_tools, edit_the_active_row_s_style_or_that_of_all_marked_rows) {
   EXPECT_EQ(told, 2);
 }
 
-TEST_F(value_tools, save_the_scale_and_load_it_again) {
+TEST_F(value_page_tools, save_the_scale_and_load_it_again) {
   base_language base;
   asking_host host;
   set_size(2);
@@ -380,7 +417,7 @@ TEST_F(value_tools, save_the_scale_and_load_it_again) {
   EXPECT_EQ(told, 1);
 }
 
-TEST_F(range_tools, suggest_the_name_by_which_the_scale_is_found_again) {
+TEST_F(range_page_tools, suggest_the_name_by_which_the_scale_is_found_again) {
   asking_host host;
   m.source.name = L"/data/hills.tif";
   m.set_field(L"z");
@@ -388,7 +425,7 @@ TEST_F(range_tools, suggest_the_name_by_which_the_scale_is_found_again) {
   EXPECT_EQ(host.suggested, L"/data/hills.z._rg");
 }
 
-TEST_F(value_tools, are_silent_without_a_manager) {
+TEST_F(value_page_tools, are_silent_without_a_manager) {
   asking_host host;
   host.path = L"/nowhere";
   m.mngr = nullptr;

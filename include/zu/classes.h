@@ -31,7 +31,8 @@ struct class_request {
 struct class_builder_service_impl : counted_interface<class_builder_service_impl> {
   static constexpr char name[] = "zu_class_builder_service_interface_0";
   /// Boundaries and captions of the scale's rows; their styles stay. False, and nothing changed, if
-  /// the source does not open, has no such field or cannot be read, or the method is none of those.
+  /// the source does not open, has no such field or no values in it, or the method is none of
+  /// those.
   virtual bool build(Tzu_rng_scale*, const wchar_t* /*source*/, const wchar_t* /*field*/,
                      const class_request*) {
     return false;

@@ -34,9 +34,11 @@ class read_field {
     index_ = grid_.find_field(name_);
     return index_ >= 0;
   }
-  /// Limits, mean and deviation. What was computed by the platform is known then.
+  /// Limits, mean and deviation; false for a field without values.
   bool read() {
-    if (!grid_.knows_statistics(index_) && !grid_.read_statistics(index_, 0, nullptr)) return false;
+    if (!grid_.knows_statistics(index_) &&
+        (!grid_.read_statistics(index_, 0, nullptr) || grid_.field_count(index_) == 0))
+      return false;
     grid_.fill_stat(stat_.get(), index_);
     return true;
   }

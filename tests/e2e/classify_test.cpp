@@ -125,6 +125,12 @@ TEST_F(classify, fails_with_a_reason) {
   outcome result = run({"classify", path("g.tif"), "--method", "equal", "--field", "depth"});
   EXPECT_EQ(result.exit, 1);
   EXPECT_EQ(result.err, "zugrid: " + path("g.tif") + ": has no field \"depth\"\n");
+  const double nodata = 7;
+  floats("empty.tif", 2, 1, {7, 7}, &nodata);
+  result = run({"classify", path("empty.tif"), "--method", "equal"});
+  EXPECT_EQ(result.exit, 1);
+  EXPECT_EQ(result.err,
+            "zugrid: " + path("empty.tif") + ": \"Band 1\" has no values to make classes of\n");
   result = run({"classify", path("none.tif"), "--method", "equal"});
   EXPECT_EQ(result.exit, 1);
   EXPECT_NE(result.err.find("none.tif"), std::string::npos);

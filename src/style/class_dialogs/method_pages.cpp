@@ -21,6 +21,7 @@ double size_of(const Tzu_rng_scale* scale) {
 }  // namespace
 
 rounding_input::rounding_input() : labeled_element(10435) {
+  set_hint(15001);
   for (std::int32_t d = least_digits; d <= most_digits; ++d) add(digits_text(d), 0, d);
 }
 void rounding_input::assign_digits(std::int32_t digits) {
@@ -120,6 +121,7 @@ logarithmic_page::logarithmic_page(const known_field& field) : method_page(field
   for (std::int32_t i = 0; i < 3; ++i)
     start_.add(std::to_wstring(static_cast<int>(starts[i])), 0, i);
   two_sided_.assign(false);
+  two_sided_.set_hint(15002);
   auto changed = [this](auto) {
     show_count();
     tell();

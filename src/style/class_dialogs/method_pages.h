@@ -19,7 +19,6 @@ struct known_field {
   data::open_reference source;
   std::wstring field;
   double minimum = 0.0, maximum = 0.0, mean = 0.0, deviation = 0.0;
-  std::uint32_t seed = 0;  ///< of the sample of natural breaks
 };
 
 /// A choice of the power of ten that boundaries are multiples of, from -10 to 10.

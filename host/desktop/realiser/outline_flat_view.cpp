@@ -13,15 +13,28 @@ namespace {
 /// A search by typing asks row by row; beyond this a person would wait for it.
 constexpr int most_searched_rows = 20'000;
 
+/// Captions that do not fit end in dots.
+class caption_line final : public QHeaderView {
+ public:
+  using QHeaderView::QHeaderView;
+
+ protected:
+  void initStyleOptionForIndex(QStyleOptionHeader* option, int section) const override {
+    QHeaderView::initStyleOptionForIndex(option, section);
+    const int margin = style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, this);
+    option->text = option->fontMetrics.elidedText(option->text, Qt::ElideRight,
+                                                  sectionSize(section) - 2 * margin);
+  }
+};
+
 }  // namespace
 
 flat_view::flat_view(QWidget* parent)
-    : QAbstractItemView(parent), header_(new QHeaderView(Qt::Horizontal, this)) {
+    : QAbstractItemView(parent), header_(new caption_line(Qt::Horizontal, this)) {
   header_->setObjectName(QStringLiteral("header"));
   header_->setSectionsClickable(true);
   header_->setHighlightSections(false);
   header_->setStretchLastSection(true);
-  header_->setTextElideMode(Qt::ElideRight);
   header_->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   setHorizontalScrollMode(ScrollPerPixel);
   setSelectionBehavior(SelectRows);

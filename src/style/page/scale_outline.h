@@ -61,7 +61,7 @@ template <class model> class scale_outline : public toolkit::outline_table {
       : model_(m),
         keys_(m),
         caption_(m, ids[0], 10324, key_columns<model>::caption_width),
-        visible_(m, ids[1], 10325, 4),
+        visible_(m, ids[1], 10325, 5),
         primary_(m, ids[2], 14519, 14519, primary),
         selection_(m, ids[3], 14558, 14520, selection) {
     keys_.add_to(*this);

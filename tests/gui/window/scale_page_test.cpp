@@ -183,6 +183,7 @@ TEST_F(scale_page, a_limit_is_typed_into_its_cell) {
   QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
   QTest::keyClicks(editor, QStringLiteral("12,5"));
   QTest::keyClick(editor, Qt::Key_Return);
+  QCoreApplication::processEvents();  // the key is the editor's first, and then the table's
   EXPECT_EQ(cell(2, maximum).data().toString(), QStringLiteral("12.5"));
 }
 

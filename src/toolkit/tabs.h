@@ -20,7 +20,8 @@ struct tab {
   docker_internal* shown = nullptr;
 };
 
-/// The docker of a tab. It deletes itself when the host detaches it.
+/// The docker of a tab. It deletes itself when the host detaches it, the last time if it was shown
+/// in several windows at once.
 class docker_internal : public docker_impl {
  public:
   explicit docker_internal(tab& tab) : tab_(tab) { tab_.shown = this; }
@@ -32,11 +33,15 @@ class docker_internal : public docker_impl {
   void visit_image(bitmap_visitor visitor) override { visit_bitmap(tab_.caption, visitor); }
   void visit_element(element_visitor visitor) override { tab_.child->visit(visitor); }
   void attach_view(element_view view) override {
-    if (!view) delete this;
+    if (view)
+      ++views_;
+    else if (--views_ <= 0)
+      delete this;
   }
 
  private:
   tab& tab_;
+  int views_ = 0;
 };
 
 }  // namespace detail

@@ -3,8 +3,8 @@
 
 #include "zu/platform/zuk_basic.h"
 
-// --- Numbered arrays. `flag` 0 spreads an array as a ramp over `count` colours, 1 takes its colours
-// in turn, from the beginning again where they end. Transparencies of `colors` are kept.
+// --- Numbered arrays. `flag` 0 spreads an array as a ramp over `count` colours, 1 takes its
+// colours in turn, from the beginning again where they end. Transparencies of `colors` are kept.
 
 /// False, and nothing changed, if there is no such array.
 ZU_API bool zu_clr_arrays_generate_ex(int32_t id, uint64_t count, Tzu_color* colors, int32_t flag);
@@ -22,7 +22,8 @@ ZU_API Tzu_clr_palettes* zu_clr_palettes_create(void);  ///< empty; null if out 
 ZU_API void zu_clr_palettes_destroy(Tzu_clr_palettes* list);
 ZU_API void zu_clr_palettes_assign(Tzu_clr_palettes* list, const Tzu_clr_palettes* from);
 ZU_API uint64_t zu_clr_palettes_get_size(const Tzu_clr_palettes* list);
-ZU_API Tzu_clr_palette* zu_clr_palettes_get_ptr(Tzu_clr_palettes* list, uint64_t index);  ///< or null
+ZU_API Tzu_clr_palette* zu_clr_palettes_get_ptr(Tzu_clr_palettes* list,
+                                                uint64_t index);  ///< or null
 /// An empty one at the end, owned by the list.
 ZU_API Tzu_clr_palette* zu_clr_palettes_add(Tzu_clr_palettes* list);
 ZU_API void zu_clr_palettes_del(Tzu_clr_palettes* list, uint64_t index);

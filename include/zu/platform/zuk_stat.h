@@ -12,7 +12,8 @@ ZU_API void zu_histogramm_clear(Tzu_histogramm_data* histogram);
 /// So many empty classes between the limits that were set last (0 and 1 at first).
 ZU_API void zu_histogramm_set_params(Tzu_histogramm_data* histogram, uint64_t classes);
 /// Between which values its classes lie.
-ZU_API void zu_histogramm_set_limits(Tzu_histogramm_data* histogram, double minimum, double maximum);
+ZU_API void zu_histogramm_set_limits(Tzu_histogramm_data* histogram, double minimum,
+                                     double maximum);
 /// Number of classes and limits; outputs may be null. Without classes only the count is written.
 ZU_API void zu_histogramm_get_params(const Tzu_histogramm_data* histogram, uint64_t* count,
                                      double* minimum, double* maximum);
@@ -39,7 +40,8 @@ ZU_API double zu_stat_get_average(const Tzu_stat* stat, bool* valid);
 ZU_API double zu_stat_get_stddev(const Tzu_stat* stat, bool* valid);
 ZU_API bool zu_stat_has_statistic(const Tzu_stat* stat);  ///< all four were set
 ZU_API bool zu_stat_has_histogramm(const Tzu_stat* stat);
-/// The object's own histogram, to be filled or read; `valid`, which may be null, says whether it is.
+/// The object's own histogram, to be filled or read; `valid`, which may be null, says whether it
+/// is.
 ZU_API Tzu_histogramm_data* zu_stat_get_histogramm(Tzu_stat* stat, bool* valid);
 /// Says whether the histogram is valid now.
 ZU_API void zu_stat_set_histogramm(Tzu_stat* stat, bool valid);

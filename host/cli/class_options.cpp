@@ -33,7 +33,6 @@ void refuse_if(bool given, const char* option, const char* reason) {
 
 void check(const class_texts& given, std::int32_t method) {
   const bool log = method == logarithmic;
-  refuse_if(given.count && log, "--count", "the method \"log\" has as many classes as it needs");
   refuse_if(given.digits && log, "--digits", "the method \"log\" rounds by its --power");
   const char* log_alone = "goes with the method \"log\"";
   refuse_if(!log && !given.start.empty(), "--start", log_alone);
@@ -59,7 +58,7 @@ CLI::Option* add_class_options(CLI::App& options, const std::string& method, cla
           ->check(CLI::IsMember(
               std::vector<std::string>(std::begin(method_names), std::end(method_names))))
           ->type_name("METHOD");
-  options.add_option("--count", given.count, "number of classes (10)")
+  options.add_option("--count", given.count, "number of classes (10); log has as many as it needs")
       ->check(CLI::Range(1, 100000))
       ->type_name("N");
   options.add_option("--min", given.minimum, "least boundary (the field's minimum)")

@@ -144,9 +144,11 @@ std::string gmt_color(const std::optional<Tzu_color>& c) {
 std::string gmt_text(const scale_colors& scale) {
   std::string text = "# COLOR_MODEL = RGB\n";
   for (const auto& each : scale.classes) {
-    std::string color = gmt_color(each.color);
-    text += text_of_number(each.low) + '\t' + color + '\t' + text_of_number(each.high) + '\t' +
-            color + (each.label.empty() ? "" : "\t;" + each.label) + '\n';
+    const std::string color = gmt_color(each.color);
+    text += text_of_number(each.low) + '\t' + color;
+    text += '\t' + text_of_number(each.high) + '\t' + color;
+    if (!each.label.empty()) text += "\t;" + each.label;
+    text += '\n';
   }
   return text + "B\t" + gmt_color(scale.below) + "\nF\t" + gmt_color(scale.above) + "\nN\t" +
          gmt_color(scale.other) + '\n';

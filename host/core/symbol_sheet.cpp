@@ -18,7 +18,7 @@ constexpr const char* figure_names[zu_figure_count] = {
 constexpr double margin = 5, column_width = 40, row_height = 16, text_height = 3.2;
 constexpr double line_row = 9, line_length = 2 * column_width - 12, line_width = 1;
 constexpr double sizes[] = {8, 4, 2};
-constexpr int columns = 4, line_columns = 2;
+constexpr int columns = 4, line_columns = 2, figure_rows = zu_figure_count / columns;
 constexpr double dots_per_inch = 144, dots_per_mm = dots_per_inch / 25.4;
 
 constexpr Tzu_color ink = {30, 30, 30, 0}, ground = {255, 255, 255, 0};
@@ -115,15 +115,17 @@ void draw_line(Tzu_drwc* page, const sample_line& sample, double x, double y) {
 void draw_sheet(Tzu_drwc* page, double top) {
   for (std::int32_t i = 0; i < zu_figure_count; ++i) {
     double x = margin + i % columns * column_width;
-    double y = top - (i / columns + 0.5) * row_height;
+    const int row = i / columns;
+    double y = top - (row + 0.5) * row_height;
     draw_figure(page, i, x, y + 2);
     say(page, x, y - 5, figure_name(i));
   }
-  top -= (zu_figure_count / columns) * row_height + margin;
+  top -= figure_rows * row_height + margin;
   int number = 0;
   for (const sample_line& sample : lines) {
+    const int row = number / line_columns;
     draw_line(page, sample, margin + 2 + number % line_columns * 2 * column_width,
-              top - (number / line_columns + 0.5) * line_row);
+              top - (row + 0.5) * line_row);
     ++number;
   }
 }
@@ -135,9 +137,8 @@ const char* figure_name(std::int32_t figure) {
 }
 
 drawn_picture draw_symbols(page_kind kind) {
-  constexpr double line_rows = (std::size(lines) + line_columns - 1) / line_columns;
-  constexpr double height =
-      3 * margin + zu_figure_count / columns * row_height + line_rows * line_row;
+  constexpr std::size_t line_rows = (std::size(lines) + line_columns - 1) / line_columns;
+  constexpr double height = 3 * margin + figure_rows * row_height + line_rows * line_row;
   picture_request request;
   request.nx = static_cast<std::uint64_t>((2 * margin + columns * column_width) * dots_per_mm);
   request.ny = static_cast<std::uint64_t>(height * dots_per_mm);

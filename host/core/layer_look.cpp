@@ -332,6 +332,34 @@ void apply_look(const layer_look& look, layer& dressed) {
   if (Tzu_isoline_style* style = dressed.isoline_style()) set_isolines(look, data, style);
 }
 
+void load_colors(const std::string& file, layer& dressed) {
+  Tzu_stl_mngr* styles = dressed.style_manager();
+  const source& data = dressed.data();
+  if (styles == nullptr || data.fields().empty())
+    throw failure(dressed.source_name(), "is not coloured by a scale");
+  layer_look look;
+  if (is_scale_file(file))
+    look.scale_file = file;
+  else
+    look.table = read_color_table(file);
+  if (std::string field = field_in_use(styles); look.table && data.find(field)) look.field = field;
+  set_style(look, data, styles);
+  if (dressed.type() == profile_type) return;
+  draw_settings settings = dressed.settings();
+  settings.draw = draw_type::scale;
+  dressed.set_settings(settings);
+}
+
+void save_colors(const std::string& file, const layer& dressed) {
+  Tzu_stl_mngr* styles = dressed.style_manager();
+  if (styles == nullptr || zu_stl_mngr_get_mode(styles) == zu_style_simple)
+    throw failure(dressed.source_name(), "is not coloured by a scale");
+  if (is_scale_file(file)) return save_scale(file, styles);
+  if (zu_stl_mngr_get_mode(styles) != zu_style_range)
+    throw failure(file, "a colour table holds classes; single values go into a \"._vl\" file");
+  write_color_table(file, zu_stl_mngr_get_rng_scale_ptr(styles));
+}
+
 void dress(scene& dressed, const layer_look& look) {
   layer_look plain;
   plain.transparency = look.transparency;

@@ -74,6 +74,15 @@ std::string why_not(const layer_look& look, const layer& dressed);
 /// Gives a layer the look. Throws `failure` with `why_not`.
 void apply_look(const layer_look& look, layer& dressed);
 
+/// Colours a layer by what a file holds: the scale of a scale page, a legend of ArcView, or a
+/// colour table of another program. A table, and a scale whose field the layer lacks, colour the
+/// field that the layer is coloured by, else the default one. Throws `failure` with the file and
+/// the reason; the layer is then as it was.
+void load_colors(const std::string& file, layer& dressed);
+/// Writes the scale of a layer: "._rg" or "._vl" as scale pages do, ".cpt", ".qgis.txt" or anything
+/// else as a colour table of classes. Throws `failure`.
+void save_colors(const std::string& file, const layer& dressed);
+
 /// Gives every layer of a scene the look that it can take, and the others its transparency alone.
 /// Throws `failure` if none can take it.
 void dress(scene& dressed, const layer_look& look);

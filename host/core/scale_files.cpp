@@ -30,6 +30,10 @@ const scale_kind* kind_of(const std::string& path) {
   return nullptr;
 }
 
+bool is_legend(const std::string& path) {
+  return std::filesystem::path(path).extension() == ".avl";
+}
+
 /// Runs one of the functions above.
 template <class function, class manager>
 void work(function f, const std::string& path, manager* m) {
@@ -59,8 +63,10 @@ void load_legend(const std::string& path, Tzu_stl_mngr* manager) {
 
 }  // namespace
 
+bool is_scale_file(const std::string& path) { return is_legend(path) || kind_of(path) != nullptr; }
+
 void load_scale(const std::string& path, Tzu_stl_mngr* manager) {
-  if (std::filesystem::path(path).extension() == ".avl") return load_legend(path, manager);
+  if (is_legend(path)) return load_legend(path, manager);
   const scale_kind* kind = kind_of(path);
   if (kind == nullptr)
     throw failure(path, "is no scale of a grid: those end in ._rg, ._vl or .avl");

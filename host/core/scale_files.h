@@ -7,6 +7,8 @@
 
 namespace zu::host {
 
+/// Whether a name has the ending of a file that `load_scale` reads.
+bool is_scale_file(const std::string& path);
 /// Fills a manager with the scale of a file and sets its mode: ranges ("._rg"), values ("._vl") or
 /// what a legend of ArcView (".avl") is; grids are not drawn by rules. Throws `failure` with the
 /// file and the reason; the manager is then as it was.

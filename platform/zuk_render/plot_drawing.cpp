@@ -104,7 +104,8 @@ class axis_drawing {
     double step = round_step((high - low) / length * least_distance);
     double first = std::ceil(low / step), last = std::floor(high / step);
     if (!(last - first < most_ticks)) return;
-    for (double k = first; k <= last; ++k) tick(k * step, step);
+    const int count = static_cast<int>(last - first);
+    for (int k = 0; k <= count; ++k) tick((first + k) * step, step);
   }
 
  private:

@@ -25,13 +25,15 @@ Tzu_bpln_style& stroked(Tzu_stl_prm& style, int index, sized kind) {
   return zu_stl_prm_get_pgn_style_ptr(&style, index)->contour;
 }
 
+Tzu_stl_prm_more* copy_of(const Tzu_stl_prm_more* from) {
+  return from != nullptr ? new Tzu_stl_prm_more(*from) : nullptr;
+}
+
 }  // namespace
 
 style_parameters::style_parameters() : Tzu_stl_prm{{drawn, selected}, nullptr} {}
 style_parameters::style_parameters(const Tzu_stl_prm& from)
-    : Tzu_stl_prm{{from.colors[0], from.colors[1]}, nullptr} {
-  if (from.more != nullptr) more = new Tzu_stl_prm_more(*from.more);
-}
+    : Tzu_stl_prm{{from.colors[0], from.colors[1]}, copy_of(from.more)} {}
 style_parameters& style_parameters::operator=(const style_parameters& from) {
   assign(*this, from);
   return *this;

@@ -165,6 +165,21 @@ void document::relink_layer(int index, const QString& source) {
   set_active_layer(layer);
 }
 
+void document::load_colors(int index, const QString& file) {
+  host::layer* layer = scene().layers.at(std::size_t(index)).shown;
+  if (layer == nullptr) return;
+  const bool was_active = layer == active_layer_;
+  if (was_active) set_active_layer(nullptr);  // its panels shall read it anew
+  try {
+    perform(words("Load colours", "Загрузка цветов"),
+            [&] { host::load_colors(file.toStdString(), *layer); });
+  } catch (...) {
+    if (was_active) set_active_layer(layer);
+    throw;
+  }
+  if (was_active) set_active_layer(layer);
+}
+
 void document::set_projection(const QString& text) {
   perform(words("Change the projection", "Смена проекции"),
           [&] { scene().content->set_projection(text.toStdString()); });

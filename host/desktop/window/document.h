@@ -53,6 +53,8 @@ class document : public QObject {
   void set_layer_visible(int index, bool visible);
   /// Shows another source in a layer, with the same look. Throws host::failure if it will not open.
   void relink_layer(int index, const QString& source);
+  /// Colours a layer by what a file holds; see host::load_colors. Throws host::failure.
+  void load_colors(int index, const QString& file);
   void set_projection(const QString& text);  ///< of the active scene
 
   void add_scene(const QString& name);

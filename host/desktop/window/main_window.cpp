@@ -195,6 +195,8 @@ void main_window::connect_layers() {
   connect(layers_, &QTreeWidget::currentItemChanged, this, &main_window::show_state);
   connect(actions_->layer_zoom, &QAction::triggered, this,
           [this, zoom] { zoom(layers_->current_index()); });
+  connect(actions_->layer_load_colors, &QAction::triggered, this, &main_window::load_colors);
+  connect(actions_->layer_save_colors, &QAction::triggered, this, &main_window::save_colors);
   connect(actions_->layer_rename, &QAction::triggered, layers_, &layer_list::edit_current);
   connect(actions_->layer_remove, &QAction::triggered, this,
           [this] { document_.remove_layer(layers_->current_index()); });
@@ -306,6 +308,9 @@ void main_window::show_state() {
   a.layer_visible->setEnabled(layer != nullptr);
   a.layer_visible->setChecked(layer != nullptr && layer->is_visible());
   a.layer_source->setEnabled(layer != nullptr);
+  const Tzu_stl_mngr* styles = layer != nullptr ? layer->style_manager() : nullptr;
+  a.layer_load_colors->setEnabled(styles != nullptr);
+  a.layer_save_colors->setEnabled(styles != nullptr);
   a.layer_remove->setEnabled(index >= 0);
   a.layer_up->setEnabled(index >= 0 && index + 1 < count);
   a.layer_down->setEnabled(index > 0);

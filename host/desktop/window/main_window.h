@@ -76,6 +76,8 @@ class main_window final : public QMainWindow {
   void choose_files();
   void choose_files_as(host::open_as wanted);
   void choose_source(int index);
+  void load_colors();
+  void save_colors();
   void remember_file(const QString& path);
   void show_recent();
   /// Runs what may throw, and says above the map why it did not work. Gives whether it did.

@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <algorithm>
 
 #include "host/desktop/dialogs/projection_chooser.h"
 #include "host/desktop/words.h"
@@ -55,6 +56,37 @@ QString ask_source(QWidget* parent, const QString& missing) {
       QFileInfo(missing).absolutePath(), all_files());
 }
 
+QString ask_colors(QWidget* parent, const QString& folder) {
+  return QFileDialog::getOpenFileName(
+      parent, words("Load colours", "Загрузить цвета"), folder,
+      words("Scales and colour tables (*._rg *._vl *.avl *.cpt *.txt *.clr)",
+            "Шкалы и таблицы цветов (*._rg *._vl *.avl *.cpt *.txt *.clr)") +
+          QStringLiteral(";;") + all_files());
+}
+
+QString ask_colors_to_save(QWidget* parent, const QString& proposed) {
+  QFileDialog dialog(parent, words("Save colours", "Сохранить цвета"), proposed);
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setNameFilters({words("Scale of ranges (*._rg)", "Шкала диапазонов (*._rg)"),
+                         words("Scale of values (*._vl)", "Шкала значений (*._vl)"),
+                         words("Colour table of GMT (*.cpt)", "Таблица цветов GMT (*.cpt)"),
+                         words("Colour map of QGIS (*.qgis.txt)", "Карта цветов QGIS (*.qgis.txt)"),
+                         words("Colour relief of GDAL (*.txt)", "Цвета рельефа GDAL (*.txt)")});
+  const QStringList endings{QStringLiteral("_rg"), QStringLiteral("_vl"), QStringLiteral("cpt"),
+                            QStringLiteral("qgis.txt"), QStringLiteral("txt")};
+  auto follow = [&dialog, endings] {
+    const auto chosen = dialog.nameFilters().indexOf(dialog.selectedNameFilter());
+    dialog.setDefaultSuffix(endings.value(chosen));
+  };
+  QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, follow);
+  const QString ending = QFileInfo(proposed).suffix();
+  dialog.selectNameFilter(
+      dialog.nameFilters().value(std::max(endings.indexOf(ending), qsizetype{0})));
+  follow();
+  dialog.selectFile(proposed);
+  return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
 QString ask_name(QWidget* parent, const QString& question, const QString& now) {
   bool accepted = false;
   QString text =
@@ -65,9 +97,17 @@ QString ask_name(QWidget* parent, const QString& question, const QString& now) {
 }  // namespace
 
 prompts prompts_of_dialogs() {
-  return {ask_files,         ask_project, ask_unsaved,
-          ask_source,        ask_name,    projection_chooser::ask,
-          export_dialog::ask};
+  prompts made;
+  made.files_to_open = ask_files;
+  made.file_to_save = ask_project;
+  made.unsaved = ask_unsaved;
+  made.source_instead = ask_source;
+  made.colors_to_load = ask_colors;
+  made.colors_to_save = ask_colors_to_save;
+  made.name = ask_name;
+  made.projection = projection_chooser::ask;
+  made.picture = export_dialog::ask;
+  return made;
 }
 
 }  // namespace zu::desktop

@@ -23,6 +23,9 @@ struct prompts {
   std::function<unsaved_answer(QWidget* parent, const QString& name)> unsaved;
   /// The file that a layer shows instead of its missing one; empty: cancelled.
   std::function<QString(QWidget* parent, const QString& missing)> source_instead;
+  /// The file whose colours a layer takes, and where they are written; empty: cancelled.
+  std::function<QString(QWidget* parent, const QString& folder)> colors_to_load;
+  std::function<QString(QWidget* parent, const QString& proposed)> colors_to_save;
   /// A line of text; empty: cancelled.
   std::function<QString(QWidget* parent, const QString& question, const QString& now)> name;
   /// A projection of the scene, as text; empty: none; nothing: cancelled.

@@ -20,7 +20,7 @@ class window_actions final : public QObject {
   QAction *zoom_in, *zoom_out, *zoom_all, *zoom_back, *zoom_forward, *own_axes, *redraw,
       *full_screen;
   QAction *layer_zoom, *layer_rename, *layer_remove, *layer_up, *layer_down, *layer_source,
-      *layer_visible;
+      *layer_visible, *layer_load_colors, *layer_save_colors;
   QAction *scene_add, *scene_rename, *scene_remove, *scene_projection, *scene_next, *scene_previous;
   QAction *info_tool, *help_shortcuts, *help_about;
   QAction *language_english, *language_russian;

@@ -5,6 +5,7 @@
 #include <QMenu>
 
 #include "host/core/failure.h"
+#include "host/core/layer_look.h"
 #include "host/desktop/dialogs/settings_file.h"
 #include "host/desktop/window/main_window.h"
 #include "host/desktop/window/message_bar.h"
@@ -130,6 +131,23 @@ void main_window::choose_source(int index) {
   QString missing = QString::fromStdString(layers[std::size_t(index)].source());
   QString source = prompts_.source_instead(this, missing);
   if (!source.isEmpty()) attempt([&] { document_.relink_layer(index, absolute(source)); });
+}
+
+void main_window::load_colors() {
+  const QString file = prompts_.colors_to_load(this, last_folder_);
+  if (!file.isEmpty()) attempt([&] { document_.load_colors(layers_->current_index(), file); });
+}
+
+void main_window::save_colors() {
+  const auto& layers = document_.scene().layers;
+  const int index = layers_->current_index();
+  const host::layer* layer = layers.at(std::size_t(index)).shown;
+  if (layer == nullptr) return;
+  const bool by_values = zu_stl_mngr_get_mode(layer->style_manager()) == zu_style_value;
+  const QString name = QFileInfo(QString::fromStdString(layer->source_name())).completeBaseName() +
+                       (by_values ? QStringLiteral("._vl") : QStringLiteral("._rg"));
+  const QString file = prompts_.colors_to_save(this, QDir(last_folder_).filePath(name));
+  if (!file.isEmpty()) attempt([&] { host::save_colors(file.toStdString(), *layer); });
 }
 
 void main_window::remember_file(const QString& path) {

@@ -86,6 +86,8 @@ void main_window::make_menus() {
   layer_menu_ = add_menu("menu_layer", "&Layer", "&Слой");
   layer_menu_->addActions({a.layer_visible, a.layer_zoom, a.layer_rename, a.layer_source});
   layer_menu_->addSeparator();
+  layer_menu_->addActions({a.layer_load_colors, a.layer_save_colors});
+  layer_menu_->addSeparator();
   layer_menu_->addActions({a.layer_up, a.layer_down});
   layer_menu_->addSeparator();
   layer_menu_->addAction(a.layer_remove);

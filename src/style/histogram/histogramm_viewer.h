@@ -22,7 +22,7 @@ class histogramm_viewer : public viewer2d {
   };
 
   histogramm_viewer();
-  ~histogramm_viewer();
+  ~histogramm_viewer() override;
 
   /// Whose values the tool counts; the histogram on show stays.
   void set_source(const data::open_reference& source, const std::wstring& field);

@@ -31,8 +31,8 @@ template <class model> class scale_style : public toolkit::with_element {
  private:
   static constexpr bool has_field =
       !std::is_same_v<typename model::scale_traits, rule_scale_traits>;
-  static model& with_context(model& m, std::wstring context) {
-    m.context = std::move(context);
+  static model& with_context(model& m, const std::wstring& context) {
+    m.context = context;
     return m;
   }
 

@@ -22,7 +22,7 @@ namespace zu::desktop {
 /// What a person would answer, and how often each thing was asked.
 struct answers {
   QStringList files;
-  QString save_as, source, name, picture;
+  QString save_as, source, name, picture, colors;
   std::optional<QString> projection;
   unsaved_answer unsaved = unsaved_answer::cancel;
   int unsaved_asked = 0;
@@ -36,6 +36,8 @@ struct answers {
       return unsaved;
     };
     made.source_instead = [this](QWidget*, const QString&) { return source; };
+    made.colors_to_load = [this](QWidget*, const QString&) { return colors; };
+    made.colors_to_save = [this](QWidget*, const QString&) { return colors; };
     made.name = [this](QWidget*, const QString&, const QString&) { return name; };
     made.projection = [this](QWidget*, const QString&) { return projection; };
     made.picture = [this](QWidget*, host::page_request seen, const QString&) {

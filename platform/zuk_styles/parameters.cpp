@@ -1,6 +1,7 @@
 #include "platform/zuk_styles/parameters.h"
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 #include "platform/zuk_basic/guarded.h"
@@ -25,15 +26,12 @@ Tzu_bpln_style& stroked(Tzu_stl_prm& style, int index, sized kind) {
   return zu_stl_prm_get_pgn_style_ptr(&style, index)->contour;
 }
 
-Tzu_stl_prm_more* copy_of(const Tzu_stl_prm_more* from) {
-  return from != nullptr ? new Tzu_stl_prm_more(*from) : nullptr;
-}
-
 }  // namespace
 
 style_parameters::style_parameters() : Tzu_stl_prm{{drawn, selected}, nullptr} {}
-style_parameters::style_parameters(const Tzu_stl_prm& from)
-    : Tzu_stl_prm{{from.colors[0], from.colors[1]}, copy_of(from.more)} {}
+style_parameters::style_parameters(const Tzu_stl_prm& from) : style_parameters() {
+  assign(*this, from);
+}
 style_parameters& style_parameters::operator=(const style_parameters& from) {
   assign(*this, from);
   return *this;
@@ -49,8 +47,9 @@ scale_row& scale_row::operator=(const scale_row& from) {
 
 void assign(Tzu_stl_prm& style, const Tzu_stl_prm& from) {
   if (&style == &from) return;
-  style_parameters copy(from);
-  std::swap(style.more, copy.more);
+  std::unique_ptr<Tzu_stl_prm_more> more;
+  if (from.more != nullptr) more = std::make_unique<Tzu_stl_prm_more>(*from.more);
+  delete std::exchange(style.more, more.release());
   std::copy_n(from.colors, 2, style.colors);
 }
 

@@ -6,6 +6,7 @@
 #include "host/core/failure.h"
 #include "host/core/scale_files.h"
 #include "host/core/texts.h"
+#include "zu/platform/zuk_os.h"
 #include "zu/platform/zuk_palettes.h"
 #include "zu/platform/zuk_tos_lr2d.h"
 
@@ -59,13 +60,36 @@ void set_breaks(const std::vector<double>& breaks, Tzu_rng_scale* scale) {
   }
 }
 
+/// What the classes are called, with as many digits as tell neighbours apart. Classes that are too
+/// narrow for that have no captions.
+void set_captions(Tzu_rng_scale* scale) {
+  double step = zu_rng_scale_get_max(scale, 0) - zu_rng_scale_get_min(scale, 0);
+  if (!(step > 0.0) || !std::isfinite(step)) return;
+  auto digits = std::min(static_cast<std::int32_t>(std::floor(std::log10(step))) - 1,
+                         zu_rng_scale_get_round_digits(scale));
+  constexpr std::int32_t most_digits = -10;
+  if (digits < most_digits) return;
+  zu_rng_scale_set_round_digits(scale, digits);
+  auto number = [&](double value) {
+    return text_of([&](Tzu_string_adp* a) { zu_round_digits_format_number(digits, value, a); });
+  };
+  constexpr std::int32_t below = 621, above = 622;  // texts of the platform
+  zu_rng_scale_set_min_caption_w(
+      scale, (zu_res_get_wstr(below) + number(zu_rng_scale_get_min_value(scale))).c_str());
+  zu_rng_scale_set_max_caption_w(
+      scale, (zu_res_get_wstr(above) + number(zu_rng_scale_get_max_value(scale))).c_str());
+  for (std::uint64_t i = 0; i < zu_rng_scale_get_size(scale); ++i)
+    zu_rng_scale_set_default_caption(scale, i);
+}
+
 void set_range_scale(const layer_look& look, const source& data, std::size_t field,
                      Tzu_rng_scale* scale) {
   if (look.classes)
     build_classes(look.builder, *look.classes, data, field, scale);
+  else if (!look.breaks.empty())
+    set_breaks(look.breaks, scale);
   else
-    set_breaks(look.breaks.empty() ? equal_intervals(data, field, default_classes) : look.breaks,
-               scale);
+    set_breaks(equal_intervals(data, field, default_classes), scale), set_captions(scale);
   std::size_t classes = zu_rng_scale_get_size(scale);
   if (!look.colors.empty() && look.colors.size() != classes && look.colors.size() != classes + 2)
     throw failure(data.name(), "has " + std::to_string(classes) + " classes, which take as many " +
@@ -177,8 +201,21 @@ void set_channel(Tzu_clr_channel* channel, const layer_look& look, const source&
   }
 }
 
+/// The channels of an image are its own bands, so that it stays what it is when a person goes over
+/// to channels to change them.
+void set_channels_of_image(const source& data, Tzu_rgb_channels* channels) {
+  for (const field& f : data.fields()) {
+    Tzu_clr_channel* of = f.role == role_red     ? zu_rgb_channels_get_red(channels)
+                          : f.role == role_green ? zu_rgb_channels_get_green(channels)
+                          : f.role == role_blue  ? zu_rgb_channels_get_blue(channels)
+                                                 : nullptr;
+    if (of != nullptr) zu_clr_channel_set_prop_name_w(of, wide(f.name).c_str());
+  }
+}
+
 void set_channels(draw_type draw, const layer_look& look, const source& data,
                   Tzu_rgb_channels* channels) {
+  if (draw == draw_type::image) set_channels_of_image(data, channels);
   if (draw == draw_type::gray)
     set_channel(zu_rgb_channels_get_gray(channels), look, data, colored_field(look, data));
   if (draw != draw_type::rgb) return;

@@ -40,24 +40,41 @@ Tzu_color color_of(Tzu_scale_prm* row) {
   return *zu_stl_prm_get_clr_style_ptr(zu_scale_prm_get_stl_prm_ptr(row), 0);
 }
 
-void add_other(Tzu_scale_prm* row, legend_part& part) {
-  if (visible(row)) part.rows.push_back({color_of(row), L"other"});
+/// The caption that `read` gives, or what stands for it where a row has none.
+template <class reader> std::wstring caption(reader read, const std::wstring& otherwise) {
+  std::wstring own = text_of(read);
+  return own.empty() ? otherwise : own;
+}
+
+void add_other(Tzu_scale_prm* row, const std::wstring& text, legend_part& part) {
+  if (visible(row)) part.rows.push_back({color_of(row), text});
 }
 
 /// From the highest class down, as a person reads heights.
 void add_classes(Tzu_rng_scale* scale, legend_part& part) {
   std::uint64_t count = zu_rng_scale_get_size(scale);
   if (Tzu_scale_prm* upper = zu_rng_scale_get_max_prm_ptr(scale); visible(upper))
-    part.rows.push_back({color_of(upper), L"> " + shown(zu_rng_scale_get_max_value(scale))});
+    part.rows.push_back(
+        {color_of(upper),
+         caption([&](Tzu_string_adp* a) { zu_rng_scale_get_max_caption_w(scale, a); },
+                 L"> " + shown(zu_rng_scale_get_max_value(scale)))});
   for (std::uint64_t i = count; i-- > 0;) {
     Tzu_scale_prm* row = zu_rng_scale_get_scale_prm_ptr(scale, i);
     if (!visible(row)) continue;
-    part.rows.push_back({color_of(row), shown(zu_rng_scale_get_min(scale, i)) + L" \x2013 " +
-                                            shown(zu_rng_scale_get_max(scale, i))});
+    part.rows.push_back(
+        {color_of(row), caption([&](Tzu_string_adp* a) { zu_rng_scale_get_caption_w(scale, i, a); },
+                                shown(zu_rng_scale_get_min(scale, i)) + L" \x2013 " +
+                                    shown(zu_rng_scale_get_max(scale, i)))});
   }
   if (Tzu_scale_prm* lower = zu_rng_scale_get_min_prm_ptr(scale); visible(lower))
-    part.rows.push_back({color_of(lower), L"\x2264 " + shown(zu_rng_scale_get_min_value(scale))});
-  add_other(zu_rng_scale_get_other_prm_ptr(scale), part);
+    part.rows.push_back(
+        {color_of(lower),
+         caption([&](Tzu_string_adp* a) { zu_rng_scale_get_min_caption_w(scale, a); },
+                 L"\x2264 " + shown(zu_rng_scale_get_min_value(scale)))});
+  add_other(
+      zu_rng_scale_get_other_prm_ptr(scale),
+      caption([&](Tzu_string_adp* a) { zu_rng_scale_get_other_caption_w(scale, a); }, L"other"),
+      part);
 }
 
 /// Many classes: their colours in a column, with a number at some of their upper ends.
@@ -77,9 +94,14 @@ void add_values(Tzu_val_scale* scale, legend_part& part) {
     Tzu_scale_prm* row = zu_val_scale_get_scale_prm_ptr(scale, i);
     if (!visible(row)) continue;
     std::wstring text = text_of([&](Tzu_string_adp* a) { zu_val_scale_get_text_w(scale, i, a); });
-    part.rows.push_back({color_of(row), text});
+    part.rows.push_back(
+        {color_of(row),
+         caption([&](Tzu_string_adp* a) { zu_val_scale_get_caption_w(scale, i, a); }, text)});
   }
-  add_other(zu_val_scale_get_other_prm_ptr(scale), part);
+  add_other(
+      zu_val_scale_get_other_prm_ptr(scale),
+      caption([&](Tzu_string_adp* a) { zu_val_scale_get_other_caption_w(scale, a); }, L"other"),
+      part);
 }
 
 void add_gray_bar(const Tzu_clr_channel* channel, legend_part& part) {

@@ -31,6 +31,21 @@ std::wstring number(const Tzu_rng_scale* scale, double value) {
   return text_of([&](Tzu_string_adp* a) { zu_round_digits_format_number(digits, value, a); });
 }
 
+/// What a row is called that has been given no other name.
+std::wstring made_caption(const Tzu_rng_scale* scale, std::int64_t row) {
+  placed_row at = placed(scale, row);
+  if (at.where == place::lower_tail) return lower_caption(scale);
+  if (at.where == place::upper_tail) return upper_caption(scale);
+  return class_caption(scale, at.entry);
+}
+
+/// A caption that is made of the limits follows them; one of a person's own stays.
+template <class change> void with_made_caption(Tzu_rng_scale* scale, std::int64_t row, change set) {
+  const bool is_made = range_scale_traits::caption(scale, row) == made_caption(scale, row);
+  set();
+  if (is_made) range_scale_traits::set_caption(scale, row, made_caption(scale, row));
+}
+
 /// A class that was put between its neighbours, which may be tails, takes what lies between them in
 /// colour, hue, transparency and size.
 void style_between_neighbours(Tzu_rng_scale* scale, std::uint64_t index) {
@@ -178,14 +193,18 @@ std::wstring range_scale_traits::maximum(const Tzu_rng_scale* scale, std::int64_
 void range_scale_traits::set_minimum(Tzu_rng_scale* scale, std::int64_t row, double value) {
   placed_row at = placed(scale, row);
   if (at.where == place::entry)
-    zu_rng_scale_set_min(scale, at.entry, value);
+    with_made_caption(scale, row, [&] { zu_rng_scale_set_min(scale, at.entry, value); });
   else
-    zu_rng_scale_set_max_value(scale, value);
+    with_made_caption(scale, row_count(scale) - 1,
+                      [&] { zu_rng_scale_set_max_value(scale, value); });
 }
 void range_scale_traits::set_maximum(Tzu_rng_scale* scale, std::int64_t row, double value) {
   placed_row at = placed(scale, row);
-  if (at.where == place::lower_tail) zu_rng_scale_set_min_value(scale, value);
-  if (at.where == place::entry) zu_rng_scale_set_max(scale, at.entry, value);
+  if (at.where == place::upper_tail) return;
+  with_made_caption(scale, row, [&] {
+    if (at.where == place::lower_tail) return zu_rng_scale_set_min_value(scale, value);
+    zu_rng_scale_set_max(scale, at.entry, value);
+  });
 }
 std::wstring range_scale_traits::row_text(const Tzu_rng_scale* scale, std::int64_t row) {
   return key_text(scale, row) + L" : " + caption(scale, row);

@@ -153,7 +153,7 @@ struct range_scale_traits {
   static void set_other_caption(Tzu_rng_scale* scale, const std::wstring& text);
   static std::wstring minimum(const Tzu_rng_scale* scale, std::int64_t row);
   static std::wstring maximum(const Tzu_rng_scale* scale, std::int64_t row);
-  /// In either tail's row the upper outer boundary is set.
+  /// In either tail's row the upper outer boundary is set. Captions made of limits follow them.
   static void set_minimum(Tzu_rng_scale* scale, std::int64_t row, double value);
   /// In the lower tail's row the lower outer boundary is set, in the upper one's nothing.
   static void set_maximum(Tzu_rng_scale* scale, std::int64_t row, double value);

@@ -266,7 +266,11 @@ void outline_widget::fit_columns() {
     const shown_column& c = model_->column(i);
     const int chosen = c.id.isEmpty() ? 0 : choice(width_name(c)).toInt();
     const int wished = c.width > 0 ? int(std::min(c.width, 1000u)) * layout_unit(this) : 0;
-    const int width = chosen > 0 ? chosen : wished > 0 ? wished : fitting_width(i);
+    // A caption in full, if it takes half as much again at most.
+    const int captioned = std::min(header()->sectionSizeHint(i), wished * 3 / 2);
+    const int width = chosen > 0   ? chosen
+                      : wished > 0 ? std::max(wished, captioned)
+                                   : fitting_width(i);
     header()->resizeSection(i, std::max(width, header()->minimumSectionSize()));
   }
 }

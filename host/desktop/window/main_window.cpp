@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
+#include <QScreen>
 #include <QTabBar>
 #include <QTimer>
 #include <QUrl>
@@ -87,7 +88,7 @@ main_window::main_window(const host::bundle& services, prompts asked)
   show_recent();
   retranslate();
   show_view();
-  resize(first_size);
+  resize(first_size.boundedTo(screen()->availableSize()));
   restore_layout();
 }
 

@@ -98,6 +98,11 @@ enum class caption_form { both = 1, minimum = 2, maximum = 3 };
 /// Captions of all rows from their boundaries, in the language in force; "other" keeps its own.
 /// The tails keep theirs in every form.
 void captions(Tzu_rng_scale* scale, caption_form form = caption_form::both);
+/// What a tail or a class is called by its limits, rounded as the scale says.
+std::wstring lower_caption(const Tzu_rng_scale* scale);
+std::wstring upper_caption(const Tzu_rng_scale* scale);
+std::wstring class_caption(const Tzu_rng_scale* scale, std::uint64_t index,
+                           caption_form form = caption_form::both);
 
 /// Spreads a numbered array of colours over lower tail, classes and upper tail; transparencies
 /// stay. False, and nothing changed, if there is no such array.

@@ -24,6 +24,11 @@ std::vector<Tzu_stl_prm*> styles_of(Tzu_rng_scale* scale) {
 // Texts that all parts of the system share.
 constexpr std::int32_t below_text = -621, above_text = -622, between_text = -623;
 
+std::wstring number(const Tzu_rng_scale* scale, double value) {
+  std::int32_t digits = zu_rng_scale_get_round_digits(scale);
+  return text_of([&](Tzu_string_adp* a) { zu_round_digits_format_number(digits, value, a); });
+}
+
 /// The form with each "%ls" replaced, in order.
 std::wstring filled(std::wstring form, const std::vector<std::wstring>& parts) {
   constexpr std::wstring_view mark = L"%ls";
@@ -55,25 +60,26 @@ void round_boundaries(Tzu_rng_scale* scale, std::int32_t digits) {
   }
 }
 
+std::wstring lower_caption(const Tzu_rng_scale* scale) {
+  return load_text(below_text) + number(scale, zu_rng_scale_get_min_value(scale));
+}
+std::wstring upper_caption(const Tzu_rng_scale* scale) {
+  return load_text(above_text) + number(scale, zu_rng_scale_get_max_value(scale));
+}
+std::wstring class_caption(const Tzu_rng_scale* scale, std::uint64_t index, caption_form form) {
+  std::wstring low = number(scale, zu_rng_scale_get_min(scale, index));
+  std::wstring high = number(scale, zu_rng_scale_get_max(scale, index));
+  if (form == caption_form::minimum) return low;
+  if (form == caption_form::maximum) return high;
+  return filled(load_text(between_text), {low, high});
+}
+
 void captions(Tzu_rng_scale* scale, caption_form form) {
-  std::int32_t digits = zu_rng_scale_get_round_digits(scale);
-  auto number = [&](double value) {
-    return text_of([&](Tzu_string_adp* a) { zu_round_digits_format_number(digits, value, a); });
-  };
-  std::wstring below = load_text(below_text) + number(zu_rng_scale_get_min_value(scale));
-  std::wstring above = load_text(above_text) + number(zu_rng_scale_get_max_value(scale));
-  zu_rng_scale_set_min_caption_w(scale, below.c_str());
-  zu_rng_scale_set_max_caption_w(scale, above.c_str());
-  const std::wstring both = load_text(between_text);
+  zu_rng_scale_set_min_caption_w(scale, lower_caption(scale).c_str());
+  zu_rng_scale_set_max_caption_w(scale, upper_caption(scale).c_str());
   std::uint64_t size = zu_rng_scale_get_size(scale);
-  for (std::uint64_t i = 0; i < size; ++i) {
-    std::wstring low = number(zu_rng_scale_get_min(scale, i));
-    std::wstring high = number(zu_rng_scale_get_max(scale, i));
-    std::wstring text = form == caption_form::minimum   ? low
-                        : form == caption_form::maximum ? high
-                                                        : filled(both, {low, high});
-    zu_rng_scale_set_caption_w(scale, i, text.c_str());
-  }
+  for (std::uint64_t i = 0; i < size; ++i)
+    zu_rng_scale_set_caption_w(scale, i, class_caption(scale, i, form).c_str());
 }
 
 bool spread_colors(Tzu_rng_scale* scale, std::int32_t array) {

@@ -5,6 +5,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDockWidget>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
 #include <QStackedWidget>
@@ -106,6 +107,33 @@ TEST_F(scale_page, shows_a_grid_s_classes_between_two_tails) {
          window_.get());
   }
   choose_language(language::english);
+}
+
+TEST_F(scale_page, names_its_columns_and_its_rows_in_full) {
+  auto* header = rows_->findChild<QHeaderView*>(QStringLiteral("header"));
+  ASSERT_NE(header, nullptr);
+  for (int column : {minimum, maximum, is_shown, drawn, selected})
+    EXPECT_GE(header->sectionSize(column), header->sectionSizeHint(column)) << column;
+  EXPECT_EQ(cell(0, caption).data().toString(), QStringLiteral("up to 235"));
+  EXPECT_EQ(cell(1, caption).data().toString(), QString::fromUtf8("235 – 319.5"));
+  EXPECT_EQ(cell(11, caption).data().toString(), QStringLiteral("above 1080"));
+}
+
+TEST_F(scale_page, a_caption_of_a_person_s_own_stands_in_the_legend_too) {
+  rows_->setFocus();
+  rows_->setCurrentIndex(cell(1, caption));
+  rows_->edit(cell(1, caption));
+  auto* editor = rows_->viewport()->findChild<QLineEdit*>();
+  ASSERT_NE(editor, nullptr);
+  editor->selectAll();
+  QTest::keyClicks(editor, QStringLiteral("shore"));
+  QTest::keyClick(editor, Qt::Key_Return);
+  QCoreApplication::processEvents();
+  map();
+  const QTreeWidgetItem* layer = list().topLevelItem(0);
+  ASSERT_EQ(layer->childCount(), 12);
+  EXPECT_EQ(layer->child(10)->text(0), QStringLiteral("shore"));
+  EXPECT_EQ(layer->child(11)->text(0), QStringLiteral("up to 235"));
 }
 
 TEST_F(scale_page, is_no_wider_than_its_dock) {

@@ -2,6 +2,7 @@
 
 #include <set>
 
+#include "src/style/classes/builders.h"
 #include "tests/unit/src/style/made_scale.h"
 #include "zu/platform/zuk_msgs.h"
 
@@ -405,6 +406,27 @@ TEST_F(range_cells, a_number_in_a_maximum_cell_of_the_upper_tail_is_ignored) {
   m.set_max(99, L"50");
   EXPECT_EQ(cells(),
             (std::vector<std::wstring>{L"-∞..5.0", L"10.0..20.0", L"20.0..30.0", L"30.0..+∞"}));
+}
+
+TEST_F(range_cells, a_made_caption_follows_its_limits_and_one_of_a_person_stays) {
+  zu::style::captions(m.scale());
+  m.set_caption(2, L"high");
+  m.set_max(1, L"15");
+  m.set_min(2, L"15");
+  m.set_max(0, L"5");
+  m.set_min(3, L"40");
+  auto ends = [&](std::int64_t row, const std::wstring& text) {
+    std::wstring caption = m.get_caption(row);
+    return caption.size() > text.size() &&
+           caption.compare(caption.size() - text.size(), text.size(), text) == 0;
+  };
+  EXPECT_TRUE(ends(1, L"15.0"));
+  EXPECT_EQ(m.get_caption(2), L"high");
+  EXPECT_TRUE(ends(0, L" 5.0"));
+  EXPECT_TRUE(ends(3, L"40.0"));
+  m.set_caption(1, L"");
+  m.set_max(1, L"16");
+  EXPECT_EQ(m.get_caption(1), L"") << "no caption is a caption too";
 }
 
 TEST_F(range_cells, a_limit_of_a_class_leaves_its_neighbours_alone) {

@@ -60,26 +60,26 @@ void set_breaks(const std::vector<double>& breaks, Tzu_rng_scale* scale) {
   }
 }
 
-/// What the classes are called, with as many digits as tell neighbours apart. Classes that are too
-/// narrow for that have no captions.
+/// What the classes are called. Limits of many digits are left to the legend, which shows some.
 void set_captions(Tzu_rng_scale* scale) {
-  double step = zu_rng_scale_get_max(scale, 0) - zu_rng_scale_get_min(scale, 0);
-  if (!(step > 0.0) || !std::isfinite(step)) return;
-  auto digits = std::min(static_cast<std::int32_t>(std::floor(std::log10(step))) - 1,
-                         zu_rng_scale_get_round_digits(scale));
-  constexpr std::int32_t most_digits = -10;
-  if (digits < most_digits) return;
-  zu_rng_scale_set_round_digits(scale, digits);
+  constexpr std::size_t most_digits = 9;
+  bool all_short = true;
   auto number = [&](double value) {
-    return text_of([&](Tzu_string_adp* a) { zu_round_digits_format_number(digits, value, a); });
+    std::wstring text = text_of([&](Tzu_string_adp* a) {
+      zu_round_digits_format_number(zu_rng_scale_get_round_digits(scale), value, a);
+    });
+    all_short = all_short && text.size() <= most_digits;
+    return text;
   };
+  const std::uint64_t size = zu_rng_scale_get_size(scale);
+  for (std::uint64_t i = 0; i < size; ++i) number(zu_rng_scale_get_max(scale, i));
   constexpr std::int32_t below = 621, above = 622;  // texts of the platform
-  zu_rng_scale_set_min_caption_w(
-      scale, (zu_res_get_wstr(below) + number(zu_rng_scale_get_min_value(scale))).c_str());
-  zu_rng_scale_set_max_caption_w(
-      scale, (zu_res_get_wstr(above) + number(zu_rng_scale_get_max_value(scale))).c_str());
-  for (std::uint64_t i = 0; i < zu_rng_scale_get_size(scale); ++i)
-    zu_rng_scale_set_default_caption(scale, i);
+  const std::wstring lower = zu_res_get_wstr(below) + number(zu_rng_scale_get_min_value(scale));
+  const std::wstring upper = zu_res_get_wstr(above) + number(zu_rng_scale_get_max_value(scale));
+  if (!all_short) return;
+  zu_rng_scale_set_min_caption_w(scale, lower.c_str());
+  zu_rng_scale_set_max_caption_w(scale, upper.c_str());
+  for (std::uint64_t i = 0; i < size; ++i) zu_rng_scale_set_default_caption(scale, i);
 }
 
 void set_range_scale(const layer_look& look, const source& data, std::size_t field,
@@ -201,8 +201,8 @@ void set_channel(Tzu_clr_channel* channel, const layer_look& look, const source&
   }
 }
 
-/// The channels of an image are its own bands, so that it stays what it is when a person goes over
-/// to channels to change them.
+/// The channels of an image are its own bands, for a person who goes over to channels to change
+/// them.
 void set_channels_of_image(const source& data, Tzu_rgb_channels* channels) {
   for (const field& f : data.fields()) {
     Tzu_clr_channel* of = f.role == role_red     ? zu_rgb_channels_get_red(channels)

@@ -7,7 +7,6 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
-#include <QScreen>
 #include <QTabBar>
 #include <QTimer>
 #include <QUrl>
@@ -88,7 +87,7 @@ main_window::main_window(const host::bundle& services, prompts asked)
   show_recent();
   retranslate();
   show_view();
-  resize(first_size.boundedTo(screen()->availableSize()));
+  resize(first_size);
   restore_layout();
 }
 

@@ -89,7 +89,7 @@ void grid_widget::keep_width(std::uint32_t column) const {
 int grid_widget::fitting_row_height() const {
   constexpr int text_margin = 6, picture_margin = 4, highest_picture = 64;
   const int text = fontMetrics().height() + text_margin;
-  if (places_.rows == 0) return text;
+  if (places_.rows <= places_.fixed_rows) return text;
   const shown_cell first = read_cell(element_, {places_.fixed_columns, places_.fixed_rows});
   if (first.picture.isNull()) return text;
   return std::max(text, std::min(first.picture.height(), highest_picture) + picture_margin);

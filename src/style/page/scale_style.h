@@ -11,7 +11,7 @@ namespace zu::style::detail {
 template <class model> class scale_style : public toolkit::with_element {
  public:
   /// `context` is the type of the layer.
-  explicit scale_style(std::wstring context);
+  explicit scale_style(const std::wstring& context);
 
   model& scale() { return model_; }
   /// The manager is not owned; null is none. Tells `changed` of the model.
@@ -50,8 +50,8 @@ template <class model> class scale_style : public toolkit::with_element {
 
 // The tools take their keys from the model while they are made.
 template <class model>
-scale_style<model>::scale_style(std::wstring context)
-    : field_(with_context(model_, std::move(context))),
+scale_style<model>::scale_style(const std::wstring& context)
+    : field_(with_context(model_, context)),
       tools_(model_),
       menu_(model_),
       outline_(model_),

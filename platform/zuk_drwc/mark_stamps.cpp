@@ -64,7 +64,9 @@ const mark_stamps::mask& mark_stamps::mask_at(int x_step, int y_step) {
 
 void mark_stamps::put(std::uint32_t* words, std::int64_t stride, const pixel_box& bounds,
                       const Tzu_vtx_d2& middle) {
+  constexpr double farthest = 1e9;  // pixels: beyond any page
   double whole_x = std::floor(middle.x), whole_y = std::floor(middle.y);
+  if (!(std::fabs(whole_x) < farthest && std::fabs(whole_y) < farthest)) return;
   auto left = static_cast<std::int64_t>(whole_x) - reach_;
   auto top = static_cast<std::int64_t>(whole_y) - reach_;
   pixel_box shown = common({left, top, left + side_, top + side_}, bounds);

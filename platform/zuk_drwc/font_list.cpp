@@ -45,6 +45,7 @@ void zu_fnt_type_list(Tzu_wstrings* names) {
     pango_font_map_list_families(pango_cairo_font_map_get_default(), &given, &count);
     held<PangoFontFamily*> families(given);
     std::vector<std::wstring> found;
+    found.reserve(count);
     for (int i = 0; i < count; ++i)
       found.push_back(zu::platform::from_utf8(pango_font_family_get_name(given[i])));
     std::sort(found.begin(), found.end());

@@ -243,8 +243,8 @@ static inline double zu_scale_lookup_bits(double value) {
   __builtin_memcpy(&bits, &value, sizeof bits);
   return static_cast<double>(bits ^ ((bits >> 63) & INT64_MAX));
 }
-/// The row of the first key that is not below the value. Halving inside a bucket keeps the look-up
-/// short where the keys crowd in a few buckets.
+/// The row of the first key that is not below the value. Most buckets hold one key or none, which
+/// one comparison without a jump settles; halving keeps the look-up short where keys crowd.
 __attribute__((always_inline)) static inline Tzu_scale_prm* zu_scale_lookup_find(
     const Tzu_scale_lookup& lookup, double value) {
   double place = lookup.by_bits ? zu_scale_lookup_bits(value) : value;
@@ -254,11 +254,14 @@ __attribute__((always_inline)) static inline Tzu_scale_prm* zu_scale_lookup_find
   bucket = bucket < lookup.last_bucket ? bucket : lookup.last_bucket;
   const uint32_t* span = lookup.first_key + static_cast<uint32_t>(bucket);
   const double* key = lookup.keys + span[0];
-  for (uint32_t count = span[1] - span[0]; count > 0;) {
-    uint32_t half = (count + 1) / 2;
-    key += half & -static_cast<uint32_t>(value > key[half - 1]);  // without a jump
-    count -= half;
-  }
+  uint32_t count = span[1] - span[0];
+  if (__builtin_expect(count > 1, 0))
+    do {
+      uint32_t half = (count + 1) / 2;
+      key += half & -static_cast<uint32_t>(value > key[half - 1]);
+      count -= half;
+    } while (count > 1);
+  key += value > *key;  // never past the last one, which is infinite
   return lookup.rows[key - lookup.keys];
 }
 /// Row of a value in a range scale, between begin and end; outside of them "other".

@@ -153,6 +153,7 @@ struct grid_palette_impl : plain_interface<grid_palette_impl> {
   virtual void release() {}
   virtual std::int64_t size() { return 0; }
   /// Red, green, blue and transparency (0 opaque) of an entry; false if there is no such entry.
+  /// Rows of a picture are filled side by side: it is called from several threads at once.
   virtual bool color(std::int64_t /*index*/, std::uint8_t* /*four bytes*/) { return false; }
   using operations =
       in_order<&grid_palette_impl::release, &grid_palette_impl::size, &grid_palette_impl::color>;

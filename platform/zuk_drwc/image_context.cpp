@@ -43,15 +43,19 @@ void image_context::draw(const Tzu_dib_draw_record& record, const Tzu_dib& dib) 
     put_dib(surface_.get(), 0, 0, place, region(), dib, record.alpha);
 }
 
-/// The upper and the lower half of a screen's picture side by side: each is a surface of its own
-/// rows, so that a pixel gets the same ink as from the whole.
+/// The upper and the lower part of a screen's picture side by side: each is a surface of its own
+/// rows, so that a pixel gets the same ink as from the whole. Each has about half of the vertices.
 void image_context::stroke_lines(const strokes& lines) {
   constexpr std::size_t worth_a_thread = 500;  // vertices
-  std::size_t vertices = 0;
-  for (const line_piece& part : lines.parts) vertices += part.vertices.size();
+  std::vector<double> heights;
+  for (const line_piece& part : lines.parts)
+    for (const Tzu_vtx_d2& v : part.vertices) heights.push_back(v.y);
   bool plain = lines.thinned && lines.dashes.empty() && lines.color.a == 0;
-  if (!plain || clipped_ || region_ || vertices < worth_a_thread || ny_ < 2)
+  if (!plain || clipped_ || region_ || heights.size() < worth_a_thread || ny_ < 2)
     return drawing_context::stroke_lines(lines);
+  auto middle = heights.begin() + static_cast<std::ptrdiff_t>(heights.size() / 2);
+  std::nth_element(heights.begin(), middle, heights.end());
+  auto border = static_cast<std::uint64_t>(std::clamp(*middle, 1.0, static_cast<double>(ny_ - 1)));
   cairo_surface_flush(surface_.get());
   auto* bytes = reinterpret_cast<unsigned char*>(words_of(surface_.get()));
   auto row_bytes = static_cast<int>(stride_of(surface_.get()) * 4);
@@ -70,8 +74,8 @@ void image_context::stroke_lines(const strokes& lines) {
         parts.push_back(std::move(piece));
     stroke(cairo.get(), lines, parts);
   };
-  auto upper = std::async(std::launch::async, stroke_rows, std::uint64_t{0}, ny_ / 2);
-  stroke_rows(ny_ / 2, ny_);
+  auto upper = std::async(stroke_rows, std::uint64_t{0}, border);
+  stroke_rows(border, ny_);
   upper.get();
   cairo_surface_mark_dirty(surface_.get());
 }

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <future>
 #include <limits>
 #include <memory>
 #include <new>
@@ -37,8 +38,10 @@ class line_taker final : public OGRLayer {
  public:
   static constexpr int level_field = 0;
 
-  line_taker(const std::vector<double>& levels, const Tzu_matrix3x3& to_map, Tzu_cv_d2& out)
-      : levels_(levels), to_map_(to_map), out_(out), schema_(new OGRFeatureDefn("lines")) {
+  /// The lines of a level go to the set at its place.
+  line_taker(const std::vector<double>& levels, const std::vector<Tzu_ov_d2*>& sets,
+             const Tzu_matrix3x3& to_map)
+      : levels_(levels), sets_(sets), to_map_(to_map), schema_(new OGRFeatureDefn("lines")) {
     schema_->Reference();
     OGRFieldDefn level("level", OFTReal);
     schema_->AddFieldDefn(&level);
@@ -67,7 +70,7 @@ class line_taker final : public OGRLayer {
     auto above = std::lower_bound(levels_.begin(), levels_.end(), value);
     if (above == levels_.end() || (above != levels_.begin() && value - above[-1] < *above - value))
       --above;
-    Tzu_ov_d2& set = *out_.sets[static_cast<std::size_t>(above - levels_.begin())];
+    Tzu_ov_d2& set = *sets_[static_cast<std::size_t>(above - levels_.begin())];
     auto list = std::make_unique<Tzu_pv_d2>();
     list->vertices.resize(static_cast<std::size_t>(line.getNumPoints()));
     for (int i = 0; i < line.getNumPoints(); ++i) {
@@ -79,8 +82,8 @@ class line_taker final : public OGRLayer {
   }
 
   const std::vector<double>& levels_;
+  const std::vector<Tzu_ov_d2*>& sets_;
   const Tzu_matrix3x3 to_map_;
-  Tzu_cv_d2& out_;
   OGRFeatureDefn* schema_;
 };
 
@@ -111,20 +114,38 @@ bool rising(const std::vector<double>& levels) {
   return true;
 }
 
-bool trace(const Tzu_mgrid2d& grid, const std::vector<double>& given, Tzu_cv_d2& out) {
-  std::vector<double> levels = given;  // the generator takes them unconst
+/// Every `step`th level from `first` on, into the sets of those levels.
+bool trace_some(const Tzu_mgrid2d& grid, const std::vector<double>& levels, std::size_t first,
+                std::size_t step, Tzu_cv_d2& out) {
+  CPLErrorHandlerPusher quiet(CPLQuietErrorHandler);  // of this thread alone
+  std::vector<double> some;
+  std::vector<Tzu_ov_d2*> sets;
+  for (std::size_t i = first; i < levels.size(); i += step) {
+    some.push_back(levels[i]);
+    sets.push_back(out.sets[i].get());
+  }
+  if (some.empty()) return true;
+  std::vector<double> unconst = some;  // as the generator takes them
   std::unique_ptr<GDALDataset> dataset = dataset_of(grid);
   if (!dataset) return false;
+  line_taker taker(some, sets, cell_to_map(whole(grid).topology));
+  return GDALContourGenerate(dataset->GetRasterBand(1), 0.0, 0.0, static_cast<int>(some.size()),
+                             unconst.data(), true, std::numeric_limits<double>::quiet_NaN(),
+                             OGRLayer::ToHandle(&taker), -1, line_taker::level_field, nullptr,
+                             nullptr) == CE_None;
+}
+
+/// Levels know nothing of each other, so that every second one can be traced beside the others.
+bool trace(const Tzu_mgrid2d& grid, const std::vector<double>& levels, Tzu_cv_d2& out) {
+  constexpr std::uint64_t worth_a_thread = 10'000;  // nodes
   for (double level : levels) {
     out.sets.push_back(std::make_unique<Tzu_ov_d2>());
     out.sets.back()->level = level;
   }
-  if (levels.empty()) return true;
-  line_taker taker(levels, cell_to_map(whole(grid).topology), out);
-  return GDALContourGenerate(dataset->GetRasterBand(1), 0.0, 0.0, static_cast<int>(levels.size()),
-                             levels.data(), true, std::numeric_limits<double>::quiet_NaN(),
-                             OGRLayer::ToHandle(&taker), -1, line_taker::level_field, nullptr,
-                             nullptr) == CE_None;
+  if (grid.nx * grid.ny < worth_a_thread) return trace_some(grid, levels, 0, 1, out);
+  auto odd = std::async([&] { return trace_some(grid, levels, 1, 2, out); });
+  bool even = trace_some(grid, levels, 0, 2, out);
+  return odd.get() && even;
 }
 
 }  // namespace
@@ -145,7 +166,6 @@ bool zu_mgrid2d_isolines(const Tzu_mgrid2d* grid, const Tzu_dbls* levels, Tzu_cv
   if (out == nullptr) return false;
   out->sets.clear();
   if (!zu::platform::has_nodes(grid) || levels == nullptr) return false;
-  CPLErrorHandlerPusher quiet(CPLQuietErrorHandler);
   bool traced = guarded(out, false, [&](Tzu_cv_d2& o) {
     std::vector<double> values;
     for (uint64_t i = 0; i < zu_dbls_get_size(levels); ++i)

@@ -1,5 +1,7 @@
 #include "src/render/draw_grid.h"
 
+#include <optional>
+
 #include "src/bundle/owned.h"
 #include "src/bundle/strings.h"
 #include "src/render/clip.h"
@@ -82,8 +84,10 @@ void draw_piece(const grid_render_context& context, data::grid_datasource& sourc
   std::uint64_t nx = 0, ny = 0;
   zu_drwc_get_dib_size(context.drwc, &mm, &nx, &ny);
   if (nx == 0 || ny == 0) return;
+  std::optional<isoline_pass> isolines;  // traced while the DIBs are filled
+  if (!selection_only) isolines.emplace(context, box, nx, ny, source);
   draw_dib_pass(context, source, box, mm, nx, ny, selection_only);
-  if (!selection_only) draw_isoline_pass(context, box, nx, ny, source);
+  if (isolines) isolines->draw();
 }
 
 void draw_tiles(const grid_render_context& context, data::grid_datasource& source,

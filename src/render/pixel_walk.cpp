@@ -28,13 +28,13 @@ pixel_walk::pixel_walk(const grid_draw_job& job, const sample_space& space)
     zu_matrix3x3_mult(&pixel_to_sample_, &space.map_to_sample, &space.pixel_to_map);
     return;
   }
-  owned<zu_pv_d2_destroy> pixels = lattice(job.nx, job.ny);
-  owned<zu_pv_d2_destroy> samples(zu_pv_d2_create());
-  zu_pv_d2_assign(samples.get(), pixels.get());
-  zu_pv_d2_apply_matrix3x3(samples.get(), &space.pixel_to_map);
-  zu_rpj_fb_d2_apply_pv(reprojection.rpj, samples.get(), 0);
-  zu_pv_d2_apply_matrix3x3(samples.get(), &space.map_to_sample);
-  mesh_.reset(zu_trimesh_d2_create(samples.get(), pixels.get()));
+  pixels_ = lattice(job.nx, job.ny);
+  samples_.reset(zu_pv_d2_create());
+  zu_pv_d2_assign(samples_.get(), pixels_.get());
+  zu_pv_d2_apply_matrix3x3(samples_.get(), &space.pixel_to_map);
+  zu_rpj_fb_d2_apply_pv(reprojection.rpj, samples_.get(), 0);
+  zu_pv_d2_apply_matrix3x3(samples_.get(), &space.map_to_sample);
+  mesh_.reset(zu_trimesh_d2_create(samples_.get(), pixels_.get()));
 }
 
 }  // namespace zu

@@ -255,8 +255,7 @@ __attribute__((always_inline)) static inline Tzu_scale_prm* zu_scale_lookup_find
   const uint32_t* span = lookup.first_key + static_cast<uint32_t>(bucket);
   const double* key = lookup.keys + span[0];
   uint32_t count = span[1] - span[0];
-  if (__builtin_expect(count > 1, 0))
-    do {
+  if (__builtin_expect(count > 1, 0)) do {
       uint32_t half = (count + 1) / 2;
       key += half & -static_cast<uint32_t>(value > key[half - 1]);
       count -= half;

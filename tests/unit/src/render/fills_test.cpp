@@ -46,6 +46,22 @@ TEST_P(fills, a_pixel_smaller_than_a_cell_shows_the_cell_it_starts_in) {
                                                       red, red, red, green, green, green}));
 }
 
+TEST_P(fills, a_large_picture_whose_rows_are_shared_out_has_every_pixel) {
+  made_source s(3, 2);
+  s.add(L"z", {5, 15, 25, 15, 25, 5});
+  two_classes(bench);
+  constexpr std::size_t nx = 600, ny = 402;
+  ASSERT_TRUE(bench.fill(s, {0, 0, 3, 2}, nx, ny));
+  const std::uint32_t expected[2][3] = {{red, green, opaque(1, 1, 1)},
+                                        {green, opaque(1, 1, 1), red}};
+  std::vector<std::uint32_t> all = bench.main();
+  ASSERT_EQ(all.size(), nx * ny);
+  std::size_t wrong = 0;
+  for (std::size_t i = 0; i < all.size(); ++i)
+    if (all[i] != expected[i / nx * 2 / ny][i % nx * 3 / nx]) ++wrong;
+  EXPECT_EQ(wrong, 0u);
+}
+
 TEST_P(fills, decimation_takes_the_sample_in_the_middle_of_its_step) {
   made_source s(4, 4);
   s.add(L"z", {1, 1, 1, 1, 1, 5, 1, 15, 1, 1, 1, 1, 1, 25, 1, 5});

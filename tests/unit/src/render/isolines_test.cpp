@@ -22,7 +22,7 @@ const Tzu_color red{255, 0, 0, 0}, blue{0, 0, 255, 0};
 
 /// A page of 40 by 40 pixels over 40 by 40 cells, drawn by matrix or by the mesh of an identity
 /// step.
-class isoline_pass : public testing::TestWithParam<bool> {
+class drawn_isolines : public testing::TestWithParam<bool> {
  protected:
   made_source source{cells, cells};
   owned<zu_isoline_style_destroy> style{zu_isoline_style_create()};
@@ -32,7 +32,7 @@ class isoline_pass : public testing::TestWithParam<bool> {
   Tzu_box_d2 box{0, 0, side, side};
   std::uint64_t nx = side, ny = side;
 
-  isoline_pass() {
+  drawn_isolines() {
     // At x the field "east" has the value x, and "north" has y at y.
     std::vector<double> east, north;
     for (int i = 0; i < cells * cells; ++i) {
@@ -73,7 +73,7 @@ class isoline_pass : public testing::TestWithParam<bool> {
     context.drwc = page_.get();
     data::grid_datasource data;
     ASSERT_TRUE(data.attach(source.handle()) && data.bind(L"made", 0));
-    draw_isoline_pass(context, box, nx, ny, data);
+    zu::isoline_pass(context, box, nx, ny, data).draw();
   }
   bool has_ink() { return zu_drwc_has_ink(page_.get()); }
   /// Columns (or rows from the south) that a line of a colour, or any, goes through.
@@ -95,10 +95,10 @@ class isoline_pass : public testing::TestWithParam<bool> {
   owned<zu_drwc_destroy> page_;
   owned<zu_rpj_fb_d2_destroy> rpj_{zu_rpj_fb_d2_create()};
 };
-INSTANTIATE_TEST_SUITE_P(both_forms, isoline_pass, testing::Values(false, true),
+INSTANTIATE_TEST_SUITE_P(both_forms, drawn_isolines, testing::Values(false, true),
                          [](const auto& form) { return form.param ? "mesh" : "matrix"; });
 
-TEST_P(isoline_pass, a_line_lies_where_the_field_has_its_level) {
+TEST_P(drawn_isolines, a_line_lies_where_the_field_has_its_level) {
   draw();
   EXPECT_EQ(columns(), (std::set<int>{19, 20}));  // a line of 0.2 mm on the edge between two pixels
   // Nodes stand every five pixels from 0 to 35; that of row 0 has no value.
@@ -109,14 +109,14 @@ TEST_P(isoline_pass, a_line_lies_where_the_field_has_its_level) {
   EXPECT_EQ(rows(), (std::set<int>{19, 20}));
 }
 
-TEST_P(isoline_pass, multiples_of_the_bold_step_have_the_bold_style) {
+TEST_P(drawn_isolines, multiples_of_the_bold_step_have_the_bold_style) {
   steps(10, 20);
   draw();
   EXPECT_EQ(columns(&red), (std::set<int>{9, 10, 29, 30}));
   EXPECT_EQ(columns(&blue), (std::set<int>{19, 20}));
 }
 
-TEST_P(isoline_pass, samples_are_bilinear_whatever_the_layer_has) {
+TEST_P(drawn_isolines, samples_are_bilinear_whatever_the_layer_has) {
   steps(7, 1000);
   draw();
   std::set<int> without = columns();
@@ -126,7 +126,7 @@ TEST_P(isoline_pass, samples_are_bilinear_whatever_the_layer_has) {
   EXPECT_EQ(without, (std::set<int>{6, 7, 13, 14, 20, 21, 27, 28}));
 }
 
-TEST_P(isoline_pass, without_a_field_of_its_own_it_follows_the_colouring_field) {
+TEST_P(drawn_isolines, without_a_field_of_its_own_it_follows_the_colouring_field) {
   zu_isoline_style_set_propname(style.get(), L"");
   draw();
   EXPECT_FALSE(has_ink());  // a simple style has none
@@ -136,7 +136,7 @@ TEST_P(isoline_pass, without_a_field_of_its_own_it_follows_the_colouring_field) 
   EXPECT_EQ(rows(), (std::set<int>{19, 20}));
 }
 
-TEST_P(isoline_pass, nothing_is_drawn_without_a_use_a_level_or_a_field) {
+TEST_P(drawn_isolines, nothing_is_drawn_without_a_use_a_level_or_a_field) {
   zu_isoline_style_set_propname(style.get(), L"flat");
   draw();
   EXPECT_FALSE(has_ink()) << "of a constant field";
@@ -164,7 +164,7 @@ TEST_P(isoline_pass, nothing_is_drawn_without_a_use_a_level_or_a_field) {
   EXPECT_TRUE(has_ink());
 }
 
-TEST_P(isoline_pass, a_dib_narrower_or_lower_than_five_pixels_has_no_lines) {
+TEST_P(drawn_isolines, a_dib_narrower_or_lower_than_five_pixels_has_no_lines) {
   steps(1, 1000);
   struct {
     std::uint64_t nx, ny;
@@ -177,13 +177,13 @@ TEST_P(isoline_pass, a_dib_narrower_or_lower_than_five_pixels_has_no_lines) {
   }
 }
 
-TEST_P(isoline_pass, neither_opacity_nor_the_colours_of_the_layer_reach_the_lines) {
+TEST_P(drawn_isolines, neither_opacity_nor_the_colours_of_the_layer_reach_the_lines) {
   params.alpha = 0;
   draw();
   EXPECT_EQ(columns(&red), (std::set<int>{19, 20}));
 }
 
-TEST_P(isoline_pass, lines_are_clipped_as_the_raster_is_and_the_clip_ends_with_them) {
+TEST_P(drawn_isolines, lines_are_clipped_as_the_raster_is_and_the_clip_ends_with_them) {
   Tzu_pv_d2* ring = zu_ov_d2_add(polygon.get());
   for (Tzu_vtx_d2 v : {Tzu_vtx_d2{0, 10}, {40, 10}, {40, 20}, {0, 20}, {0, 10}})
     zu_pv_d2_add_vtx(ring, &v);
@@ -193,7 +193,7 @@ TEST_P(isoline_pass, lines_are_clipped_as_the_raster_is_and_the_clip_ends_with_t
   EXPECT_EQ(*rows().rbegin(), 19);
 }
 
-TEST_P(isoline_pass, a_hole_in_the_field_cuts_the_lines) {
+TEST_P(drawn_isolines, a_hole_in_the_field_cuts_the_lines) {
   std::vector<double> east;
   for (int i = 0; i < cells * cells; ++i) east.push_back(5 * (i % cells) + 2.5);
   auto& holed = source.add(L"holed", east);

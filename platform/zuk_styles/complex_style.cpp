@@ -24,7 +24,7 @@ complex_part& complex_part::operator=(complex_part&& other) noexcept = default;
 complex_part::~complex_part() = default;
 
 Tzu_cpx_style* complex_part::made() {
-  if (!style_) style_ = std::make_unique<Tzu_cpx_style>(Tzu_cpx_style{kind_, {}});
+  if (!style_) style_ = std::make_unique<Tzu_cpx_style>(Tzu_cpx_style{{kind_, {}}});
   return style_.get();
 }
 
@@ -67,7 +67,7 @@ template <class base, class change> void for_each_layer(Tzu_cpx_style& style, ch
 
 }  // namespace
 
-style_layer* Tzu_cpx_style::add_layer(const std::string& type) {
+style_layer* Tzu_style_lrs::add_layer(const std::string& type) {
   style_layer made;
   if (type.compare(0, kind.size(), kind) != 0 || !make_layer(type, made)) return nullptr;
   layers.push_back(std::move(made));
@@ -79,7 +79,7 @@ style_layer* Tzu_cpx_style::add_layer(const std::string& type) {
 Tzu_cpx_style* zu_cpx_style_create(const char* kind) {
   std::string_view name = kind != nullptr ? kind : "";
   if (std::find(std::begin(kinds), std::end(kinds), name) == std::end(kinds)) return nullptr;
-  return new (std::nothrow) Tzu_cpx_style{std::string(name), {}};
+  return new (std::nothrow) Tzu_cpx_style{{std::string(name), {}}};
 }
 void zu_cpx_style_destroy(Tzu_cpx_style* style) { delete style; }
 void zu_cpx_style_assign(Tzu_cpx_style* style, const Tzu_cpx_style* from) {
@@ -128,4 +128,34 @@ void zu_cpx_pgn_style_set_color(Tzu_cpx_style* style, Tzu_color color) {
       fill->color = color;
       return;
     }
+}
+
+Tzu_style_lrs* zu_cpx_style_get_style_lrs_ptr(Tzu_cpx_style* style) { return style; }
+uint64_t zu_style_lrs_get_size(const Tzu_style_lrs* layers) {
+  return layers != nullptr ? layers->layers.size() : 0;
+}
+Tzu_style_lr* zu_style_lrs_get_lr_ptr(Tzu_style_lrs* layers, uint64_t index) {
+  return index < zu_style_lrs_get_size(layers) ? &layers->layers[index] : nullptr;
+}
+Tzu_style_lr* zu_style_lrs_add_lr(Tzu_style_lrs* layers, const char* type) {
+  if (type == nullptr) return nullptr;
+  return guarded(layers, static_cast<Tzu_style_lr*>(nullptr),
+                 [&](Tzu_style_lrs& l) { return l.add_layer(type); });
+}
+const char* zu_style_lr_get_type(const Tzu_style_lr* layer) {
+  return layer != nullptr ? layer->type.c_str() : "";
+}
+void zu_style_lr_assign(Tzu_style_lr* layer, const Tzu_style_lr* from) {
+  if (from == nullptr) return;
+  guarded(layer, [&](Tzu_style_lr& l) {
+    if (l.type == from->type) l = Tzu_style_lr(*from);
+  });
+}
+int32_t zu_style_lr_get_render_level(const Tzu_style_lr* layer) {
+  if (layer == nullptr) return 0;
+  return std::visit([](const auto& simple) { return simple.render_level; }, layer->style);
+}
+void zu_style_lr_set_render_level(Tzu_style_lr* layer, int32_t level) {
+  if (layer != nullptr)
+    std::visit([&](auto& simple) { simple.render_level = level; }, layer->style);
 }

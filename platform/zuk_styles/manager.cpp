@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "platform/zuk_basic/guarded.h"
+#include "platform/zuk_styles/render_levels.h"
 #include "platform/zuk_styles/scales.h"
 
 using zu::platform::guarded;
@@ -20,6 +21,7 @@ struct Tzu_stl_mngr {
   zu::platform::value_scale values, rules;
   zu::platform::range_scale ranges;
   bool just_loaded = false;
+  bool use_render_levels = false;
 };
 
 namespace {
@@ -30,6 +32,31 @@ void give(const Tzu_stl_mngr* manager, std::wstring Tzu_stl_mngr::*name, Tzu_str
 
 void take(Tzu_stl_mngr* manager, std::wstring Tzu_stl_mngr::*name, const wchar_t* text) {
   guarded(manager, [&](Tzu_stl_mngr& m) { m.*name = text != nullptr ? text : L""; });
+}
+
+// Those of both styles of a parameter, of the kind that its manager draws.
+void add_levels(const Tzu_stl_prm& prm, std::string_view type, zu::platform::level_set& levels) {
+  zu::platform::style_parameters copy(prm);  // of which symbols may be made
+  for (int i = 0; i < 2; ++i) {
+    if (type == types[1]) zu::platform::add_levels(*zu_stl_prm_get_pnt_style_ptr(&copy, i), levels);
+    if (type == types[2]) zu::platform::add_levels(*zu_stl_prm_get_pln_style_ptr(&copy, i), levels);
+    if (type == types[3]) zu::platform::add_levels(*zu_stl_prm_get_pgn_style_ptr(&copy, i), levels);
+  }
+}
+
+/// Calls `use(style)` for each style that the mode in use draws with.
+template <class function> void for_each_style(const Tzu_stl_mngr& m, const function& use) {
+  auto rows = [&](auto& scale) {
+    for (auto& each : scale.classes) use(each.row.get()->style);
+    use(scale.other.style);
+  };
+  if (m.mode == zu_style_simple) use(m.simple);
+  if (m.mode == zu_style_value) rows(m.values);
+  if (m.mode == zu_style_rule) rows(m.rules);
+  if (m.mode != zu_style_range) return;
+  rows(m.ranges);
+  use(m.ranges.lower.style);
+  use(m.ranges.upper.style);
 }
 
 }  // namespace
@@ -93,6 +120,20 @@ bool zu_stl_mngr_get_just_loaded(const Tzu_stl_mngr* manager) {
 }
 void zu_stl_mngr_set_just_loaded(Tzu_stl_mngr* manager, bool loaded) {
   if (manager != nullptr) manager->just_loaded = loaded;
+}
+bool zu_stl_mngr_get_use_render_levels(const Tzu_stl_mngr* manager) {
+  return manager != nullptr && manager->use_render_levels;
+}
+void zu_stl_mngr_set_use_render_levels(Tzu_stl_mngr* manager, bool use) {
+  if (manager != nullptr) manager->use_render_levels = use;
+}
+void zu_stl_mngr_get_render_levels(const Tzu_stl_mngr* manager, Tzu_ints* levels) {
+  if (!zu_stl_mngr_get_use_render_levels(manager)) return;
+  guarded(manager, [&](const Tzu_stl_mngr& m) {
+    zu::platform::level_set found{0};
+    for_each_style(m, [&](const Tzu_stl_prm& prm) { add_levels(prm, m.type, found); });
+    for (int32_t level : found) zu_ints_add(levels, level);
+  });
 }
 
 // Colours do not turn: a manager of them has no rotation.

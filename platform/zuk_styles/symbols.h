@@ -40,6 +40,7 @@ struct with_complex {
   const Tzu_cpx_style* drawn_complex() const;
   bool use_complex = false;
   complex_part complex;
+  int32_t render_level = 0;
 };
 
 }  // namespace zu::platform
@@ -71,6 +72,7 @@ struct Tzu_bpln_style : zu::platform::with_complex {
 struct Tzu_bnum_style {
   Tzu_color color{0, 0, 0, 0};
   double size = 2.5;  // millimetres
+  int32_t render_level = 0;
 };
 
 struct Tzu_pln_style {
@@ -98,19 +100,21 @@ struct Tzu_pgn_style {
   bool vertex_visible = false, number_visible = false;
 };
 
-namespace zu::platform {
-
 /// One layer of a complex style: a base style, whose own complex style is not looked at.
-struct style_layer {
+struct Tzu_style_lr {
   std::string type;  ///< "pnt_figr_slr", "pnt_symb_slr", "pln_line_slr" or "pgn_fill_slr"
   std::variant<Tzu_bpnt_style, Tzu_bpln_style, Tzu_bpgn_style> style;
 };
 
-}  // namespace zu::platform
-
-struct Tzu_cpx_style {
+struct Tzu_style_lrs {
   std::string kind;  ///< "pnt", "pln" or "pgn"
-  std::vector<zu::platform::style_layer> layers;
+  std::vector<Tzu_style_lr> layers;
   /// A layer on top, as a new one of its type is; null if the type is not of the kind or unknown.
-  zu::platform::style_layer* add_layer(const std::string& type);
+  Tzu_style_lr* add_layer(const std::string& type);
 };
+
+struct Tzu_cpx_style : Tzu_style_lrs {};
+
+namespace zu::platform {
+using style_layer = Tzu_style_lr;
+}

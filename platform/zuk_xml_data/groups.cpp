@@ -39,6 +39,8 @@ bool load_manager(Tzu_xnode* group, const char* type, Tzu_stl_mngr* manager) {
   std::int64_t mode = zu_xnode_get_attr_int_w(group, L"mode", zu_style_simple);
   if (mode >= zu_style_simple && mode <= zu_style_rule)
     zu_stl_mngr_set_mode(fresh.get(), static_cast<std::int32_t>(mode));
+  zu_stl_mngr_set_use_render_levels(fresh.get(),
+                                    zu_xnode_get_attr_bool_w(group, L"use_render_levels", false));
   if (node_ptr simple(zu_xnode_get_node_w(group, L"simple")); simple)
     load_style(simple.get(), *zu_stl_mngr_get_simple_sp_ptr(fresh.get()), kind_of(fresh.get()));
   node_ptr values(zu_xnode_get_node_w(group, L"values"));
@@ -61,6 +63,8 @@ void zu_xml_save_style_save_mngr_style(void*, Tzu_xnode* node, const wchar_t* ke
     if (!group) return;
     zu_xnode_set_attr_wstr(group.get(), L"type", zu::platform::from_utf8(type).c_str());
     zu_xnode_set_attr_int_w(group.get(), L"mode", zu_stl_mngr_get_mode(&m));
+    if (zu_stl_mngr_get_use_render_levels(&m))
+      zu_xnode_set_attr_bool_w(group.get(), L"use_render_levels", true);
     node_ptr simple(zu_xnode_add_node_w(group.get(), L"simple"));
     save_style(simple.get(), *zu_stl_mngr_get_simple_sp_ptr(const_cast<Tzu_stl_mngr*>(&m)),
                kind_of(&m));

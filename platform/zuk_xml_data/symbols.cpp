@@ -16,6 +16,16 @@ constexpr std::int32_t caps = 3, joins = 3;
 
 // --- Base styles, without their layers
 
+/// Level 0 is not written: what uses no levels reads as it always did.
+void save_level(Tzu_xnode* node, std::int32_t level) {
+  if (level != 0) zu_xnode_set_attr_int_w(node, L"render_level", level);
+}
+
+void load_level(Tzu_xnode* node, std::int32_t& level) {
+  std::int64_t read = zu_xnode_get_attr_int_w(node, L"render_level", level);
+  if (read >= INT32_MIN && read <= INT32_MAX) level = static_cast<std::int32_t>(read);
+}
+
 void save_fields(Tzu_xnode* node, const Tzu_bpnt_style& point) {
   zu_xnode_set_attr_bool_w(node, L"use_figure", point.use_figure);
   zu_xnode_set_attr_int_w(node, L"figure", point.figure);
@@ -26,6 +36,7 @@ void save_fields(Tzu_xnode* node, const Tzu_bpnt_style& point) {
   zu_xnode_set_attr_dbl_w(node, L"dx", point.dx);
   zu_xnode_set_attr_dbl_w(node, L"dy", point.dy);
   zu_xnode_set_attr_dbl_w(node, L"angle", point.angle);
+  save_level(node, point.render_level);
 }
 
 void load_fields(Tzu_xnode* node, Tzu_bpnt_style& point) {
@@ -40,6 +51,7 @@ void load_fields(Tzu_xnode* node, Tzu_bpnt_style& point) {
   load_number(node, L"dx", point.dx);
   load_number(node, L"dy", point.dy);
   load_number(node, L"angle", point.angle);
+  load_level(node, point.render_level);
 }
 
 void save_fields(Tzu_xnode* node, const Tzu_bpln_style& line) {
@@ -48,6 +60,7 @@ void save_fields(Tzu_xnode* node, const Tzu_bpln_style& line) {
   zu_xnode_set_attr_int_w(node, L"cap", line.cap);
   zu_xnode_set_attr_int_w(node, L"join", line.join);
   save_color(node, L"color", line.color);
+  save_level(node, line.render_level);
 }
 
 void load_fields(Tzu_xnode* node, Tzu_bpln_style& line) {
@@ -56,13 +69,18 @@ void load_fields(Tzu_xnode* node, Tzu_bpln_style& line) {
   load_choice(node, L"cap", line.cap, caps);
   load_choice(node, L"join", line.join, joins);
   load_color(node, L"color", line.color);
+  load_level(node, line.render_level);
 }
 
 void save_fields(Tzu_xnode* node, const Tzu_bpgn_style& fill) {
   save_color(node, L"color", fill.color);
+  save_level(node, fill.render_level);
 }
 
-void load_fields(Tzu_xnode* node, Tzu_bpgn_style& fill) { load_color(node, L"color", fill.color); }
+void load_fields(Tzu_xnode* node, Tzu_bpgn_style& fill) {
+  load_color(node, L"color", fill.color);
+  load_level(node, fill.render_level);
+}
 
 // --- Layers
 
@@ -106,7 +124,7 @@ template <class base> void load_base(Tzu_xnode* node, base& style) {
 
 auto fields_of(const Tzu_bpnt_style& p) {
   return std::tie(p.use_figure, p.figure, p.symbol, p.font, p.color.r, p.color.g, p.color.b,
-                  p.color.a, p.size, p.dx, p.dy, p.angle, p.use_complex);
+                  p.color.a, p.size, p.dx, p.dy, p.angle, p.use_complex, p.render_level);
 }
 bool is_as(const Tzu_bpnt_style& fresh, const Tzu_bpnt_style& point) {
   const Tzu_cpx_style* complex = point.complex.get();
@@ -135,18 +153,20 @@ void load_mark(Tzu_xnode* node, const wchar_t* key, Tzu_bpnt_style& mark, bool& 
 void save_number(Tzu_xnode* node, const Tzu_bnum_style& number) {
   static const Tzu_bnum_style fresh;
   auto fields = [](const Tzu_bnum_style& n) {
-    return std::tie(n.color.r, n.color.g, n.color.b, n.color.a, n.size);
+    return std::tie(n.color.r, n.color.g, n.color.b, n.color.a, n.size, n.render_level);
   };
   if (fields(number) == fields(fresh)) return;
   node_ptr group(zu_xnode_add_node_w(node, L"number"));
   save_color(group.get(), L"color", number.color);
   zu_xnode_set_attr_dbl_w(group.get(), L"size", number.size);
+  save_level(group.get(), number.render_level);
 }
 
 void load_number(Tzu_xnode* node, Tzu_bnum_style& number) {
   node_ptr group(zu_xnode_get_node_w(node, L"number"));
   load_color(group.get(), L"color", number.color);
   load_length(group.get(), L"size", number.size);
+  load_level(group.get(), number.render_level);
 }
 
 }  // namespace

@@ -305,6 +305,13 @@ ZU_API Tzu_stl_mngr* zu_pgn_stl_mngr_create(void);
 ZU_API bool zu_stl_mngr_get_just_loaded(const Tzu_stl_mngr* manager);
 ZU_API void zu_stl_mngr_set_just_loaded(Tzu_stl_mngr* manager, bool loaded);
 
+/// Whether objects are drawn by the render levels of the parts of their styles; false unless set.
+ZU_API bool zu_stl_mngr_get_use_render_levels(const Tzu_stl_mngr* manager);
+ZU_API void zu_stl_mngr_set_use_render_levels(Tzu_stl_mngr* manager, bool use);
+/// Adds the levels to draw one after the other, rising: those that the parts of the styles in use
+/// have, and 0, the level of whatever else the layer draws. None if the manager uses no levels.
+ZU_API void zu_stl_mngr_get_render_levels(const Tzu_stl_mngr* manager, Tzu_ints* levels);
+
 /// How markers turn with a field; of no effect on a raster.
 typedef struct Tzu_rotate_params Tzu_rotate_params;
 ZU_API bool zu_stl_mngr_get_rotate_flag(const Tzu_stl_mngr* manager);

@@ -15,6 +15,11 @@ ZU_API bool zu_fnt_type_equal(const Tzu_fnt_type* a, const Tzu_fnt_type* b);
 ZU_API void zu_fnt_type_get_wname(const Tzu_fnt_type* font, Tzu_string_adp* adapter);
 ZU_API void zu_fnt_type_set_wname(Tzu_fnt_type* font, const wchar_t* family);
 
+// --- Render levels: whole numbers on the parts of styles, 0 unless set. Where a manager uses them
+// (`zu_stl_mngr_set_use_render_levels`) all that its objects draw at a lower level is drawn before
+// anything of a higher one; parts of one level keep their order. A part with a complex style in use
+// is drawn at the levels of its layers. Copies carry them.
+
 // --- Complex styles: layers of simple ones, drawn in their order.
 
 typedef struct Tzu_cpx_style Tzu_cpx_style;
@@ -31,6 +36,22 @@ ZU_API void zu_cpx_pln_style_set_line_width(Tzu_cpx_style* style, double millime
 /// Of the lowest fill. False, and the output as it was, if there is none.
 ZU_API bool zu_cpx_pgn_style_get_color(const Tzu_cpx_style* style, Tzu_color* color);
 ZU_API void zu_cpx_pgn_style_set_color(Tzu_cpx_style* style, Tzu_color color);
+
+/// The layers of a complex style, the lowest first; owned by it.
+typedef struct Tzu_style_lrs Tzu_style_lrs;
+typedef struct Tzu_style_lr Tzu_style_lr;
+ZU_API Tzu_style_lrs* zu_cpx_style_get_style_lrs_ptr(Tzu_cpx_style* style);
+ZU_API uint64_t zu_style_lrs_get_size(const Tzu_style_lrs* layers);
+/// Null if there is no such layer. It lives until the list gets another one or is assigned.
+ZU_API Tzu_style_lr* zu_style_lrs_get_lr_ptr(Tzu_style_lrs* layers, uint64_t index);
+/// A new layer on top, of the type "pnt_figr_slr", "pnt_symb_slr", "pln_line_slr" or
+/// "pgn_fill_slr"; null for a type that is unknown or of another kind of style.
+ZU_API Tzu_style_lr* zu_style_lrs_add_lr(Tzu_style_lrs* layers, const char* type);
+ZU_API const char* zu_style_lr_get_type(const Tzu_style_lr* layer);  ///< empty for null
+/// Becomes a copy of a layer of the same type; another one changes nothing.
+ZU_API void zu_style_lr_assign(Tzu_style_lr* layer, const Tzu_style_lr* from);
+ZU_API int32_t zu_style_lr_get_render_level(const Tzu_style_lr* layer);
+ZU_API void zu_style_lr_set_render_level(Tzu_style_lr* layer, int32_t level);
 
 // --- Points: a figure or a character.
 
@@ -79,6 +100,8 @@ ZU_API void zu_bpnt_style_set_angle(Tzu_bpnt_style* style, double degrees);
 ZU_API bool zu_bpnt_style_get_use_complex(const Tzu_bpnt_style* style);
 ZU_API void zu_bpnt_style_set_use_complex(Tzu_bpnt_style* style, bool complex);
 ZU_API Tzu_cpx_style* zu_bpnt_style_get_complex_style(Tzu_bpnt_style* style);
+ZU_API int32_t zu_bpnt_style_get_render_level(const Tzu_bpnt_style* style);
+ZU_API void zu_bpnt_style_set_render_level(Tzu_bpnt_style* style, int32_t level);
 
 typedef struct Tzu_pnt_style Tzu_pnt_style;
 ZU_API Tzu_pnt_style* zu_pnt_style_create(void);  ///< a gray circle of 2 mm; null: no memory
@@ -108,6 +131,8 @@ ZU_API void zu_bpln_style_set_dashes(Tzu_bpln_style* style, int32_t count, const
 ZU_API bool zu_bpln_style_get_use_complex(const Tzu_bpln_style* style);
 ZU_API void zu_bpln_style_set_use_complex(Tzu_bpln_style* style, bool complex);
 ZU_API Tzu_cpx_style* zu_bpln_style_get_complex_style(Tzu_bpln_style* style);
+ZU_API int32_t zu_bpln_style_get_render_level(const Tzu_bpln_style* style);
+ZU_API void zu_bpln_style_set_render_level(Tzu_bpln_style* style, int32_t level);
 
 /// Text of numbers along a line or in a polygon.
 typedef struct Tzu_bnum_style Tzu_bnum_style;
@@ -115,6 +140,9 @@ ZU_API Tzu_color zu_bnum_style_get_color(const Tzu_bnum_style* style);
 ZU_API void zu_bnum_style_set_color(Tzu_bnum_style* style, Tzu_color color);
 ZU_API double zu_bnum_style_get_size(const Tzu_bnum_style* style);
 ZU_API void zu_bnum_style_set_size(Tzu_bnum_style* style, double millimetres);
+/// Numbers interrupt their line and are drawn with it, whatever their level.
+ZU_API int32_t zu_bnum_style_get_render_level(const Tzu_bnum_style* style);
+ZU_API void zu_bnum_style_set_render_level(Tzu_bnum_style* style, int32_t level);
 
 typedef struct Tzu_pln_style Tzu_pln_style;
 /// A visible black line of 0.2 mm, round caps and joins, without marks and numbers; null if out of
@@ -152,6 +180,8 @@ ZU_API void zu_bpgn_style_set_color(Tzu_bpgn_style* style, Tzu_color color);
 ZU_API bool zu_bpgn_style_get_use_complex(const Tzu_bpgn_style* style);
 ZU_API void zu_bpgn_style_set_use_complex(Tzu_bpgn_style* style, bool complex);
 ZU_API Tzu_cpx_style* zu_bpgn_style_get_complex_style(Tzu_bpgn_style* style);
+ZU_API int32_t zu_bpgn_style_get_render_level(const Tzu_bpgn_style* style);
+ZU_API void zu_bpgn_style_set_render_level(Tzu_bpgn_style* style, int32_t level);
 
 typedef struct Tzu_pgn_style Tzu_pgn_style;
 /// A black half transparent fill with the line of `zu_pln_style_create` around it; null if out of
@@ -171,3 +201,14 @@ ZU_API bool zu_pgn_style_get_pnt_visible(const Tzu_pgn_style* style);
 ZU_API void zu_pgn_style_set_pnt_visible(Tzu_pgn_style* style, bool visible);
 ZU_API bool zu_pgn_style_get_num_visible(const Tzu_pgn_style* style);
 ZU_API void zu_pgn_style_set_num_visible(Tzu_pgn_style* style, bool visible);
+
+// --- Parts by level
+
+// Becomes a copy of `from` in which only what is drawn at a level shows. False, and the style as it
+// was, if nothing is.
+ZU_API bool zu_pnt_style_assign_level(Tzu_pnt_style* style, const Tzu_pnt_style* from,
+                                      int32_t level);
+ZU_API bool zu_pln_style_assign_level(Tzu_pln_style* style, const Tzu_pln_style* from,
+                                      int32_t level);
+ZU_API bool zu_pgn_style_assign_level(Tzu_pgn_style* style, const Tzu_pgn_style* from,
+                                      int32_t level);

@@ -34,6 +34,32 @@ node_ptr tree_of(const std::string& text) {
   return node_ptr(zu_xnode_read(text.data(), text.size(), nullptr));
 }
 
+TEST(style_groups, levels_are_written_where_they_are_not_0) {
+  manager_ptr manager(zu_stl_mngr_create(lines));
+  EXPECT_EQ(written_by(saving(manager.get())).find(L"level"), std::wstring::npos);
+  Tzu_pln_style* line =
+      zu_stl_prm_get_pln_style_ptr(zu_stl_mngr_get_simple_sp_ptr(manager.get()), 0);
+  zu_bpln_style_set_render_level(zu_pln_style_get_bpln_style_ptr(line), 3);
+  zu_stl_mngr_set_use_render_levels(manager.get(), true);
+  std::wstring text = written_by(saving(manager.get()));
+  EXPECT_NE(text.find(L"render_level=\"3\""), std::wstring::npos);
+  EXPECT_NE(text.find(L"use_render_levels=\""), std::wstring::npos);
+}
+
+TEST(style_groups, a_level_that_is_no_number_of_32_bits_is_0) {
+  for (const char* level : {"3000000000", "x", ""}) {
+    node_ptr tree = tree_of(std::string("<styles><styles type=\"pnt_mngr_style\"><simple><point "
+                                        "render_level=\"") +
+                            level + "\"/></simple></styles></styles>");
+    manager_ptr manager(zu_stl_mngr_create("pnt_mngr_style"));
+    ASSERT_TRUE(load(tree.get(), "pnt_mngr_style", manager.get())) << level;
+    EXPECT_EQ(zu_bpnt_style_get_render_level(zu_pnt_style_get_bpnt_style_ptr(
+                  zu_stl_prm_get_pnt_style_ptr(zu_stl_mngr_get_simple_sp_ptr(manager.get()), 0))),
+              0)
+        << level;
+  }
+}
+
 TEST(style_groups, any_settings_come_back) {
   for (unsigned seed = 0; seed < 80; ++seed) {
     style_maker make(seed);

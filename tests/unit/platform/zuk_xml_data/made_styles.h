@@ -48,6 +48,8 @@ class style_maker {
     for (int i = below(12); i > 0; --i) made += letters[below(std::size(letters) - 1)];
     return made;
   }
+  /// Mostly none.
+  std::int32_t level() { return flag() ? 0 : below(2001) - 1000; }
   Tzu_color color() {
     auto byte = [&] { return static_cast<std::uint8_t>(below(256)); };
     return {byte(), byte(), byte(), byte()};
@@ -59,6 +61,7 @@ class style_maker {
     made.font.family = text();
     made.color = color(), made.size = length();
     made.dx = length() - 50, made.dy = length() - 50, made.angle = length() - 50;
+    made.render_level = level();
     return made;
   }
   Tzu_bpln_style stroke() {
@@ -68,6 +71,7 @@ class style_maker {
     for (double& each : made.dashes) each = length();
     made.cap = below(3), made.join = below(3);
     made.color = color();
+    made.render_level = level();
     return made;
   }
   /// Gives a base style layers, or none.
@@ -78,7 +82,8 @@ class style_maker {
           types[static_cast<std::size_t>(below(static_cast<int>(types.size())))]);
       if (auto* point = std::get_if<Tzu_bpnt_style>(&layer->style)) *point = mark();
       if (auto* line = std::get_if<Tzu_bpln_style>(&layer->style)) *line = stroke();
-      if (auto* fill = std::get_if<Tzu_bpgn_style>(&layer->style)) fill->color = color();
+      if (auto* fill = std::get_if<Tzu_bpgn_style>(&layer->style))
+        fill->color = color(), fill->render_level = level();
     }
   }
   Tzu_bpnt_style layered_mark() {
@@ -101,17 +106,19 @@ class style_maker {
     if (flag()) made.end = layered_mark(), made.end_visible = flag();
     made.begin_turns = flag(), made.end_turns = flag();
     if (flag()) made.number.color = color(), made.number.size = length();
+    made.number.render_level = level();
     return made;
   }
   Tzu_pgn_style polygon() {
     Tzu_pgn_style made;
-    made.fill.color = color();
+    made.fill.color = color(), made.fill.render_level = level();
     layer(made.fill, {"pgn_fill_slr"});
     made.contour = stroke();
     layer(made.contour, {"pln_line_slr"});
     made.fill_visible = flag(), made.contour_visible = flag(), made.number_visible = flag();
     if (flag()) made.vertex = layered_mark(), made.vertex_visible = flag();
     if (flag()) made.number.color = color(), made.number.size = length();
+    made.number.render_level = level();
     return made;
   }
   void fill(Tzu_stl_prm* style) {
@@ -131,6 +138,7 @@ class style_maker {
     manager_ptr made(zu_stl_mngr_create(type));
     type_ = type;
     zu_stl_mngr_set_mode(made.get(), below(4));
+    zu_stl_mngr_set_use_render_levels(made.get(), flag());
     fill(zu_stl_mngr_get_simple_sp_ptr(made.get()));
     zu_stl_mngr_set_val_prop_name_w(made.get(), text().c_str());
     zu_stl_mngr_set_rng_prop_name_w(made.get(), text().c_str());
@@ -204,6 +212,7 @@ class facts {
  public:
   explicit facts(Tzu_stl_mngr* m) {
     add(zu_stl_mngr_get_mode(m));
+    add(zu_stl_mngr_get_use_render_levels(m));
     add(*zu_stl_mngr_get_simple_sp_ptr(m));
     add([&](Tzu_string_adp* a) { zu_stl_mngr_get_val_prop_name_w(m, a); });
     add([&](Tzu_string_adp* a) { zu_stl_mngr_get_rng_prop_name_w(m, a); });
@@ -248,16 +257,25 @@ class facts {
     for (double each : numbers) add(each);
   }
   void add_fields(const Tzu_bpnt_style& p) {
-    add_all({p.use_figure + 0.0, p.figure + 0.0, p.symbol + 0.0, p.size, p.dx, p.dy, p.angle});
+    add_all({p.use_figure + 0.0, p.figure + 0.0, p.symbol + 0.0, p.size, p.dx, p.dy, p.angle,
+             p.render_level + 0.0});
     all_ += p.font.family + L'|';
     add(p.color);
   }
   void add_fields(const Tzu_bpln_style& line) {
-    add_all({line.width, line.cap + 0.0, line.join + 0.0, line.dashes.size() + 0.0});
+    add_all({line.width, line.cap + 0.0, line.join + 0.0, line.dashes.size() + 0.0,
+             line.render_level + 0.0});
     for (double each : line.dashes) add(each);
     add(line.color);
   }
-  void add_fields(const Tzu_bpgn_style& fill) { add(fill.color); }
+  void add_fields(const Tzu_bpgn_style& fill) {
+    add(fill.color);
+    add(fill.render_level);
+  }
+  void add(const Tzu_bnum_style& number) {
+    add(number.color);
+    add_all({number.size, number.render_level + 0.0});
+  }
   template <class base> void add_base(const base& style) {
     add_fields(style);
     add(style.use_complex);
@@ -278,8 +296,7 @@ class facts {
     for (bool each : {line.line_visible, line.vertex_visible, line.begin_visible, line.end_visible,
                       line.number_visible, line.begin_turns, line.end_turns})
       add(each);
-    add(line.number.color);
-    add(line.number.size);
+    add(line.number);
   }
   void add(const Tzu_pgn_style& polygon) {
     add_base(polygon.fill);
@@ -288,8 +305,7 @@ class facts {
     for (bool each : {polygon.fill_visible, polygon.contour_visible, polygon.vertex_visible,
                       polygon.number_visible})
       add(each);
-    add(polygon.number.color);
-    add(polygon.number.size);
+    add(polygon.number);
   }
   void add(const Tzu_stl_prm& style) {
     zu::platform::style_parameters copy(style);  // of which symbols may be made

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <deque>
 #include <map>
+#include <optional>
 #include <vector>
 
 #include "platform/zuk_basic/guarded.h"
@@ -78,14 +79,35 @@ class places_by_style {
   group* last_ = nullptr;
 };
 
-/// The symbol of a row in another colour.
+/// The symbol of a row in another colour, at level 0.
 owned<zu_pnt_style_destroy> recolored(Tzu_stl_prm* style, Tzu_color color) {
   owned<zu_pnt_style_destroy> copy(zu_pnt_style_create());
   zu_pnt_style_assign(copy.get(), zu_stl_prm_get_pnt_style_ptr(style, 0));
   Tzu_bpnt_style* point = zu_pnt_style_get_bpnt_style_ptr(copy.get());
   zu_bpnt_style_set_use_complex(point, false);
   zu_bpnt_style_set_color(point, color);
+  zu_bpnt_style_set_render_level(point, 0);
   return copy;
+}
+
+/// One walk over the nodes for each render level, or a single one for all that they draw.
+using pass = std::optional<std::int32_t>;
+std::vector<pass> passes_of(const Tzu_stl_mngr* manager) {
+  owned<zu_ints_destroy> levels(zu_ints_create());
+  zu_stl_mngr_get_render_levels(manager, levels.get());
+  std::vector<pass> all;
+  for (std::uint64_t i = 0; i < zu_ints_get_size(levels.get()); ++i)
+    all.emplace_back(static_cast<std::int32_t>(zu_ints_get(levels.get(), i)));
+  if (all.empty()) all.emplace_back();
+  return all;
+}
+
+/// Draws what a symbol has in a pass.
+void draw_symbols(Tzu_drwc* page, const Tzu_pnt_style* style, const pass& level,
+                  const std::vector<double>& x, const std::vector<double>& y) {
+  owned<zu_pnt_style_destroy> part(level ? zu_pnt_style_create() : nullptr);
+  if (level && !zu_pnt_style_assign_level(part.get(), style, *level)) return;
+  zu_drwc_draw_pnt(page, x.size(), x.data(), y.data(), level ? part.get() : style);
 }
 
 void draw_nodes(Izu_render* render, Izu_layer* layer, const coord_state& state) {
@@ -98,8 +120,9 @@ void draw_nodes(Izu_render* render, Izu_layer* layer, const coord_state& state) 
   Tzu_drwc* page = zu_render_get_drwc(render);
   node_styles styles(state.manager.get(), source.get());
   node_places places(render, layer);
+  const std::vector<pass> passes = passes_of(state.manager.get());
   places_by_style selected;
-  auto draw_run = [&](std::uint64_t start, const auto& xs, const auto& ys) {
+  auto draw_run = [&](const pass& level, std::uint64_t start, const auto& xs, const auto& ys) {
     if (!styles.read(start, xs.size())) return;
     owned<zu_pv_d2_destroy> run = places.of(xs, ys);
     if (zu_pv_d2_get_size(run.get()) != xs.size()) return;
@@ -108,18 +131,25 @@ void draw_nodes(Izu_render* render, Izu_layer* layer, const coord_state& state) 
       const Tzu_vtx_d2& at = zu_pv_d2_get_arr(run.get())[i];
       Tzu_stl_prm* style = styles.at(i);
       if (style == nullptr || !std::isfinite(at.x) || !std::isfinite(at.y)) continue;
-      (zu_table_data_is_selected_id(table, start + i) ? selected : drawn).add(style, at);
+      if (!zu_table_data_is_selected_id(table, start + i))
+        drawn.add(style, at);
+      else if (level == passes.front())
+        selected.add(style, at);
     }
     drawn.each([&](Tzu_stl_prm* style, const auto& x, const auto& y) {
-      zu_drwc_draw_pnt(page, x.size(), x.data(), y.data(), zu_stl_prm_get_pnt_style_ptr(style, 0));
+      draw_symbols(page, zu_stl_prm_get_pnt_style_ptr(style, 0), level, x, y);
     });
   };
-  each_node_run(name, source.get(), draw_run);
-  selected.each([&](Tzu_stl_prm* style, const auto& x, const auto& y) {
-    auto in_scene_color = recolored(style, scene.color);
-    zu_drwc_draw_pnt(page, x.size(), x.data(), y.data(),
-                     own ? zu_stl_prm_get_pnt_style_ptr(style, 1) : in_scene_color.get());
-  });
+  for (const pass& level : passes)
+    each_node_run(name, source.get(), [&](std::uint64_t start, const auto& xs, const auto& ys) {
+      draw_run(level, start, xs, ys);
+    });
+  for (const pass& level : passes)
+    selected.each([&](Tzu_stl_prm* style, const auto& x, const auto& y) {
+      auto in_scene_color = recolored(style, scene.color);
+      draw_symbols(page, own ? zu_stl_prm_get_pnt_style_ptr(style, 1) : in_scene_color.get(), level,
+                   x, y);
+    });
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <vector>
 
+#include "src/bundle/owned.h"
 #include "src/bundle/strings.h"
 #include "src/data/block_reader.h"
 #include "zu/platform/zuk_attr_data.h"
@@ -40,7 +41,22 @@ void profile_drawing::draw() {
   reference.name = text_of([&](Tzu_string_adp* a) { zu_lr2d_get_wsource(layer_, a); });
   reference.opener = &zu_datasource_open;
   data::grid_datasource source;
-  if (source.open(reference, data::open_read_only)) draw_chosen(source);
+  if (!source.open(reference, data::open_read_only)) return;
+  for (const pass& each : passes()) {
+    pass_ = each;
+    draw_chosen(source);
+  }
+}
+
+std::vector<profile_drawing::pass> profile_drawing::passes() const {
+  owned<zu_ints_destroy> levels(zu_ints_create());
+  zu_stl_mngr_get_render_levels(manager_, levels.get());
+  if (zu_ints_get_size(levels.get()) == 0) return {pass()};
+  std::vector<pass> all;
+  for (bool selected : {false, true})
+    for (std::uint64_t i = 0; i < zu_ints_get_size(levels.get()); ++i)
+      all.push_back({static_cast<std::int32_t>(zu_ints_get(levels.get(), i)), !selected, selected});
+  return all;
 }
 
 bool profile_drawing::on_screen() const {
@@ -91,9 +107,13 @@ void profile_drawing::draw_band(data::grid_datasource& source, std::int64_t band
   trace(source, block, static_cast<std::uint64_t>(sizes[0]), curve);
   place(curve, origin, source.azimuth());
   std::wstring name = source.field_name(band);
-  show(name, curve.unselected(), zu_stl_prm_get_pln_style_ptr(style, 0));
-  bool own = own_selected_style_ || scene_selected_ == nullptr;
-  show(name, curve.selected(), own ? zu_stl_prm_get_pln_style_ptr(style, 1) : scene_selected_);
+  if (pass_.unselected)
+    show_level(name, curve.unselected(), zu_stl_prm_get_pln_style_ptr(style, 0));
+  if (!pass_.selected) return;
+  if (own_selected_style_ || scene_selected_ == nullptr)
+    show_level(name, curve.selected(), zu_stl_prm_get_pln_style_ptr(style, 1));
+  else if (pass_.level.value_or(0) == 0)
+    show(name, curve.selected(), scene_selected_);
 }
 
 /// Samples that cannot be read end the curve.
@@ -130,6 +150,13 @@ void profile_drawing::place(profile_curve& curve, const double* origin, double a
     then(step);
   }
   if (moved) curve.apply(matrix);
+}
+
+void profile_drawing::show_level(const std::wstring& name, const Tzu_ov_d2* lines,
+                                 Tzu_pln_style* style) const {
+  if (!pass_.level) return show(name, lines, style);
+  owned<zu_pln_style_destroy> part(zu_pln_style_create());
+  if (zu_pln_style_assign_level(part.get(), style, *pass_.level)) show(name, lines, part.get());
 }
 
 void profile_drawing::show(const std::wstring& name, const Tzu_ov_d2* lines,

@@ -136,6 +136,83 @@ TEST(coord_layer, its_points_are_the_symbols_of_their_rows) {
   EXPECT_EQ(b.at(25, 5), nothing);  // 3: the hidden tail
 }
 
+/// The nodes 1 and 3 in symbols so large that they meet at (15, 5); 2 does not show.
+struct two_symbols : coord_bench {
+  explicit two_symbols(const std::string& name) : coord_bench(nodes(name)) {
+    zu_stl_mngr_set_mode(manager(), zu_style_value);
+    zu_stl_mngr_set_val_prop_name_w(manager(), L"v");
+    zu_val_scale_set_size(scale(), 2);
+    zu_val_scale_set_text_w(scale(), 0, L"1");
+    zu_val_scale_set_text_w(scale(), 1, L"3");
+    zu_scale_prm_set_visible(zu_val_scale_get_other_prm_ptr(scale()), false);
+    for (int selected : {0, 1}) {
+      set(0, selected, {200, 0, 0, 0});
+      set(1, selected, {0, 0, 200, 0});
+    }
+  }
+  Tzu_val_scale* scale() { return zu_stl_mngr_get_val_scale_ptr(manager()); }
+  Tzu_bpnt_style* part(std::uint64_t row, int selected) {
+    return zu_pnt_style_get_bpnt_style_ptr(zu_stl_prm_get_pnt_style_ptr(
+        zu_scale_prm_get_stl_prm_ptr(zu_val_scale_get_scale_prm_ptr(scale(), row)), selected));
+  }
+  void set(std::uint64_t row, int selected, Tzu_color color) {
+    zu_bpnt_style_set_figure(part(row, selected), zu_figure_square);
+    zu_bpnt_style_set_size(part(row, selected), 24);
+    zu_bpnt_style_set_color(part(row, selected), color);
+  }
+  rgba drawn(bool use_levels) {
+    zu_stl_mngr_set_use_render_levels(manager(), use_levels);
+    draw();
+    return at(15, 5);
+  }
+};
+constexpr rgba blue{0, 0, 200, 255};
+
+TEST(coord_layer, a_symbol_of_a_higher_level_lies_over_those_of_lower_ones) {
+  struct {
+    std::int32_t first, second;
+    bool use;
+    rgba on_top;
+  } const cases[] = {{0, 0, true, blue},  {1, 0, true, red},    {0, 1, true, blue},
+                     {-1, -2, true, red}, {-2, -1, true, blue}, {1, 0, false, blue}};
+  for (const auto& c : cases) {
+    two_symbols b("coord_levels.pgrid");
+    zu_bpnt_style_set_render_level(b.part(0, 0), c.first);
+    zu_bpnt_style_set_render_level(b.part(1, 0), c.second);
+    EXPECT_EQ(b.drawn(c.use), c.on_top) << c.first << ' ' << c.second << ' ' << c.use;
+  }
+}
+
+TEST(coord_layer, layers_of_complex_symbols_are_drawn_by_their_own_levels) {
+  for (int level : {-1, 1}) {
+    two_symbols b("coord_layers.pgrid");
+    Tzu_bpnt_style* first = b.part(0, 0);
+    Tzu_style_lr* layer = zu_style_lrs_add_lr(
+        zu_cpx_style_get_style_lrs_ptr(zu_bpnt_style_get_complex_style(first)), "pnt_symb_slr");
+    zu_style_lr_set_render_level(layer, 0);
+    layer = zu_style_lrs_add_lr(
+        zu_cpx_style_get_style_lrs_ptr(zu_bpnt_style_get_complex_style(first)), "pnt_figr_slr");
+    zu_style_lr_set_render_level(layer, level);
+    zu_cpx_pnt_style_set_point_size(zu_bpnt_style_get_complex_style(first), 40);
+    zu_bpnt_style_set_render_level(first, 5);  // that of the plain symbol, which is not drawn
+    zu_bpnt_style_set_use_complex(first, true);
+    EXPECT_EQ(b.drawn(true), level > 0 ? (rgba{128, 128, 128, 255}) : blue) << level;
+  }
+}
+
+TEST(coord_layer, what_is_selected_lies_over_every_level) {
+  for (bool own : {false, true}) {
+    two_symbols b("coord_levels_selected.pgrid");
+    zu_scn_2d_set_selected_style_clr(b.scene.get(), {{250, 240, 0, 0}, 1});
+    zu_lr_set_own_selected_style_flag(b.layer.get(), own);
+    zu_table_data_set_selected_id(zu_lr2d_get_data_ptr(b.layer.get()), 0, true);
+    zu_bpnt_style_set_render_level(b.part(0, 0), 2);
+    zu_bpnt_style_set_render_level(b.part(0, 1), 2);
+    zu_bpnt_style_set_render_level(b.part(1, 0), 3);
+    EXPECT_EQ(b.drawn(true), own ? red : (rgba{250, 240, 0, 255}));
+  }
+}
+
 TEST(coord_layer, its_points_show_by_the_first_rule_that_holds) {
   coord_bench b(nodes("coord_rules.pgrid"));
   zu_stl_mngr_set_mode(b.manager(), zu_style_rule);

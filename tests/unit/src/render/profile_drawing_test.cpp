@@ -107,6 +107,43 @@ TEST(profile, by_values_a_band_has_the_class_of_its_name_and_else_the_other_one)
   }
 }
 
+TEST(profile, of_two_crossing_curves_that_of_the_higher_level_lies_over_the_other) {
+  struct {
+    std::int32_t first, second;
+    bool use;
+    rgba on_top;
+  } const cases[] = {{0, 0, true, selected_line}, {1, 0, true, line},
+                     {0, 1, true, selected_line}, {-1, 3, true, selected_line},
+                     {5, -7, true, line},         {1, 0, false, selected_line}};
+  made_grid file("profile_levels.tif", 40, 1, GDT_Float64, 2);
+  file.values(1, std::vector<double>(40, 20.5));
+  std::vector<double> rising(40);
+  for (std::size_t i = 0; i < rising.size(); ++i) rising[i] = static_cast<double>(i) + 0.5;
+  file.values(2, rising);
+  std::wstring path = file.close();
+  for (const auto& c : cases) {
+    profile_bench b(path);
+    zu_stl_mngr_set_mode(b.manager(), zu_style_value);
+    zu_stl_mngr_set_use_render_levels(b.manager(), c.use);
+    Tzu_val_scale* scale = zu_stl_mngr_get_val_scale_ptr(b.manager());
+    zu_val_scale_set_size(scale, 2);
+    for (std::uint64_t i : {0, 1}) {
+      zu_val_scale_set_text_w(scale, i, i == 0 ? L"Band 1" : L"Band 2");
+      owned_line look = line_of(i == 0 ? line : selected_line);
+      zu_bpln_style_set_render_level(zu_pln_style_get_bpln_style_ptr(look.get()),
+                                     i == 0 ? c.first : c.second);
+      zu_pln_style_assign(
+          zu_stl_prm_get_pln_style_ptr(
+              zu_scale_prm_get_stl_prm_ptr(zu_val_scale_get_scale_prm_ptr(scale, i)), 0),
+          look.get());
+    }
+    page shown = b.drawn();
+    EXPECT_EQ(at(shown, 20, 20), c.on_top) << c.first << ' ' << c.second << ' ' << c.use;
+    EXPECT_EQ(at(shown, 5, 20), line);
+    EXPECT_EQ(at(shown, 5, 5), selected_line);
+  }
+}
+
 TEST(profile, other_modes_draw_nothing) {
   profile_bench b(curves("profile_modes.tif", {10.5}));
   for (std::int32_t mode : {zu_style_range, zu_style_rule, zu_style_simple}) {

@@ -19,6 +19,9 @@ Tzu_pln_style::Tzu_pln_style() {
   begin.figure = end.figure = zu_figure_arrow;
 }
 
+void zu_bpln_style_assign(Tzu_bpln_style* style, const Tzu_bpln_style* from) {
+  if (from != nullptr) guarded(style, [&](Tzu_bpln_style& s) { s = Tzu_bpln_style(*from); });
+}
 Tzu_color zu_bpln_style_get_color(const Tzu_bpln_style* style) {
   return got(style, &Tzu_bpln_style::color);
 }

@@ -27,6 +27,9 @@ void zu_fnt_type_set_wname(Tzu_fnt_type* font, const wchar_t* family) {
   guarded(font, [&](Tzu_fnt_type& f) { f.family = family != nullptr ? family : L""; });
 }
 
+void zu_bpnt_style_assign(Tzu_bpnt_style* style, const Tzu_bpnt_style* from) {
+  if (from != nullptr) guarded(style, [&](Tzu_bpnt_style& s) { s = Tzu_bpnt_style(*from); });
+}
 bool zu_bpnt_style_get_use_figure(const Tzu_bpnt_style* style) {
   return got(style, &Tzu_bpnt_style::use_figure);
 }

@@ -9,6 +9,9 @@ using zu::platform::guarded;
 using zu::platform::inner;
 using zu::platform::put;
 
+void zu_bpgn_style_assign(Tzu_bpgn_style* style, const Tzu_bpgn_style* from) {
+  if (from != nullptr) guarded(style, [&](Tzu_bpgn_style& s) { s = Tzu_bpgn_style(*from); });
+}
 Tzu_color zu_bpgn_style_get_color(const Tzu_bpgn_style* style) {
   return got(style, &Tzu_bpgn_style::color);
 }

@@ -7,9 +7,6 @@ namespace zu::dialog {
 struct nameless {
   static constexpr wchar_t id[] = L"";
 };
-struct style_adavanced_dialog {
-  static constexpr wchar_t id[] = L"zu_common_plugin_style_adavanced_dialog";
-};
 struct data_grid_schema_dialog {
   static constexpr wchar_t id[] = L"zu_common_plugin_data_grid_schema_dialog";
 };

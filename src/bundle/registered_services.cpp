@@ -18,6 +18,7 @@
 #include "src/style/class_dialogs/range_scale_dialog.h"
 #include "src/style/class_dialogs/value_scale_dialog.h"
 #include "src/style/dialogs/style_dialogs.h"
+#include "src/style/levels/style_adavanced_dialog.h"
 #include "src/style/palettes/clr_palettes_dialog.h"
 #include "src/style/pickers/figure_dialog.h"
 #include "zu/platform/zuk_basic.h"

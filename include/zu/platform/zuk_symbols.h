@@ -76,6 +76,7 @@ enum Tzu_figure {
   zu_figure_count = 16,
 };
 typedef struct Tzu_bpnt_style Tzu_bpnt_style;
+ZU_API void zu_bpnt_style_assign(Tzu_bpnt_style* style, const Tzu_bpnt_style* from);
 ZU_API bool zu_bpnt_style_get_use_figure(const Tzu_bpnt_style* style);  ///< else the symbol
 ZU_API void zu_bpnt_style_set_use_figure(Tzu_bpnt_style* style, bool figure);
 ZU_API int32_t zu_bpnt_style_get_figure(const Tzu_bpnt_style* style);
@@ -117,6 +118,7 @@ enum Tzu_line_cap { zu_cap_butt = 0, zu_cap_round = 1, zu_cap_square = 2 };
 enum Tzu_line_join { zu_join_miter = 0, zu_join_round = 1, zu_join_bevel = 2 };
 enum { zu_line_dashes = 8 };
 typedef struct Tzu_bpln_style Tzu_bpln_style;
+ZU_API void zu_bpln_style_assign(Tzu_bpln_style* style, const Tzu_bpln_style* from);
 ZU_API Tzu_color zu_bpln_style_get_color(const Tzu_bpln_style* style);
 ZU_API void zu_bpln_style_set_color(Tzu_bpln_style* style, Tzu_color color);
 ZU_API double zu_bpln_style_get_width(const Tzu_bpln_style* style);
@@ -175,6 +177,7 @@ ZU_API void zu_pln_style_set_end_use_line_dir(Tzu_pln_style* style, bool turn);
 // --- Polygons
 
 typedef struct Tzu_bpgn_style Tzu_bpgn_style;
+ZU_API void zu_bpgn_style_assign(Tzu_bpgn_style* style, const Tzu_bpgn_style* from);
 ZU_API Tzu_color zu_bpgn_style_get_color(const Tzu_bpgn_style* style);
 ZU_API void zu_bpgn_style_set_color(Tzu_bpgn_style* style, Tzu_color color);
 ZU_API bool zu_bpgn_style_get_use_complex(const Tzu_bpgn_style* style);

@@ -48,6 +48,8 @@ TEST_F(scale_files, scales_come_back_under_the_key_of_their_manager) {
       ASSERT_TRUE(zu_xml_data_save_val_scale_w(xml, path("a._vl").c_str(), saved.get(), key));
       // What scale files do not hold is made equal, so that the rest can be compared as a whole.
       zu_stl_mngr_set_mode(loaded.get(), zu_stl_mngr_get_mode(saved.get()));
+      zu_stl_mngr_set_use_render_levels(loaded.get(),
+                                        zu_stl_mngr_get_use_render_levels(saved.get()));
       zu::platform::assign(*zu_stl_mngr_get_simple_sp_ptr(loaded.get()),
                            *zu_stl_mngr_get_simple_sp_ptr(saved.get()));
       ASSERT_TRUE(zu_xml_data_save_val_scale_w(xml, path("a._rl").c_str(), saved.get(), key));

@@ -18,7 +18,8 @@ class level_outline : public toolkit::outline {
   std::uint32_t item_count(outline_item item) override;
   bool is_open(outline_item) override;
   bool is_item_disabled(outline_item item) override;
-  std::uint32_t visible_rows() override { return 12; }
+  std::uint32_t visible_rows() override { return 14; }
+  std::uint32_t width() override { return 50; }
   void current(outline_item_visitor visitor) override;
   void set_current(outline_item item) override;
   bool is_marked(outline_item item) override;
@@ -63,7 +64,7 @@ class level_outline : public toolkit::outline {
     bool is_enabled(outline_item item) override;
     std::int32_t minimum(outline_item) override { return -most; }
     std::int32_t maximum(outline_item) override { return most; }
-    std::uint32_t width() override { return 60; }
+    std::uint32_t width() override { return 8; }
 
    private:
     static constexpr std::int32_t most = 1000;

@@ -139,7 +139,7 @@ export_dialog::export_dialog(const host::page_request& seen, const QString& name
       keep_shape_(new QCheckBox(words("&Keep the shape", "&Сохранять пропорции"), this)),
       transparent_(new QCheckBox(words("&Transparent", "Про&зрачный"), this)),
       accurate_(new QCheckBox(words("&Full precision", "&Полная точность"), this)),
-      as_seen_(new QRadioButton(words("As on &screen", "Как на &экране"), this)),
+      as_seen_(new QRadioButton(words("As on &screen", "Ка&к на экране"), this)),
       all_layers_(new QRadioButton(words("&All layers", "&Все слои"), this)),
       paper_(new QLabel(this)),
       problem_(new QLabel(this)) {
@@ -203,7 +203,7 @@ void export_dialog::add_rows() {
   auto* cross = new QLabel(QStringLiteral("\u00d7"), this);
   add(words("&File:", "&Файл:"), path_, row_of({path_, browse_}, false));
   add(words("F&ormat:", "Фор&мат:"), format_, row_of({format_, accurate_}));
-  add(words("&Paper:", "&Лист:"), sheet_, row_of({sheet_}));
+  add(words("&Paper:", "Л&ист:"), sheet_, row_of({sheet_}));
   add(words("Si&ze:", "&Размер:"), width_, row_of({width_, cross, height_, keep_shape_}));
   add(words("&Resolution:", "Раз&решение:"), dots_, row_of({dots_, paper_}));
   add(words("Extent:", "Охват:"), as_seen_, row_of({as_seen_, all_layers_}));

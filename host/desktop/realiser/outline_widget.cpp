@@ -339,6 +339,17 @@ void outline_widget::toggle_checks() {
     if (row.data(Qt::CheckStateRole) != wanted) model_->setData(row, wanted, Qt::CheckStateRole);
 }
 
+bool outline_widget::edit_in_row(const QModelIndex& row) {
+  for (int column = 0; column < model_->columnCount(); ++column) {
+    const QModelIndex cell = row.siblingAtColumn(column);
+    const bool is_typed = model_->column(column).kind != column_kind::boolean;
+    if (!is_typed || header()->isSectionHidden(column) || !model_->is_editable(cell)) continue;
+    view_->edit(cell);
+    return true;
+  }
+  return false;
+}
+
 bool outline_widget::key_pressed(QKeyEvent* event) {
   const QModelIndex current = view_->currentIndex();
   if (!current.isValid() || (model_->flags(current) & Qt::ItemIsEnabled) == 0) return false;
@@ -349,7 +360,8 @@ bool outline_widget::key_pressed(QKeyEvent* event) {
       activate(current);
       return false;  // a dialog's default button hears of it too
     case Qt::Key_F2:
-      return !model_->is_editable(current) && delegate_->press_button(current);
+      if (model_->is_editable(current)) return false;
+      return delegate_->press_button(current) || edit_in_row(current);
     case Qt::Key_Space:
       if (kind == column_kind::picture || kind == column_kind::canvas) {
         clicked(current);

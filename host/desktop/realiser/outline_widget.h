@@ -49,6 +49,9 @@ class outline_widget final : public realised<outline_impl, QWidget> {
   void clicked(const QModelIndex& index);
   void activate(const QModelIndex& index);
   bool key_pressed(QKeyEvent* event);
+  /// Opens the first cell of the row that can be typed into; false if there is none. A tree's keys
+  /// do not lead from cell to cell.
+  bool edit_in_row(const QModelIndex& row);
   void toggle_checks();
   void input_happened();
   int rows_height(int rows) const;

@@ -751,6 +751,26 @@ TEST(outline_tree, names_items_by_their_parents_and_opens_what_is_to_be_open) {
   EXPECT_FALSE(widget.model()->hasChildren(deepest));
 }
 
+TEST(outline_tree, f2_edits_the_first_cell_of_the_row_that_can_be_typed_into) {
+  small_tree tree;
+  path_column paths;
+  whole_column numbers;
+  tree.add(paths);
+  tree.add(numbers);
+  outline_widget widget(handle_of<outline_impl>(tree), nullptr);
+  widget.show();
+  (void)widget.grab();
+  auto* view = qobject_cast<QTreeView*>(widget.view());
+  view->setCurrentIndex(widget.model()->index(1, 0));
+  QTest::keyClick(view, Qt::Key_F2);
+  auto* editor = view->viewport()->findChild<QSpinBox*>();
+  ASSERT_NE(editor, nullptr);
+  EXPECT_EQ(editor->value(), 2);
+  editor->setValue(40);
+  QTest::keyClick(editor, Qt::Key_Return);
+  EXPECT_EQ(numbers.values[1], 40);
+}
+
 TEST(outline_tree, opens_and_closes_by_keys_and_stays_open_when_it_is_redrawn) {
   small_tree tree;
   path_column paths;

@@ -361,7 +361,7 @@ bool outline_widget::key_pressed(QKeyEvent* event) {
       return false;  // a dialog's default button hears of it too
     case Qt::Key_F2:
       if (model_->is_editable(current)) return false;
-      return delegate_->press_button(current) || edit_in_row(current);
+      return delegate_->press_button(current) || (tree_ != nullptr && edit_in_row(current));
     case Qt::Key_Space:
       if (kind == column_kind::picture || kind == column_kind::canvas) {
         clicked(current);

@@ -138,23 +138,11 @@ bnum_item::bnum_item(Tzu_bnum_style* part, bool shows)
 
 // --- Styles
 
-pnt_style_item::pnt_style_item(std::wstring text, Tzu_stl_prm* prm)
-    : style_item(std::move(text)), style_(zu_stl_prm_get_pnt_style_ptr(prm, primary)) {}
-bool pnt_style_item::draw(std::uint64_t width, std::uint64_t height, double dots_per_mm,
-                          Tzu_dib* out) {
-  return point_kind::preview(style_, width, height, dots_per_mm, out);
-}
 void pnt_style_item::fill() {
   add<bpnt_item>(text::vertices, zu_pnt_style_get_bpnt_style_ptr(style_),
                  zu_pnt_style_get_pnt_visible(style_));
 }
 
-pln_style_item::pln_style_item(std::wstring text, Tzu_stl_prm* prm)
-    : style_item(std::move(text)), style_(zu_stl_prm_get_pln_style_ptr(prm, primary)) {}
-bool pln_style_item::draw(std::uint64_t width, std::uint64_t height, double dots_per_mm,
-                          Tzu_dib* out) {
-  return line_kind::preview(style_, width, height, dots_per_mm, out);
-}
 void pln_style_item::fill() {
   add<bpln_item>(text::line, zu_pln_style_get_bpln_style_ptr(style_),
                  zu_pln_style_get_pln_visible(style_));
@@ -167,12 +155,6 @@ void pln_style_item::fill() {
   add<bnum_item>(zu_pln_style_get_bnum_style_ptr(style_), zu_pln_style_get_num_visible(style_));
 }
 
-pgn_style_item::pgn_style_item(std::wstring text, Tzu_stl_prm* prm)
-    : style_item(std::move(text)), style_(zu_stl_prm_get_pgn_style_ptr(prm, primary)) {}
-bool pgn_style_item::draw(std::uint64_t width, std::uint64_t height, double dots_per_mm,
-                          Tzu_dib* out) {
-  return polygon_kind::preview(style_, width, height, dots_per_mm, out);
-}
 void pgn_style_item::fill() {
   add<bpgn_item>(text::fill, zu_pgn_style_get_bpgn_style_ptr(style_),
                  zu_pgn_style_get_pgn_visible(style_));
@@ -216,9 +198,12 @@ template <class scale_traits> void mngr_item::add_rows() {
 
 void mngr_item::add_style(std::wstring text, Tzu_stl_prm* prm) {
   std::string_view type = zu_stl_mngr_get_style_type(mngr_);
-  if (type == point_style_traits::manager_key) add<pnt_style_item>(std::move(text), prm);
-  if (type == line_style_traits::manager_key) add<pln_style_item>(std::move(text), prm);
-  if (type == "pgn_mngr_style") add<pgn_style_item>(std::move(text), prm);
+  if (type == point_style_traits::manager_key)
+    add<pnt_style_item>(std::move(text), zu_stl_prm_get_pnt_style_ptr(prm, primary));
+  else if (type == line_style_traits::manager_key)
+    add<pln_style_item>(std::move(text), zu_stl_prm_get_pln_style_ptr(prm, primary));
+  else if (type == "pgn_mngr_style")
+    add<pgn_style_item>(std::move(text), zu_stl_prm_get_pgn_style_ptr(prm, primary));
 }
 
 }  // namespace zu::style::detail

@@ -38,12 +38,12 @@ class base_item {
   }
 
  protected:
-  virtual void fill() {}
   template <class made, class... args> void add(args&&... given) {
     items_.push_back(std::make_unique<made>(std::forward<args>(given)...));
   }
 
  private:
+  virtual void fill() {}
   std::vector<std::unique_ptr<base_item>>& items() {
     if (!filled_) {
       filled_ = true;
@@ -69,10 +69,9 @@ template <class base_kind> class base_style_item : public bstyle_item {
   base_style_item(std::int32_t text, base* part, bool shows);
   bool draw(std::uint64_t width, std::uint64_t height, double dots_per_mm, Tzu_dib* out) override;
 
- protected:
+ private:
   void fill() override;
 
- private:
   base* part_;
 };
 
@@ -106,44 +105,29 @@ class bnum_item : public bstyle_item {
 };
 
 /// A whole style, with its parts.
-class style_item : public base_item {
-  using base_item::base_item;
-};
-
-class pnt_style_item : public style_item {
+template <class kind> class style_item : public base_item {
  public:
-  pnt_style_item(std::wstring text, Tzu_stl_prm* prm);
-  bool draw(std::uint64_t width, std::uint64_t height, double dots_per_mm, Tzu_dib* out) override;
+  style_item(std::wstring text, typename kind::style* style)
+      : base_item(std::move(text)), style_(style) {}
+  bool draw(std::uint64_t width, std::uint64_t height, double dots_per_mm, Tzu_dib* out) override {
+    return kind::preview(style_, width, height, dots_per_mm, out);
+  }
 
  protected:
-  void fill() override;
-
- private:
-  Tzu_pnt_style* style_;
+  typename kind::style* style_;
 };
 
-class pln_style_item : public style_item {
- public:
-  pln_style_item(std::wstring text, Tzu_stl_prm* prm);
-  bool draw(std::uint64_t width, std::uint64_t height, double dots_per_mm, Tzu_dib* out) override;
-
- protected:
+class pnt_style_item : public style_item<point_kind> {
+  using style_item::style_item;
   void fill() override;
-
- private:
-  Tzu_pln_style* style_;
 };
-
-class pgn_style_item : public style_item {
- public:
-  pgn_style_item(std::wstring text, Tzu_stl_prm* prm);
-  bool draw(std::uint64_t width, std::uint64_t height, double dots_per_mm, Tzu_dib* out) override;
-
- protected:
+class pln_style_item : public style_item<line_kind> {
+  using style_item::style_item;
   void fill() override;
-
- private:
-  Tzu_pgn_style* style_;
+};
+class pgn_style_item : public style_item<polygon_kind> {
+  using style_item::style_item;
+  void fill() override;
 };
 
 /// The root: a style item for each style that the manager draws with in its mode. A manager of
@@ -152,10 +136,8 @@ class mngr_item : public base_item {
  public:
   explicit mngr_item(Tzu_stl_mngr* mngr) : base_item({}), mngr_(mngr) {}
 
- protected:
-  void fill() override;
-
  private:
+  void fill() override;
   void add_style(std::wstring text, Tzu_stl_prm* prm);
   template <class scale_traits> void add_rows();
 

@@ -766,8 +766,10 @@ TEST(outline_tree, f2_edits_the_first_cell_of_the_row_that_can_be_typed_into) {
   auto* editor = view->viewport()->findChild<QSpinBox*>();
   ASSERT_NE(editor, nullptr);
   EXPECT_EQ(editor->value(), 2);
-  editor->setValue(40);
+  editor->selectAll();
+  QTest::keyClicks(editor, QStringLiteral("40"));
   QTest::keyClick(editor, Qt::Key_Return);
+  QApplication::processEvents();
   EXPECT_EQ(numbers.values[1], 40);
 }
 

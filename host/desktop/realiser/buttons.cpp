@@ -95,7 +95,7 @@ class button_widget final : public button_control<button_impl, QPushButton> {
     QColor color = palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled,
                                    isEnabled() ? QPalette::Link : QPalette::WindowText);
     painter.setPen(underMouse() || isDown() ? color.lighter(120) : color);
-    painter.drawText(rect(), Qt::AlignCenter | Qt::TextShowMnemonic, text());
+    painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, text());
     if (!hasFocus()) return;
     QStyleOptionFocusRect frame;
     frame.initFrom(this);

@@ -191,6 +191,7 @@ void outline_delegate::paint_canvas(QPainter* painter, const QStyleOptionViewIte
   if (image.isNull() || !page || !model_->draw(index, page.get())) return;
   zu_drwc_get_pixels(page.get(), image.bits());  // a row of four bytes a pixel has no padding
   image.setDevicePixelRatio(scale);
+  painter->fillRect(inside, Qt::white);  // as on a map
   painter->drawImage(inside.topLeft(), image);
 }
 

@@ -210,6 +210,12 @@ void outline_widget::show_columns() {
 }
 
 int outline_widget::spare_column() const {
+  const bool has_captions =
+      (call<&outline_impl::attributes>(element_) & outline_shows_captions) != 0;
+  const int last = model_->columnCount() - 1;
+  if (flat_ != nullptr && !has_captions && last >= 0 && !header()->isSectionHidden(last) &&
+      model_->column(last).kind == column_kind::string)
+    return last;
   int found = -1;
   bool any_wish = false;
   for (int i = 0; i < model_->columnCount(); ++i) {

@@ -10,6 +10,7 @@ zu_sources(host_cli_sources host/cli)
 list(REMOVE_ITEM host_cli_sources ${CMAKE_SOURCE_DIR}/host/cli/main.cpp)
 add_library(zu_host_cli STATIC ${host_cli_sources})
 target_link_libraries(zu_host_cli PUBLIC zu_host_core CLI11::CLI11 nlohmann_json::nlohmann_json)
+target_precompile_headers(zu_host_cli PRIVATE <CLI/CLI.hpp> <nlohmann/json.hpp>)
 
 add_executable(zugrid host/cli/main.cpp)
 target_link_libraries(zugrid PRIVATE zu_host_cli)

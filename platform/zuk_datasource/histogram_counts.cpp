@@ -13,6 +13,16 @@ constexpr std::size_t lanes = 4;
 
 }  // namespace
 
+std::uint64_t histogram_classes(std::int32_t type, double minimum, double maximum) {
+  constexpr std::uint64_t most = 256;
+  constexpr double too_many = 9e15;  // numbers that are not all told apart
+  bool whole = type >= element_uint8 && type <= element_uint64;
+  if (!whole || !(maximum - minimum < too_many)) return most;
+  double numbers = std::floor(maximum - minimum) + 1;
+  double in_a_class = std::ceil(numbers / static_cast<double>(most));
+  return std::max<std::uint64_t>(1, static_cast<std::uint64_t>(numbers / in_a_class));
+}
+
 histogram_counts::histogram_counts(const histogram_limits& limits)
     : limits_(limits),
       per_unit_(limits.maximum > limits.minimum
@@ -83,12 +93,13 @@ bool exact_histogram(open_dataset& dataset, int band, const std::wstring& name,
 bool visit_histogram(source_details_impl& source, std::int64_t field, histogram_visitor visitor) {
   Tzu_field_info known = {};
   if (!source.field_info(field, &known)) return false;
-  histogram_limits limits{known.minimum, known.maximum, histogram_classes};
+  histogram_limits limits{known.minimum, known.maximum, 0};
   if (!known.has_stat) {
     Tzu_field_stat read = {};
     if (!source.compute_stat(field, 0, nullptr, nullptr, &read) || read.count == 0) return false;
     limits.minimum = read.minimum, limits.maximum = read.maximum;
   }
+  limits.classes = histogram_classes(known.type, limits.minimum, limits.maximum);
   std::vector<std::int64_t> counts(limits.classes);
   if (!source.compute_histogram(field, limits.classes, limits.minimum, limits.maximum, nullptr,
                                 nullptr, counts.data()))

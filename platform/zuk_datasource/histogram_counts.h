@@ -17,8 +17,8 @@ struct histogram_limits {
   std::uint64_t classes = 0;
 };
 
-/// Of a histogram that nobody asked more of.
-inline constexpr std::uint64_t histogram_classes = 256;
+/// As zu_datasource_get_histogram_classes, for an element type.
+std::uint64_t histogram_classes(std::int32_t type, double minimum, double maximum);
 
 class histogram_counts {
  public:
@@ -47,8 +47,8 @@ bool exact_histogram(open_dataset& dataset, int band, const std::wstring& name,
                      const histogram_limits& limits, bool (*progress)(double share, void* user),
                      void* user, std::int64_t* out);
 
-/// Gives the counts of a field in 256 classes between its least and greatest value, stored or read.
-/// False, and no call, if there are none.
+/// Gives the counts of a field in classes that suit it between its least and greatest value, stored
+/// or read. False, and no call, if there are none.
 bool visit_histogram(source_details_impl& source, std::int64_t field, histogram_visitor visitor);
 
 }  // namespace zu::platform

@@ -6,6 +6,7 @@
 #include "platform/zuk_basic/guarded.h"
 #include "platform/zuk_basic/utf8.h"
 #include "platform/zuk_datasource/gdal_source.h"
+#include "platform/zuk_datasource/histogram_counts.h"
 #include "platform/zuk_datasource/pgrid_source.h"
 #include "platform/zuk_datasource/pgrid_writer.h"
 #include "platform/zuk_datasource/segy_source.h"
@@ -129,6 +130,13 @@ bool zu_datasource_compute_histogram(Tzu_handle source, int64_t field, uint64_t 
   std::fill_n(counts, classes, 0);
   return call<&source_details_impl::compute_histogram>(
       cast<source_details_impl>(source), field, classes, minimum, maximum, progress, user, counts);
+}
+
+uint64_t zu_datasource_get_histogram_classes(Tzu_handle source, int64_t field, double minimum,
+                                             double maximum) {
+  Tzu_field_info info{};
+  zu_datasource_get_field_info(source, field, &info);
+  return zu::platform::histogram_classes(info.type, minimum, maximum);
 }
 
 bool zu_datasource_write_pgrid_w(Tzu_handle source, const wchar_t* path,

@@ -99,9 +99,9 @@ class axis_drawing {
     double low = upright_ ? box.y0 : box.x0, high = upright_ ? box.y1 : box.x1;
     Tzu_box_d2 page{};
     zu_drwc_get_page(drwc(), &page);
-    double length = upright_ ? page.y1 - page.y0 : page.x1 - page.x0;
-    if (!(high > low) || !(length > 0) || !std::isfinite(high - low)) return;
-    double step = round_step((high - low) / length * least_distance);
+    length_ = upright_ ? page.y1 - page.y0 : page.x1 - page.x0;
+    if (!(high > low) || !(length_ > 0) || !std::isfinite(high - low)) return;
+    double step = round_step((high - low) / length_ * least_distance);
     double first = std::ceil(low / step), last = std::floor(high / step);
     if (!(last - first < most_ticks)) return;
     const int count = static_cast<int>(last - first);
@@ -120,14 +120,21 @@ class axis_drawing {
                                : Tzu_box_d2{at.x - half, 0, at.x + half, mark};
     constexpr Tzu_color ink{70, 70, 70, 0};
     zu_drwc_fill_box(drwc(), &line, ink);
+    std::wstring number = number_at(value, step);
+    // A number that the edge of the page would cut stays away.
+    constexpr double of_a_digit = 0.7 * height;
+    double reach = (upright_ ? height : of_a_digit * static_cast<double>(number.size())) / 2;
+    double along = upright_ ? at.y : at.x;
+    if (along < reach || along > length_ - reach) return;
     double x = upright_ ? mark + 0.5 : at.x, y = upright_ ? at.y : mark + 0.5;
     zu_drwc_draw_text_w(drwc(), x, y, height,
                         upright_ ? zu_anchor_middle_left : zu_anchor_low_center, ink,
-                        number_at(value, step).c_str());
+                        number.c_str());
   }
 
   Izu_render* render_;
   bool upright_;
+  double length_ = 0;  // of the page along the axis, mm
 };
 
 }  // namespace

@@ -27,8 +27,6 @@ class number_set_visitor : public floatings_visitor_impl {
   std::set<double>& out_;
 };
 
-constexpr std::uint64_t histogram_classes = 256;
-
 void set_counts(Tzu_histogramm_data* out, std::uint64_t classes, const std::int64_t* counts) {
   zu_histogramm_clear(out);
   zu_histogramm_set_params(out, classes);
@@ -270,8 +268,9 @@ void generic_datasource::fill_histogram(Tzu_stat* stat, std::int64_t field) {
 
 bool generic_datasource::read_histogram(Tzu_stat* stat, std::int64_t field,
                                         Tzu_progress* progress) {
-  std::vector<std::int64_t> counts(histogram_classes);
   double minimum = field_minimum(field), maximum = field_maximum(field);
+  std::vector<std::int64_t> counts(
+      zu_datasource_get_histogram_classes(source_, field, minimum, maximum));
   bool read = zu_datasource_compute_histogram(source_, field, counts.size(), minimum, maximum,
                                               &show_share, progress, counts.data());
   Tzu_histogramm_data* histogram = zu_stat_get_histogramm(stat, nullptr);

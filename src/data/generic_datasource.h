@@ -89,7 +89,7 @@ class generic_datasource {
   bool field_histogram(std::int64_t field, Tzu_histogramm_data* out);
   /// With the field's limits; valid if the source gives one.
   void fill_histogram(Tzu_stat* stat, std::int64_t field);
-  /// The same in 256 classes by one pass of the platform's, with a window; false as above.
+  /// The same by one pass of the platform's, with a window; false as above.
   bool read_histogram(Tzu_stat* stat, std::int64_t field, Tzu_progress* progress);
   bool field_unique_values(std::int64_t field, std::int64_t limit, std::set<double>& out);
   bool field_unique_values(std::int64_t field, std::int64_t limit, std::vector<std::wstring>& out);

@@ -13,6 +13,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPageSize>
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
@@ -39,6 +40,20 @@ struct format {
 };
 constexpr std::array<format, 4> formats = {
     {{"PNG", ".png"}, {"GeoTIFF", ".tif"}, {"PDF", ".pdf"}, {"SVG", ".svg"}}};
+
+constexpr std::array<QPageSize::PageSizeId, 4> sheets = {QPageSize::A4, QPageSize::A3,
+                                                         QPageSize::A2, QPageSize::Letter};
+
+/// Each sheet on its side and upright, as maps mostly are and as texts are.
+void add_sheets(QComboBox* box) {
+  box->addItem(words("As the window", "Как окно"));
+  for (QPageSize::PageSizeId id : sheets) {
+    QSizeF upright = QPageSize::size(id, QPageSize::Millimeter);
+    QString name = QPageSize::key(id);
+    box->addItem(words("%1, landscape", "%1, альбомный").arg(name), upright.transposed());
+    box->addItem(words("%1, portrait", "%1, книжный").arg(name), upright);
+  }
+}
 
 int format_of(const QString& path) {
   std::string ending = host::ending_of(path.toStdString());
@@ -116,6 +131,7 @@ export_dialog::export_dialog(const host::page_request& seen, const QString& name
       browse_(new QPushButton(words("&Browse…", "&Обзор…"), this)),
       color_button_(new QPushButton(this)),
       format_(new QComboBox(this)),
+      sheet_(new QComboBox(this)),
       legend_(new QComboBox(this)),
       width_(side_box("export_width", seen.picture.nx, this)),
       height_(side_box("export_height", seen.picture.ny, this)),
@@ -123,7 +139,7 @@ export_dialog::export_dialog(const host::page_request& seen, const QString& name
       keep_shape_(new QCheckBox(words("&Keep the shape", "&Сохранять пропорции"), this)),
       transparent_(new QCheckBox(words("&Transparent", "Про&зрачный"), this)),
       accurate_(new QCheckBox(words("&Full precision", "&Полная точность"), this)),
-      as_seen_(new QRadioButton(words("As on &screen", "Как на &экране"), this)),
+      as_seen_(new QRadioButton(words("As on &screen", "Ка&к на экране"), this)),
       all_layers_(new QRadioButton(words("&All layers", "&Все слои"), this)),
       paper_(new QLabel(this)),
       problem_(new QLabel(this)) {
@@ -134,6 +150,7 @@ export_dialog::export_dialog(const host::page_request& seen, const QString& name
   int last = std::max(0, format_of(QStringLiteral("x") + kept_text(format_name)));
   format_->setCurrentIndex(last);
   path_->setText(with_ending(QDir(first_folder()).filePath(name), last));
+  add_sheets(sheet_);
   legend_->addItems({words("None", "Нет"), words("Top left", "Слева вверху"),
                      words("Top right", "Справа вверху"), words("Bottom left", "Слева внизу"),
                      words("Bottom right", "Справа внизу")});
@@ -164,6 +181,7 @@ void export_dialog::add_rows() {
   path_->setMinimumWidth(320);
   browse_->setObjectName(QStringLiteral("export_browse"));
   format_->setObjectName(QStringLiteral("export_format"));
+  sheet_->setObjectName(QStringLiteral("export_sheet"));
   dots_->setObjectName(QStringLiteral("export_dots"));
   legend_->setObjectName(QStringLiteral("export_legend"));
   keep_shape_->setObjectName(QStringLiteral("export_keep_shape"));
@@ -185,6 +203,7 @@ void export_dialog::add_rows() {
   auto* cross = new QLabel(QStringLiteral("\u00d7"), this);
   add(words("&File:", "&Файл:"), path_, row_of({path_, browse_}, false));
   add(words("F&ormat:", "Фор&мат:"), format_, row_of({format_, accurate_}));
+  add(words("&Paper:", "Л&ист:"), sheet_, row_of({sheet_}));
   add(words("Si&ze:", "&Размер:"), width_, row_of({width_, cross, height_, keep_shape_}));
   add(words("&Resolution:", "Раз&решение:"), dots_, row_of({dots_, paper_}));
   add(words("Extent:", "Охват:"), as_seen_, row_of({as_seen_, all_layers_}));
@@ -196,9 +215,9 @@ void export_dialog::add_rows() {
   connect(buttons, &QDialogButtonBox::accepted, this, &export_dialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &export_dialog::reject);
   QWidget* before = path_;
-  for (QWidget* each : std::initializer_list<QWidget*>{browse_, format_, accurate_, width_, height_,
-                                                       keep_shape_, dots_, as_seen_, all_layers_,
-                                                       legend_, transparent_, color_button_, ok_}) {
+  for (QWidget* each : std::initializer_list<QWidget*>{
+           browse_, format_, accurate_, sheet_, width_, height_, keep_shape_, dots_, as_seen_,
+           all_layers_, legend_, transparent_, color_button_, ok_}) {
     setTabOrder(before, each);
     before = each;
   }
@@ -216,7 +235,8 @@ void export_dialog::connect_rows() {
   connect(width_, &QSpinBox::valueChanged, this, [this] { side_changed(true); });
   connect(height_, &QSpinBox::valueChanged, this, [this] { side_changed(false); });
   connect(keep_shape_, &QCheckBox::toggled, this, [this] { side_changed(true); });
-  connect(dots_, &QDoubleSpinBox::valueChanged, this, &export_dialog::show_state);
+  connect(sheet_, &QComboBox::activated, this, &export_dialog::paper_chosen);
+  connect(dots_, &QDoubleSpinBox::valueChanged, this, &export_dialog::paper_chosen);
   connect(transparent_, &QCheckBox::toggled, this, &export_dialog::show_state);
   connect(color_button_, &QPushButton::clicked, this, [this] {
     QColor chosen = QColorDialog::getColor(color_, this);
@@ -229,7 +249,25 @@ double export_dialog::shape() const {
   return static_cast<double>(seen_.picture.nx) / static_cast<double>(seen_.picture.ny);
 }
 
+/// The sheet at the resolution; the window's own pixels if there is none.
+void export_dialog::paper_chosen() {
+  const QSizeF sheet = sheet_->currentData().toSizeF();
+  const bool is_first = sheet_->currentIndex() == 0;
+  if (!is_first || sender() == sheet_) {
+    auto pixels = [&](double millimetres) {
+      return static_cast<int>(std::lround(millimetres * dots_->value() / 25.4));
+    };
+    const QSignalBlocker quiet[] = {QSignalBlocker(keep_shape_), QSignalBlocker(width_),
+                                    QSignalBlocker(height_)};
+    keep_shape_->setChecked(is_first);
+    width_->setValue(is_first ? static_cast<int>(seen_.picture.nx) : pixels(sheet.width()));
+    height_->setValue(is_first ? static_cast<int>(seen_.picture.ny) : pixels(sheet.height()));
+  }
+  show_state();
+}
+
 void export_dialog::side_changed(bool is_width) {
+  sheet_->setCurrentIndex(0);  // a size of the person's own
   if (keep_shape_->isChecked()) {
     QSpinBox* other = is_width ? height_ : width_;
     QSignalBlocker once(other);

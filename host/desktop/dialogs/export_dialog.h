@@ -25,7 +25,7 @@ struct export_request {
 };
 
 /// The format follows from the name's ending and sets it. The size keeps the shape of the window's
-/// picture until a person lets go of it.
+/// picture until a person lets go of it or chooses a sheet of paper.
 class export_dialog final : public QDialog {
   Q_OBJECT
 
@@ -50,6 +50,7 @@ class export_dialog final : public QDialog {
   void format_chosen();
   void path_edited();
   void side_changed(bool is_width);
+  void paper_chosen();
   void show_state();
   double shape() const;
 
@@ -58,7 +59,7 @@ class export_dialog final : public QDialog {
   QColor color_;
   QLineEdit* path_;
   QPushButton *browse_, *color_button_, *ok_;
-  QComboBox *format_, *legend_;
+  QComboBox *format_, *sheet_, *legend_;
   QSpinBox *width_, *height_;
   QDoubleSpinBox* dots_;
   QCheckBox *keep_shape_, *transparent_, *accurate_;

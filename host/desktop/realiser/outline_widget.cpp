@@ -156,6 +156,8 @@ void outline_widget::heard(notice what) {
     if (what == notice::list && tree_ != nullptr) open_items({});
   } else if (what == notice::all) {
     choice_->while_items_change([this] { model_->refresh(false); });
+    is_fitted_ = false;
+    if (isVisible()) fit_columns();
   }
   if (what != notice::value) show_look();
   choice_->show();
@@ -272,10 +274,12 @@ void outline_widget::fit_columns() {
     const shown_column& c = model_->column(i);
     const int chosen = c.id.isEmpty() ? 0 : choice(width_name(c)).toInt();
     const int wished = c.width > 0 ? int(std::min(c.width, 1000u)) * layout_unit(this) : 0;
-    // A caption in full, if it takes half as much again at most.
+    // A caption in full, if it takes half as much again at most; numbers and texts up to double.
     const int captioned = std::min(header()->sectionSizeHint(i), wished * 3 / 2);
+    const bool is_text = c.kind <= column_kind::floating;
+    const int filled = is_text ? std::min(fitting_width(i), wished * 2) : 0;
     const int width = chosen > 0   ? chosen
-                      : wished > 0 ? std::max(wished, captioned)
+                      : wished > 0 ? std::max({wished, captioned, filled})
                                    : fitting_width(i);
     header()->resizeSection(i, std::max(width, header()->minimumSectionSize()));
   }

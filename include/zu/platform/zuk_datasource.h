@@ -59,6 +59,11 @@ ZU_API bool zu_datasource_compute_histogram(Tzu_handle source, int64_t field, ui
                                             double minimum, double maximum,
                                             bool (*progress)(double share, void* user), void* user,
                                             int64_t* counts);
+/// How many classes between the limits show a field best: 256, or, for whole numbers, one a number
+/// or one for so many numbers each, at most 256, so that no class is empty or full by its place
+/// alone. 256 if there is no such field.
+ZU_API uint64_t zu_datasource_get_histogram_classes(Tzu_handle source, int64_t field,
+                                                    double minimum, double maximum);
 
 /// What of a source goes into a grid file.
 typedef struct Tzu_pgrid_options {

@@ -90,6 +90,39 @@ TEST_F(export_dialog_test, paper_is_told_in_millimetres) {
   EXPECT_EQ(find<QLabel>(*dialog_, "export_paper")->text(), QStringLiteral("100 × 50 mm"));
 }
 
+TEST_F(export_dialog_test, a_sheet_of_paper_gives_the_size_at_each_resolution) {
+  auto& sheet = *find<QComboBox>(*dialog_, "export_sheet");
+  auto choose = [&](int index) {
+    sheet.setFocus();
+    while (sheet.currentIndex() != index)
+      QTest::keyClick(&sheet, index > sheet.currentIndex() ? Qt::Key_Down : Qt::Key_Up);
+  };
+  auto& dots = *find<QDoubleSpinBox>(*dialog_, "export_dots");
+  auto& keep_shape = *find<QCheckBox>(*dialog_, "export_keep_shape");
+  dots.setValue(254);
+  EXPECT_EQ(width().value(), 800);
+  choose(1);  // A4 on its side
+  EXPECT_EQ(width().value(), 2970);
+  EXPECT_EQ(height().value(), 2100);
+  EXPECT_FALSE(keep_shape.isChecked());
+  EXPECT_EQ(find<QLabel>(*dialog_, "export_paper")->text(), QStringLiteral("297 × 210 mm"));
+  dots.setValue(127);
+  EXPECT_EQ(width().value(), 1485);
+  choose(2);  // upright
+  EXPECT_EQ(width().value(), 1050);
+  EXPECT_EQ(height().value(), 1485);
+  height().setValue(1000);  // by hand: no sheet any more
+  EXPECT_EQ(sheet.currentIndex(), 0);
+  EXPECT_EQ(width().value(), 1050);
+  dots.setValue(200);
+  EXPECT_EQ(width().value(), 1050);
+  choose(1);
+  choose(0);
+  EXPECT_EQ(width().value(), 800);
+  EXPECT_EQ(height().value(), 400);
+  EXPECT_TRUE(keep_shape.isChecked());
+}
+
 TEST_F(export_dialog_test, extent_legend_and_background_are_taken) {
   find<QRadioButton>(*dialog_, "export_all_layers")->click();
   find<QComboBox>(*dialog_, "export_legend")->setCurrentIndex(2);

@@ -39,6 +39,27 @@ TEST(histogram_counts, leave_out_what_is_not_between_the_limits_or_no_value) {
   EXPECT_EQ(counts_of({-9999, -9999.05F, 1, 2}, {-10000, 2, 1}, {true, -9999}), (numbers{2}));
 }
 
+TEST(histogram_counts, of_whole_numbers_have_as_many_numbers_in_each_class) {
+  using platform::histogram_classes;
+  EXPECT_EQ(histogram_classes(element_float32, 0, 9), 256u);
+  EXPECT_EQ(histogram_classes(element_uint8, 0, 255), 256u);
+  EXPECT_EQ(histogram_classes(element_uint8, 60, 190), 131u);
+  EXPECT_EQ(histogram_classes(element_int16, -7, -7), 1u);
+  EXPECT_EQ(histogram_classes(element_uint16, 0, 65535), 256u);
+  EXPECT_EQ(histogram_classes(element_int64, -9e18, 9e18), 256u);
+  EXPECT_EQ(histogram_classes(element_uint8, NAN, 1), 256u);
+  for (int count : {1, 2, 131, 256, 257, 300, 400, 512}) {
+    std::vector<float> all;
+    for (int i = 0; i < count; ++i) all.push_back(static_cast<float>(10 + i));
+    std::uint64_t classes = histogram_classes(element_int16, 10, 9 + count);
+    EXPECT_LE(classes, 256u);
+    numbers counts = counts_of(all, {10.0, 9.0 + count, classes});
+    // What is over stands in the last class.
+    for (std::size_t i = 0; i + 1 < counts.size(); ++i)
+      EXPECT_EQ(counts[i], count <= 256 ? 1 : 2) << count << " " << i;
+  }
+}
+
 TEST(histogram_counts, of_equal_limits_stand_in_the_first_class) {
   EXPECT_EQ(counts_of({5, 5, 6, 4}, {5, 5, 3}), (numbers{2, 0, 0}));
 }

@@ -132,6 +132,29 @@ TEST(axes_of_a_scene, show_when_they_and_the_axis_are_visible) {
   EXPECT_EQ(zu_axes_get_axis(axes, 2), nullptr);
 }
 
+TEST(axes_of_a_scene, keep_numbers_away_that_the_edge_of_the_page_would_cut) {
+  owned<zu_scn_2d_destroy> scene(zu_scn_2d_create());
+  Tzu_axes* axes = zu_scn_2d_get_axes_ptr(scene.get());
+  zu_axes_set_visible(axes, true);
+  zu_axis_type_set_visible(zu_axes_get_axis(axes, zu_axis_bottom), true);
+  page paper(zu_drwc_create_image(100, 100, 25.4, false));  // a pixel is a millimetre
+  Tzu_box_d2 box{0, 0, 1000, 1};
+  render drawing(zu_render_create(paper.get(), &box));
+  zu_scn_2d_draw_axes(drawing.get(), scene.get());
+  std::vector<std::uint8_t> rgba(100 * 100 * 4);
+  zu_drwc_get_pixels(paper.get(), rgba.data());
+  auto has_number = [&](std::size_t from, std::size_t to) {
+    for (std::size_t row = 95; row < 98; ++row)  // above the marks
+      for (std::size_t x = from; x < to; ++x)
+        if (rgba[(row * 100 + x) * 4 + 3] != 0) return true;
+    return false;
+  };
+  EXPECT_FALSE(has_number(0, 10));
+  EXPECT_TRUE(has_number(15, 25));
+  EXPECT_TRUE(has_number(75, 85));
+  EXPECT_FALSE(has_number(90, 100));
+}
+
 TEST(texts_at_places, take_a_box_about_their_anchor) {
   picture p({0, 0, 100, 100});
   owned<zu_text_data_destroy> text(zu_text_data_create());

@@ -282,6 +282,14 @@ TEST_F(main_window_test, fits_into_the_screen_when_it_is_opened_for_the_first_ti
   }
 }
 
+TEST_F(main_window_test, says_in_russian_why_a_file_does_not_open) {
+  choose_language(language::russian);
+  window_->open_paths({path("none.tif")});
+  ASSERT_EQ(messages().size(), 1);
+  EXPECT_TRUE(messages().front().endsWith(QString::fromUtf8("none.tif: файла нет")))
+      << messages().front().toStdString();
+}
+
 TEST_F(main_window_test, a_scale_that_is_typed_is_taken) {
   window_->open_paths({grid("a.asc")});
   auto* scale = window_->findChild<QComboBox*>(QStringLiteral("status_scale"));

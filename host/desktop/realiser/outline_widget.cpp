@@ -283,6 +283,12 @@ void outline_widget::fit_columns() {
                                    : fitting_width(i);
     header()->resizeSection(i, std::max(width, header()->minimumSectionSize()));
   }
+  // The last one gives back what it got beyond its caption before anything scrolls sidewards.
+  const int last = header()->logicalIndex(header()->count() - 1);
+  const int excess = header()->length() - view_->viewport()->width();
+  if (header()->stretchLastSection() && excess > 0 &&
+      header()->sectionSize(last) - excess >= header()->sectionSizeHint(last))
+    header()->resizeSection(last, header()->sectionSize(last) - excess);
 }
 
 void outline_widget::showEvent(QShowEvent* event) {

@@ -3,23 +3,26 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
 #include <QDockWidget>
-#include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
+#include <QPushButton>
 #include <QScrollBar>
-#include <QTabBar>
+#include <QTabWidget>
 #include <QTimer>
 #include <QToolBar>
 #include <functional>
+#include <map>
+#include <string>
+#include <vector>
 
 #include "host/desktop/map/map_view.h"
+#include "host/desktop/map/viewer_builders.h"
 #include "host/desktop/realiser/modal_runner.h"
-#include "host/desktop/realiser/outline_flat_view.h"
 #include "tests/gui/window/window_fixture.h"
-#include "tests/unit/platform/zuk_file_segy/made_section.h"
 #include "tests/unit/src/made_pgrid.h"
 
 namespace zu::desktop {
@@ -32,6 +35,7 @@ struct look_and_speech {
   appearance look;
   language speech;
 };
+
 std::string said(const QWidget* at, const QString& what) {
   QString name = at->objectName();
   for (const QWidget* up = at->parentWidget(); up != nullptr && !up->isWindow();
@@ -61,6 +65,7 @@ std::vector<std::string> cut_off(const QWidget* in) {
 class styling_looks : public main_window_test, public testing::WithParamInterface<look_and_speech> {
  protected:
   void SetUp() override {
+    serve_viewers(&services_);
     main_window_test::SetUp();
     choose_appearance(GetParam().look);
     choose_language(GetParam().speech);
@@ -75,6 +80,7 @@ class styling_looks : public main_window_test, public testing::WithParamInterfac
   }
   void TearDown() override {
     services_.set_dialog_runners({});
+    serve_viewers(nullptr);
     choose_appearance(appearance::light);
     if (former_data_.isNull())
       qunsetenv("XDG_DATA_HOME");
@@ -113,6 +119,14 @@ class styling_looks : public main_window_test, public testing::WithParamInterfac
       shown->grab().save(QString::fromStdString(folder.toStdString() + "/" + name + "_" +
                                                 GetParam().name + ".png"));
   }
+  /// Each page of each group of tabs, the others as they are.
+  static void look_at_pages(const std::string& name, QWidget* shown) {
+    for (auto* tabs : shown->findChildren<QTabWidget*>())
+      for (int i = 0; i < tabs->count(); ++i) {
+        tabs->setCurrentIndex(i);
+        look_at(name + "_" + std::to_string(tabs->count()) + std::to_string(i), shown);
+      }
+  }
   /// Runs what opens a dialog, and `act` on it; it is left by Escape.
   static void in_the_dialog(const std::function<void()>& opens,
                             const std::function<void(QDialog*)>& act) {
@@ -145,12 +159,6 @@ class styling_looks : public main_window_test, public testing::WithParamInterfac
       for (QAction* each : bar->actions())
         if (bar->isVisible() && each->objectName().startsWith(QString::fromUtf8(id))) return each;
     ADD_FAILURE() << id;
-    return nullptr;
-  }
-  static flat_view* rows(QWidget* in) {
-    for (auto* each : in->findChildren<flat_view*>())
-      if (each->isVisible()) return each;
-    ADD_FAILURE() << "no rows";
     return nullptr;
   }
 
@@ -192,7 +200,7 @@ TEST_P(styling_looks, of_the_panels_of_relief_and_contours) {
     for (auto* button : panel->findChildren<QPushButton*>())
       if (button->isVisible() && !button->text().isEmpty()) {
         in_the_dialog([&] { button->click(); },
-                      [&](QDialog* dialog) { look_at("dialog_line", dialog); });
+                      [&](QDialog* dialog) { look_at_pages("dialog_line", dialog); });
         break;
       }
   }

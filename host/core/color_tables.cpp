@@ -1,16 +1,13 @@
 #include "host/core/color_tables.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <cmath>
-#include <cstring>
-#include <filesystem>
-#include <fstream>
 #include <limits>
 
 #include "host/core/failure.h"
 #include "host/core/numbers.h"
 #include "host/core/texts.h"
+#include "zu/platform/zuk_io.h"
 
 namespace zu::host {
 namespace {
@@ -234,17 +231,11 @@ void write_color_table(const std::string& file, Tzu_rng_scale* scale) {
                                           : ends(".qgis.txt") ? table_format::qgis
                                                               : table_format::gdal);
   if (text.empty()) throw failure(file, "the scale has no classes");
-  std::string beside = file + ".part";
-  std::ofstream out(beside, std::ios::binary | std::ios::trunc);
-  out << text;
-  out.close();
-  std::error_code error;
-  if (out) std::filesystem::rename(beside, file, error);
-  if (!out || error) {
-    std::string reason = error ? error.message() : std::strerror(errno);
-    std::filesystem::remove(beside, error);
-    throw failure(file, reason);
-  }
+  bool written = false;
+  std::wstring reason = text_of([&](Tzu_string_adp* adapter) {
+    written = zu_io_write_file_w(wide(file).c_str(), text.data(), text.size(), adapter);
+  });
+  if (!written) throw failure(file, narrow(reason));
 }
 
 }  // namespace zu::host

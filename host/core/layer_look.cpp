@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "host/core/failure.h"
 #include "host/core/scale_files.h"
@@ -32,8 +33,8 @@ void paint_other(Tzu_scale_prm* row, const layer_look& look) {
 }
 
 void spread_colors(const layer_look& look, std::vector<Tzu_color>& colors) {
-  zu_clr_arrays_generate_ex(look.gradient.value_or(default_colors), colors.size(), colors.data(),
-                            0);
+  const std::int32_t array = look.gradient.value_or(default_colors);
+  zu_clr_arrays_generate_ex(array, colors.size(), colors.data(), zu_clr_arrays_is_of_kinds(array));
 }
 
 std::size_t colored_field(const layer_look& look, const source& data) {
@@ -201,21 +202,32 @@ void set_channel(Tzu_clr_channel* channel, const layer_look& look, const source&
   }
 }
 
-/// The channels of an image are its own bands, for a person who goes over to channels to change
-/// them.
-void set_channels_of_image(const source& data, Tzu_rgb_channels* channels) {
-  for (const field& f : data.fields()) {
-    Tzu_clr_channel* of = f.role == role_red     ? zu_rgb_channels_get_red(channels)
-                          : f.role == role_green ? zu_rgb_channels_get_green(channels)
-                          : f.role == role_blue  ? zu_rgb_channels_get_blue(channels)
-                                                 : nullptr;
-    if (of != nullptr) zu_clr_channel_set_prop_name_w(of, wide(f.name).c_str());
+/// The first channels that a person finds who goes over to them: red, green and blue are the bands
+/// of these roles, else the first three. The limits of bytes are those of a new channel; others are
+/// so wide that the panel cuts them to the data when it has read them, which is not done here.
+void set_first_channels(const source& data, Tzu_rgb_channels* channels) {
+  constexpr double widest = std::numeric_limits<float>::max();
+  std::vector<const field*> bands;
+  for (const field& f : data.fields())
+    if (f.role != role_alpha) bands.push_back(&f);
+  if (bands.empty()) return;
+  const std::pair<band_role, Tzu_clr_channel*> all[] = {
+      {role_red, zu_rgb_channels_get_red(channels)},
+      {role_green, zu_rgb_channels_get_green(channels)},
+      {role_blue, zu_rgb_channels_get_blue(channels)}};
+  for (std::size_t i = 0; i < 3; ++i) {
+    auto [role, channel] = all[i];
+    auto own = std::find_if(bands.begin(), bands.end(),
+                            [wanted = role](const field* f) { return f->role == wanted; });
+    const field& shown = own != bands.end() ? **own : *bands[std::min(i, bands.size() - 1)];
+    zu_clr_channel_set_prop_name_w(channel, wide(shown.name).c_str());
+    if (shown.info.type != element_uint8) zu_clr_channel_set_limits(channel, -widest, widest);
   }
 }
 
 void set_channels(draw_type draw, const layer_look& look, const source& data,
                   Tzu_rgb_channels* channels) {
-  if (draw == draw_type::image) set_channels_of_image(data, channels);
+  if (draw == draw_type::image || draw == draw_type::scale) set_first_channels(data, channels);
   if (draw == draw_type::gray)
     set_channel(zu_rgb_channels_get_gray(channels), look, data, colored_field(look, data));
   if (draw != draw_type::rgb) return;

@@ -166,6 +166,15 @@ void zu_xnode_get_text(Tzu_xnode* root, Tzu_string_adp* adapter) {
   guarded(root, [&](Tzu_xnode& r) { zu_string_adp_feed_narrow(adapter, text_of(r).c_str()); });
 }
 
+bool zu_io_write_file_w(const wchar_t* path, const char* bytes, uint64_t size,
+                        Tzu_string_adp* reason) {
+  return telling(reason, false, [&] {
+    if (bytes == nullptr) throw refused("there is nothing to write");
+    write(to_utf8(path), std::string(bytes, size));
+    return true;
+  });
+}
+
 bool zu_xnode_save_file_w(Tzu_xnode* root, const wchar_t* path, Tzu_string_adp* reason) {
   return telling(reason, false, [&] {
     if (root == nullptr) throw refused("there is nothing to write");

@@ -14,6 +14,7 @@ struct described {
   const char* name;
   ramp_form form;
   stops colors;
+  bool of_kinds = false;
 };
 
 /// By number. The tones and the arrays of several hues were laid out in OKLab, with lightness in
@@ -68,7 +69,8 @@ const described table[] = {
     {"mineral",
      ramp_form::spread,
      {0x1f8a5b, 0xf0dd5a, 0xb5352a, 0x8fd3cf, 0x6b4396, 0xe39a2d, 0x2a5caa, 0xeeb9c0, 0x5b6e3a,
-      0xd6cf9a, 0x7a4a25, 0x3fb6b0, 0x4d4f57}},
+      0xd6cf9a, 0x7a4a25, 0x3fb6b0, 0x4d4f57},
+     true},
     // Land from the plain to the snow: green, yellow, brown, then the pale of ice.
     {"height_light",
      ramp_form::even,
@@ -114,7 +116,7 @@ color_array made(const described& from) {
     colors.push_back({static_cast<std::uint8_t>(c >> 16), static_cast<std::uint8_t>(c >> 8),
                       static_cast<std::uint8_t>(c), 0});
   color_ramp ramp(colors, from.form);
-  return {from.name, std::move(colors), std::move(ramp)};
+  return {from.name, std::move(colors), std::move(ramp), from.of_kinds};
 }
 
 }  // namespace
@@ -154,6 +156,10 @@ int32_t zu_clr_arrays_get_count() {
 const char* zu_clr_arrays_get_name(int32_t id) {
   const color_array* array = zu::platform::find_color_array(id);
   return array != nullptr ? array->name : nullptr;
+}
+bool zu_clr_arrays_is_of_kinds(int32_t id) {
+  const color_array* array = zu::platform::find_color_array(id);
+  return array != nullptr && array->of_kinds;
 }
 int32_t zu_clr_arrays_find(const char* name) {
   for (int32_t id = 0; name != nullptr && id < zu_clr_arrays_get_count(); ++id)

@@ -12,6 +12,7 @@ struct color_array {
   const char* name;
   std::vector<Tzu_color> colors;  ///< opaque
   color_ramp ramp;
+  bool of_kinds;
 };
 
 /// In the order of their numbers, which are keys of files and tools.

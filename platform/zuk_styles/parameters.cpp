@@ -11,6 +11,11 @@ namespace {
 
 constexpr Tzu_color drawn{128, 128, 128, 0}, selected{255, 255, 0, 0};
 
+void set_default(Tzu_stl_prm& style) {
+  style.colors[0] = drawn;
+  style.colors[1] = selected;
+}
+
 template <class style>
 void copy_part(std::unique_ptr<style>& to, const std::unique_ptr<style>& from) {
   to = from ? std::make_unique<style>(*from) : nullptr;
@@ -28,7 +33,7 @@ Tzu_bpln_style& stroked(Tzu_stl_prm& style, int index, sized kind) {
 
 }  // namespace
 
-style_parameters::style_parameters() : Tzu_stl_prm{{drawn, selected}, nullptr} {}
+style_parameters::style_parameters() : Tzu_stl_prm{} { set_default(*this); }
 style_parameters::style_parameters(const Tzu_stl_prm& from) : style_parameters() {
   assign(*this, from);
 }
@@ -37,7 +42,10 @@ style_parameters& style_parameters::operator=(const style_parameters& from) {
   return *this;
 }
 
-scale_row::scale_row() : Tzu_scale_prm{{{drawn, selected}, nullptr}, true} {}
+scale_row::scale_row() : Tzu_scale_prm{} {
+  set_default(style);
+  visible = true;
+}
 scale_row::scale_row(const scale_row& from) : scale_row() { *this = from; }
 scale_row& scale_row::operator=(const scale_row& from) {
   assign(style, from.style);

@@ -67,7 +67,9 @@ struct text_scale_traits {
     return false;
   }
 
-  static bool save(const std::wstring& path, const Tzu_stl_mngr* manager, const char* key);
+  /// False with the reason, and the old file as it was.
+  static bool save(const std::wstring& path, const Tzu_stl_mngr* manager, const char* key,
+                   std::wstring* reason = nullptr);
   static bool load(const std::wstring& path, Tzu_stl_mngr* manager, const char* key);
 };
 
@@ -176,7 +178,9 @@ struct range_scale_traits {
   static bool fill(Tzu_rng_scale* scale, const data::open_reference& source,
                    const std::wstring& field);
 
-  static bool save(const std::wstring& path, const Tzu_stl_mngr* manager, const char* key);
+  /// False with the reason, and the old file as it was.
+  static bool save(const std::wstring& path, const Tzu_stl_mngr* manager, const char* key,
+                   std::wstring* reason = nullptr);
   static bool load(const std::wstring& path, Tzu_stl_mngr* manager, const char* key);
 };
 

@@ -77,21 +77,13 @@ template <class kind> class style_input : public style_button<kind, toolkit::but
   static constexpr std::int32_t edit_hint = 14556;  // "Click to edit the style"
 };
 
-/// A link that says what the style is for, with the sample beside it.
+/// A link that says what the style is for and shows the sample.
 template <class kind> class style_link : public style_button<kind, toolkit::button_link> {
  public:
   explicit style_link(std::int32_t caption = 0, std::int32_t hint = 0)
       : style_button<kind, toolkit::button_link>(caption, hint, 56, 16) {
-    row_.place(static_cast<toolkit::button&>(*this)).place(this->sample_).set_column_stretch(2);
+    this->set_image(this->sample_);
   }
-  void set_enabled(bool enabled) override {
-    toolkit::button::set_enabled(enabled);
-    this->sample_.set_enabled(enabled);
-  }
-  handle element() override { return handle_of<grid_layout_impl>(row_); }
-
- private:
-  toolkit::grid_layout<3, 1> row_;
 };
 
 }  // namespace detail

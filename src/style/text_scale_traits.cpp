@@ -120,10 +120,13 @@ std::optional<std::int32_t> text_scale_traits::library_number(const Tzu_val_scal
   return static_cast<std::int32_t>(whole);
 }
 
-bool text_scale_traits::save(const std::wstring& path, const Tzu_stl_mngr* manager,
-                             const char* key) {
+bool text_scale_traits::save(const std::wstring& path, const Tzu_stl_mngr* manager, const char* key,
+                             std::wstring* reason) {
   owned<zu_xml_save_2d_destroy> xml(zu_xml_save_2d_create());
-  return zu_xml_data_save_val_scale_w(xml.get(), path.c_str(), manager, key);
+  if (zu_xml_data_save_val_scale_w(xml.get(), path.c_str(), manager, key)) return true;
+  if (reason != nullptr)
+    *reason = text_of([&](Tzu_string_adp* a) { zu_xml_save_2d_get_reason_w(xml.get(), a); });
+  return false;
 }
 bool text_scale_traits::load(const std::wstring& path, Tzu_stl_mngr* manager, const char* key) {
   owned<zu_xml_save_2d_destroy> xml(zu_xml_save_2d_create());

@@ -23,9 +23,9 @@ class colors : public in_a_folder {
     EXPECT_EQ(result.err, "");
     return picture(path("o.png")).all();
   }
-  static pixels array(const char* name, std::size_t count) {
+  static pixels array(const char* name, std::size_t count, std::int32_t flag = 0) {
     std::vector<Tzu_color> all(count);
-    zu_clr_arrays_generate_ex(zu_clr_arrays_find(name), count, all.data(), 0);
+    zu_clr_arrays_generate_ex(zu_clr_arrays_find(name), count, all.data(), flag);
     pixels read;
     for (Tzu_color each : all) read.push_back(pixel(each));
     return read;
@@ -52,6 +52,16 @@ TEST_F(colors, a_gradient_colours_classes_made_of_the_data) {
   pixels expected = array("violet", 5);
   EXPECT_EQ(shown[1], expected[1]);
   EXPECT_EQ(shown[3], expected[3]);
+}
+
+TEST_F(colors, an_array_of_kinds_gives_its_colours_in_turn) {
+  pixels in_turn = array("mineral", 5, 1);
+  std::string source = floats("g.tif", 3, 1, {7, 8, 9});
+  EXPECT_EQ(drawn(source, {"--unique", "--gradient", "mineral", "--size", "3x1"}),
+            (pixels{in_turn[0], in_turn[1], in_turn[2]}));
+  EXPECT_EQ(drawn(source, {"--breaks", "6,7.5,8.5,9.5", "--gradient", "mineral", "--size", "3x1"}),
+            (pixels{in_turn[1], in_turn[2], in_turn[3]}))
+      << "behind the lower tail";
 }
 
 TEST_F(colors, an_unknown_gradient_is_answered_with_the_names) {

@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStyleOptionButton>
+#include <algorithm>
 
 #include "host/desktop/realiser/builders.h"
 #include "host/desktop/realiser/pictures.h"
@@ -71,10 +72,12 @@ class button_widget final : public button_control<button_impl, QPushButton> {
   }
 
   QSize sizeHint() const override {
-    QSize size = QPushButton::sizeHint();
-    return is_link_ ? QSize(fontMetrics().size(Qt::TextShowMnemonic, text()).width() + 4,
-                            fontMetrics().height() + 4)
-                    : size;
+    if (!is_link_) return QPushButton::sizeHint();
+    QSize size(text_width(), fontMetrics().height());
+    if (!icon().isNull())
+      size = {size.width() + picture_gap + iconSize().width(),
+              std::max(size.height(), iconSize().height())};
+    return size + QSize(2 * link_margin, 2 * link_margin);
   }
 
  protected:
@@ -95,7 +98,12 @@ class button_widget final : public button_control<button_impl, QPushButton> {
     QColor color = palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled,
                                    isEnabled() ? QPalette::Link : QPalette::WindowText);
     painter.setPen(underMouse() || isDown() ? color.lighter(120) : color);
-    painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, text());
+    const QRect inside = rect().adjusted(link_margin, 0, -link_margin, 0);
+    painter.drawText(inside, Qt::AlignVCenter | Qt::AlignLeading | Qt::TextShowMnemonic, text());
+    const QRect behind = inside.adjusted(text_width() + picture_gap, 0, 0, 0);
+    icon().paint(&painter, QStyle::visualRect(layoutDirection(), inside, behind),
+                 Qt::AlignVCenter | Qt::AlignLeading,
+                 isEnabled() ? QIcon::Normal : QIcon::Disabled);
     if (!hasFocus()) return;
     QStyleOptionFocusRect frame;
     frame.initFrom(this);
@@ -103,6 +111,9 @@ class button_widget final : public button_control<button_impl, QPushButton> {
   }
 
  private:
+  static constexpr int link_margin = 2, picture_gap = 6;
+
+  int text_width() const { return fontMetrics().size(Qt::TextShowMnemonic, text()).width(); }
   void pressed() {
     QPointer<QObject> alive(this);
     finish_typing(this);

@@ -55,6 +55,9 @@ ZU_API void zu_xnode_get_text(Tzu_xnode* root, Tzu_string_adp* adapter);
 /// Writes the tree whole or not at all: a kill at any moment leaves the old file or the new one.
 /// False with the reason if it cannot be written.
 ZU_API bool zu_xnode_save_file_w(Tzu_xnode* root, const wchar_t* path, Tzu_string_adp* reason);
+/// The same of `size` bytes of anything.
+ZU_API bool zu_io_write_file_w(const wchar_t* path, const char* bytes, uint64_t size,
+                               Tzu_string_adp* reason);
 
 // --- Groups: one named child of `node` each. `context` is the host's and may be null.
 

@@ -12,6 +12,9 @@ ZU_API bool zu_clr_arrays_generate_ex(int32_t id, uint64_t count, Tzu_color* col
 ZU_API int32_t zu_clr_arrays_get_count(void);
 /// Its English name in lower case with underscores ("blue_white_red"), or null; lives for ever.
 ZU_API const char* zu_clr_arrays_get_name(int32_t id);
+/// True for an array of kinds rather than of amounts, whose colours are to be taken in turn: a ramp
+/// between them would say nothing.
+ZU_API bool zu_clr_arrays_is_of_kinds(int32_t id);
 ZU_API int32_t zu_clr_arrays_find(const char* name);  ///< -1 if there is none
 
 // --- Palettes

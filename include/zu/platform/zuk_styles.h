@@ -17,8 +17,13 @@ enum Tzu_style_mode {
 
 /// Styles of the kind of the manager's type: index 0 draws, index 1 draws what is selected. Colours
 /// of cells stand here; symbols, lines and polygons behind `more`, which is null until one of them
-/// is asked for. Not to be copied as a record.
+/// is asked for. Not to be copied as a record, for it owns what is there: C++ refuses.
 typedef struct Tzu_stl_prm {
+#ifdef __cplusplus
+  Tzu_stl_prm() = default;
+  Tzu_stl_prm(const Tzu_stl_prm&) = delete;
+  Tzu_stl_prm& operator=(const Tzu_stl_prm&) = delete;
+#endif
   Tzu_color colors[2];
   struct Tzu_stl_prm_more* more;
 } Tzu_stl_prm;

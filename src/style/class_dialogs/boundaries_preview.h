@@ -18,6 +18,8 @@ class boundaries_preview : public toolkit::with_element {
     };
   }
   void assign(const Tzu_rng_scale* scale) { viewer_.assign(scale); }
+  /// Whether the tools let a person split the range into equal classes.
+  void offer_count(bool offered) { viewer_.offer_count(offered); }
   handle element() override { return viewer_.element(); }
 
   /// A person moved a boundary or made other classes: the scale as it is on show.

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "src/data/grid_datasource.h"
+#include "src/style/class_dialogs/color_run.h"
 #include "src/style/classes/field_sample.h"
 #include "src/style/classes/scale_dialogs.h"
 #include "src/toolkit/dialog.h"
@@ -59,7 +60,9 @@ range_scale::range_scale(Tzu_rng_scale* scale, Tzu_stat* stat, const data::open_
   method_.on_change = [this](std::int32_t type) { choose(type); };
   preview_.on_change = [this](const Tzu_rng_scale* dragged) { take_dragged(dragged); };
   buttons_.on_accept = [this] {
+    const style::detail::color_run colors(scale_);
     pages_[static_cast<std::size_t>(type_)]->build(scale_);
+    colors.spread_over(scale_);
     return true;
   };
   information_.place(minimum_).place(maximum_).place(mean_).place(deviation_);
@@ -100,6 +103,7 @@ void range_scale::show(std::int32_t type) {
   bool known = type >= 0 && type < static_cast<std::int32_t>(methods);
   type_ = known ? type : static_cast<std::int32_t>(zu_range_equal);
   stack_.assign(static_cast<std::uint32_t>(type_));
+  preview_.offer_count(type_ == zu_range_manual);  // the other pages have a number of their own
 }
 
 void range_scale::choose(std::int32_t type) {

@@ -104,8 +104,9 @@ std::wstring upper_caption(const Tzu_rng_scale* scale);
 std::wstring class_caption(const Tzu_rng_scale* scale, std::uint64_t index,
                            caption_form form = caption_form::both);
 
-/// Spreads a numbered array of colours over lower tail, classes and upper tail; transparencies
-/// stay. False, and nothing changed, if there is no such array.
+/// Spreads a numbered array of colours over lower tail, classes and upper tail, or gives them in
+/// turn if it is one of kinds; transparencies stay. False, and nothing changed, if there is no such
+/// array.
 bool spread_colors(Tzu_rng_scale* scale, std::int32_t array);
 
 }  // namespace zu::style

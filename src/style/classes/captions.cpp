@@ -87,7 +87,9 @@ bool spread_colors(Tzu_rng_scale* scale, std::int32_t array) {
   std::vector<Tzu_color> colors;
   colors.reserve(styles.size());
   for (Tzu_stl_prm* style : styles) colors.push_back(*zu_stl_prm_get_clr_style_ptr(style, 0));
-  if (!zu_clr_arrays_generate_ex(array, colors.size(), colors.data(), 0)) return false;
+  if (!zu_clr_arrays_generate_ex(array, colors.size(), colors.data(),
+                                 zu_clr_arrays_is_of_kinds(array)))
+    return false;
   for (std::size_t i = 0; i < styles.size(); ++i) zu_stl_prm_clr_set_all(styles[i], colors[i], 0);
   return true;
 }

@@ -4,6 +4,7 @@
 
 #include "src/bundle/strings.h"
 #include "src/bundle/texts.h"
+#include "src/style/file_warning.h"
 #include "zu/platform/zuk_ini_data.h"
 #include "zu/platform/zuk_msgs.h"
 #include "zu/platform/zuk_os.h"
@@ -67,7 +68,14 @@ template <class T> favorites_list<T>::favorites_list() {
 
 template <class T> favorites_list<T>::~favorites_list() {
   const std::wstring path = favorites_path(T::file, false);
-  if (!path.empty()) zu_xml_data_save_style_lib_file(path.c_str(), library_.get());
+  if (!path.empty()) write(path, changed_);
+}
+
+template <class T> void favorites_list<T>::write(const std::wstring& path, bool aloud) {
+  owned_xml xml(zu_xml_save_2d_create());
+  if (zu_xml_data_save_style_lib(xml.get(), path.c_str(), library_.get()) || !aloud) return;
+  warn_of_file(path,
+               text_of([&](Tzu_string_adp* a) { zu_xml_save_2d_get_reason_w(xml.get(), a); }));
 }
 
 template <class T> void favorites_list<T>::append() {
@@ -76,23 +84,21 @@ template <class T> void favorites_list<T>::append() {
   if (entry == nullptr) return;
   traits::assign(traits::library_style(entry), on_style());
   zu_idx_style_set_version(entry, 1);
+  changed_ = true;
   show();
 }
 
 template <class T> void favorites_list<T>::remove() {
   if (outline_.current_row() < 0) return;
   zu_style_list_remove(styles_, static_cast<std::uint64_t>(outline_.current_row()));
+  changed_ = true;
   show();
 }
 
 template <class T> void favorites_list<T>::save() {
   const std::wstring path = text_of(
       [](Tzu_string_adp* a) { zu_ask_save_file_w(load_text(file_filter).c_str(), nullptr, a); });
-  owned_xml xml(zu_xml_save_2d_create());
-  if (path.empty() || zu_xml_data_save_style_lib(xml.get(), path.c_str(), library_.get())) return;
-  const std::wstring reason =
-      text_of([&](Tzu_string_adp* a) { zu_xml_save_2d_get_reason_w(xml.get(), a); });
-  zu_show_wwarning((path + L": " + reason).c_str());
+  if (!path.empty()) write(path, true);
 }
 
 template <class T> void favorites_list<T>::load() {
@@ -102,6 +108,7 @@ template <class T> void favorites_list<T>::load() {
   owned<zu_style_lib_destroy> loaded(zu_style_lib_create());
   if (path.empty() || !zu_xml_data_load_style_lib(xml.get(), path.c_str(), loaded.get())) return;
   zu_style_lib_merge(library_.get(), loaded.get());
+  changed_ = true;
   show();
 }
 

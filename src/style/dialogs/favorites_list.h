@@ -33,8 +33,8 @@ template <class T> class favorites_tools {
   toolkit::action_tool append_{10470}, remove_{10471}, save_{10472}, load_{10473};
 };
 
-/// Read when it is made and written when it ends. A file that is missing, or cannot be read or
-/// written, is no matter.
+/// Read when it is made and written when it ends. A file that is missing or cannot be read is no
+/// matter; one that cannot be written is told of if the person would lose what they changed.
 template <class T> class favorites_list : public toolkit::with_element {
  public:
   using traits = typename T::dialog_traits;
@@ -57,7 +57,9 @@ template <class T> class favorites_list : public toolkit::with_element {
 
  private:
   void show();
+  void write(const std::wstring& path, bool aloud);
 
+  bool changed_ = false;  // since it was read
   owned<zu_style_lib_destroy> library_{zu_style_lib_create()};
   Tzu_style_list* styles_;
   detail::lib_style_outline<traits> outline_;

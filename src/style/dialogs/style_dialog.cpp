@@ -2,6 +2,7 @@
 
 #include "src/bundle/strings.h"
 #include "src/bundle/texts.h"
+#include "src/style/file_warning.h"
 #include "zu/platform/zuk_drwc.h"
 #include "zu/platform/zuk_msgs.h"
 #include "zu/platform/zuk_os.h"
@@ -54,7 +55,7 @@ template <class traits> void style_exchange_tools<traits>::save() {
   if (path.empty() || traits::save_file(xml.get(), path.c_str(), edited_)) return;
   const std::wstring reason =
       text_of([&](Tzu_string_adp* a) { zu_xml_save_style_get_reason_w(xml.get(), a); });
-  zu_show_wwarning((path + L": " + reason).c_str());
+  warn_of_file(path, reason);
 }
 
 template <class traits> void style_exchange_tools<traits>::load() {

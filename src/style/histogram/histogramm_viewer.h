@@ -34,6 +34,8 @@ class histogramm_viewer : public viewer2d {
 
   /// Boundaries and colours on show; copied. No handler runs.
   void assign(const Tzu_rng_scale* scale);
+  /// Whether the tool shows that splits the range into equal classes.
+  void offer_count(bool offered) { toolbar_.tools().bounds_count.set_visible(offered); }
   /// What is on show, with what a person changed. Owned by this.
   Tzu_rng_scale* scale() const;
 

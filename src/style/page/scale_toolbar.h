@@ -3,6 +3,7 @@
 
 #include "src/bundle/texts.h"
 #include "src/style/classes/scale_dialogs.h"
+#include "src/style/file_warning.h"
 #include "src/style/page/scale_tools.h"
 #include "src/toolkit/toolbars.h"
 #include "zu/platform/zuk_msgs.h"
@@ -99,7 +100,9 @@ template <class model> void save_scale(model& m) {
     zu_ask_save_file_w(load_text(traits::file_filter).c_str(),
                        beside.empty() ? nullptr : beside.c_str(), adapter);
   });
-  if (!path.empty()) traits::save(path, m.mngr, model::style_traits::manager_key);
+  std::wstring reason;
+  if (path.empty() || traits::save(path, m.mngr, model::style_traits::manager_key, &reason)) return;
+  warn_of_file(path, reason);
 }
 
 template <class model> void load_scale(model& m) {

@@ -2,6 +2,7 @@
 
 #include "src/bundle/strings.h"
 #include "src/bundle/texts.h"
+#include "src/style/file_warning.h"
 #include "src/toolkit/dialog.h"
 #include "zu/platform/zuk_ini_data.h"
 #include "zu/platform/zuk_msgs.h"
@@ -31,7 +32,7 @@ template <class function> bool with_file(const std::wstring& path, function&& wo
   if (work(xml.get(), path.c_str())) return true;
   std::wstring reason =
       text_of([&](Tzu_string_adp* a) { zu_xml_save_2d_get_reason_w(xml.get(), a); });
-  zu_show_wwarning((path + L": " + reason).c_str());
+  warn_of_file(path, reason);
   return false;
 }
 

@@ -87,10 +87,13 @@ TEST(multiline_output, is_as_high_as_its_lines_and_only_read) {
   EXPECT_TRUE(edit->isReadOnly());
   int three = edit->sizeHint().height();
   text.rows = 6;
-  text.is_monospaced = true;
   text.redraw();
   EXPECT_NEAR(edit->sizeHint().height(), three + 3 * QFontMetrics(edit->font()).lineSpacing(), 6);
-  EXPECT_TRUE(QFontInfo(edit->font()).fixedPitch());
+  text.is_monospaced = true;
+  text.redraw();
+  const QFontMetrics columns(edit->font());
+  EXPECT_EQ(columns.horizontalAdvance(QLatin1Char('i')),
+            columns.horizontalAdvance(QLatin1Char('M')));
 }
 
 struct fake_image : faked<image_impl> {

@@ -2,17 +2,24 @@
 // change, and undo takes it back in both.
 
 #include <QAbstractSpinBox>
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialog>
 #include <QDockWidget>
+#include <QFile>
+#include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSlider>
 #include <QStackedWidget>
 #include <QTabBar>
+#include <QTemporaryDir>
+#include <QTimer>
 #include <algorithm>
 
 #include "host/desktop/map/map_view.h"
+#include "host/desktop/realiser/modal_runner.h"
 #include "host/desktop/window/editor_docks.h"
 #include "tests/gui/window/window_fixture.h"
 
@@ -178,10 +185,37 @@ TEST_F(layer_panels, three_fields_make_a_picture) {
   EXPECT_EQ(tabs->tabText(0), QStringLiteral("Red"));
   for (int tab : {0, 1, 2}) {
     tabs->setCurrentIndex(tab);
-    choose(control<QComboBox>(panel, "Classification field"), "height");
+    EXPECT_EQ(control<QComboBox>(panel, "Classification field")->currentText(),
+              QStringLiteral("height"))
+        << "the only band";
+    EXPECT_EQ(control<QAbstractSpinBox>(panel, "Minimum")->property("text").toDouble(), 235)
+        << "cut to the data";
+    EXPECT_EQ(control<QAbstractSpinBox>(panel, "Maximum")->property("text").toDouble(), 1080);
   }
   expect_another_map();
   grab(QStringLiteral("panel_rgb.png"));
+}
+
+TEST_F(layer_panels, bands_without_roles_are_red_green_and_blue_in_their_order) {
+  QTemporaryDir folder;
+  QFile file(folder.filePath(QStringLiteral("four.vrt")));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write("<VRTDataset rasterXSize=\"2\" rasterYSize=\"2\">");
+  for (const char* band : {"a", "b", "c", "d"})
+    file.write(QByteArray("<VRTRasterBand dataType=\"Float32\"><Description>") + band +
+               "</Description></VRTRasterBand>");
+  file.write("</VRTDataset>");
+  file.close();
+  window_->open_paths({file.fileName()});
+  QDockWidget* panel = raise("style_editor");
+  choose(control<QComboBox>(panel, "Method"), "RGB");
+  auto* tabs = panel->findChild<QTabBar*>();
+  ASSERT_NE(tabs, nullptr);
+  for (int tab : {0, 1, 2}) {
+    tabs->setCurrentIndex(tab);
+    EXPECT_EQ(control<QComboBox>(panel, "Classification field")->currentText(),
+              QStringLiteral("abc").mid(tab, 1));
+  }
 }
 
 TEST_F(layer_panels, a_picture_that_is_drawn_by_channels_begins_with_its_own_bands) {
@@ -289,6 +323,30 @@ TEST_F(layer_panels, keep_the_channel_in_front_through_undo) {
   EXPECT_EQ(tabs->currentIndex(), 2);
   actions().edit_redo->trigger();
   EXPECT_EQ(tabs->currentIndex(), 2);
+}
+
+TEST_F(layer_panels, a_click_on_the_sample_of_a_line_opens_its_dialog) {
+  modal_runner runner(QStringLiteral("test"));
+  services_.set_dialog_runners([&](const std::wstring&) { return runner.runner(); });
+  QDockWidget* panel = raise("isoline");
+  click(control<QCheckBox>(panel, "Use"));
+  auto* link = control<QPushButton>(panel, "Contour style");
+  ASSERT_NE(link, nullptr);
+  ASSERT_FALSE(link->icon().isNull());
+  EXPECT_GE(link->width(), link->sizeHint().width()) << "nothing is cut off";
+  int opened = 0;
+  for (int x : {4, link->sizeHint().width() - 10}) {
+    QTimer::singleShot(0, link, [&] {
+      auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+      if (dialog == nullptr) return;
+      ++opened;
+      dialog->reject();
+    });
+    QTest::mouseClick(link, Qt::LeftButton, {}, QPoint(x, link->height() / 2));
+  }
+  services_.set_dialog_runners({});
+  EXPECT_EQ(opened, 2) << "at the text and at the sample";
+  grab(QStringLiteral("panel_isoline_links.png"));
 }
 
 TEST_F(layer_panels, are_as_wide_as_what_they_show) {

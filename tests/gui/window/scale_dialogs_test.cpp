@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QTimer>
 #include <QToolBar>
+#include <algorithm>
 #include <functional>
 
 #include "host/desktop/map/map_view.h"
@@ -131,9 +132,19 @@ TEST_F(scale_dialogs, a_number_of_classes_and_ok_make_other_classes_on_the_map) 
 
 TEST_F(scale_dialogs, cancel_leaves_everything_as_it_was) {
   QImage before = map();
+  auto counts_seen = [](QWidget* dialog) {
+    QCoreApplication::processEvents();
+    const QList<QAbstractSpinBox*> all = dialog->findChildren<QAbstractSpinBox*>();
+    return std::count_if(all.begin(), all.end(), [](const QAbstractSpinBox* each) {
+      return each->isVisible() && each->accessibleName() == QStringLiteral("Number of ranges");
+    });
+  };
   settings(false, [&](QDialog* dialog) {
     type(control<QAbstractSpinBox>(dialog, "Number of ranges"), "3");
+    EXPECT_EQ(counts_seen(dialog), 1) << "on the page";
     choose(control<QComboBox>(dialog, "Classification method"), "Manual");
+    EXPECT_EQ(counts_seen(dialog), 1) << "above the histogram";
+    grab("manual_ranges.png", dialog);
   });
   EXPECT_EQ(classes(), 10);
   EXPECT_EQ(map(), before);

@@ -304,6 +304,9 @@ TEST(color_table_file, is_written_whole_and_read_again) {
   }
   EXPECT_EQ(std::distance(fs::directory_iterator(folder), fs::directory_iterator()), 3);
   EXPECT_THROW(write_color_table(folder / "none" / "a.cpt", scale), failure);
+  fs::create_symlink("/dev/full", folder / "full.cpt");
+  EXPECT_THROW(write_color_table(folder / "full.cpt", scale), failure);
+  EXPECT_TRUE(fs::is_character_file("/dev/full")) << "a device is not replaced by a file";
   EXPECT_THROW(read_color_table(folder / "none.cpt"), failure);
   EXPECT_THROW(read_color_table(folder), failure);
   fs::remove_all(folder);

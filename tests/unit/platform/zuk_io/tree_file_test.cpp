@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -226,6 +227,28 @@ TEST_F(tree_file, says_why_a_file_cannot_be_read_or_written) {
   EXPECT_EQ(writing(folder), L"is a folder");
   EXPECT_FALSE(zu_xnode_save_file_w(nullptr, L"x", nullptr));
   EXPECT_EQ(zu_xnode_load_file_w(nullptr, nullptr), nullptr);
+}
+
+TEST_F(tree_file, a_disk_that_fills_up_leaves_the_old_file) {
+  const fs::path path = folder / "a.txt";
+  const std::string old = "old", fresh(100000, 'x');
+  ASSERT_TRUE(zu_io_write_file_w(wide(path).c_str(), old.data(), old.size(), nullptr));
+  // A file may not grow over 4 KiB, which fails as a full disk does.
+  rlimit before{};
+  getrlimit(RLIMIT_FSIZE, &before);
+  auto* signal_before = std::signal(SIGXFSZ, SIG_IGN);
+  const rlimit narrow{4096, before.rlim_max};
+  setrlimit(RLIMIT_FSIZE, &narrow);
+  bool written = true;
+  const std::wstring reason = text_of([&](Tzu_string_adp* a) {
+    written = zu_io_write_file_w(wide(path).c_str(), fresh.data(), fresh.size(), a);
+  });
+  setrlimit(RLIMIT_FSIZE, &before);
+  std::signal(SIGXFSZ, signal_before);
+  EXPECT_FALSE(written);
+  EXPECT_EQ(reason, L"no space left on the device");
+  EXPECT_EQ(bytes_of(path), old);
+  EXPECT_EQ(std::distance(fs::directory_iterator(folder), fs::directory_iterator()), 1);
 }
 
 TEST_F(tree_file, a_kill_in_the_middle_of_a_save_leaves_a_whole_file) {

@@ -209,6 +209,13 @@ TEST(color_arrays, offered_as_palettes_have_neighbours_that_differ) {
   }
 }
 
+TEST(color_arrays, of_kinds_are_those_that_tools_give_in_turn_alone) {
+  for (const named_number& each : numbers)
+    EXPECT_EQ(zu_clr_arrays_is_of_kinds(each.id), std::string("mineral") == each.name) << each.name;
+  EXPECT_FALSE(zu_clr_arrays_is_of_kinds(-1));
+  EXPECT_FALSE(zu_clr_arrays_is_of_kinds(28));
+}
+
 TEST(color_arrays, of_minerals_are_all_told_apart) {
   const auto& stored = zu::platform::find_color_array(16)->colors;
   for (std::size_t i = 0; i < stored.size(); ++i)

@@ -2,7 +2,9 @@
 
 #include <memory>
 #include <string>
+#include <type_traits>
 
+#include "platform/zuk_styles/parameters.h"
 #include "zu/platform/zuk_styles.h"
 
 namespace {
@@ -75,6 +77,19 @@ TEST(style_manager, a_row_has_a_colour_to_draw_and_one_for_what_is_selected) {
   EXPECT_EQ(zu_stl_prm_get_clr_style_ptr(&style, 0)->r, 1);
   EXPECT_EQ(zu_stl_prm_get_clr_style_ptr(&style, 1)->r, 5);
   EXPECT_EQ(zu_scale_prm_get_stl_prm_ptr(nullptr), nullptr);
+}
+
+TEST(style_manager, a_row_is_not_copied_as_a_record) {
+  static_assert(!std::is_copy_constructible_v<Tzu_stl_prm> &&
+                !std::is_copy_assignable_v<Tzu_stl_prm>);
+  static_assert(!std::is_copy_constructible_v<Tzu_scale_prm> &&
+                !std::is_copy_assignable_v<Tzu_scale_prm>);
+  static_assert(std::is_standard_layout_v<Tzu_scale_prm>, "C sees the same record");
+  zu::platform::style_parameters first;
+  zu_bpln_style_set_width(zu_pln_style_get_bpln_style_ptr(zu_stl_prm_get_pln_style_ptr(&first, 0)),
+                          2);
+  const zu::platform::style_parameters second(first);
+  EXPECT_NE(second.more, first.more) << "a copy has its own";
 }
 
 TEST(style_manager, null_is_harmless) {

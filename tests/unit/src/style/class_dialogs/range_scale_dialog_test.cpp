@@ -11,6 +11,7 @@
 #include "tests/unit/src/style/page/shown_tools.h"
 #include "tests/unit/src/toolkit/element_tree.h"
 #include "zu/platform/zuk_datasource.h"
+#include "zu/platform/zuk_palettes.h"
 
 namespace {
 
@@ -385,6 +386,120 @@ TEST_F(range_scale_dialog, shows_in_the_preview_what_would_be_built) {
   EXPECT_EQ(call<&integer_tool_impl::value>(count_tool), 7);
   call<&dropdown_impl::set_current>(method_, 1);
   EXPECT_EQ(call<&integer_tool_impl::value>(count_tool), 9) << "0.1 to 50, and 0";
+}
+
+TEST_F(range_scale_dialog, asks_for_the_number_of_classes_in_one_place) {
+  know_all();
+  open();
+  tests::tool_set_taker taker;
+  call<&toolbar_impl::visit>(tests::find<toolbar_impl>(shown_), taker.visitor());
+  auto count_tool = cast<integer_tool_impl>(
+      tests::tool_named(taker.sets, L"zuk_histogramm_element_bounds_count_tool"));
+  for (int method : {0, 1, 2}) {
+    call<&dropdown_impl::set_current>(method_, method);
+    EXPECT_FALSE(call<&integer_tool_impl::visible>(count_tool))
+        << "the page has a number: " << method;
+  }
+  call<&dropdown_impl::set_current>(method_, 3);
+  EXPECT_TRUE(call<&integer_tool_impl::visible>(count_tool)) << "the table of boundaries has none";
+}
+
+/// Colours of the rows, from tail to tail.
+class range_scale_colors : public range_scale_dialog {
+ protected:
+  using colors = std::vector<std::uint32_t>;
+
+  Tzu_stl_prm* style(std::size_t row) {
+    std::uint64_t size = zu_rng_scale_get_size(scale_);
+    Tzu_scale_prm* of = row == 0      ? zu_rng_scale_get_min_prm_ptr(scale_)
+                        : row <= size ? zu_rng_scale_get_scale_prm_ptr(scale_, row - 1)
+                                      : zu_rng_scale_get_max_prm_ptr(scale_);
+    return zu_scale_prm_get_stl_prm_ptr(of);
+  }
+  static std::uint32_t number(Tzu_color c) { return (c.r * 256u + c.g) * 256u + c.b; }
+  static Tzu_color color(std::uint32_t rgb, std::uint8_t a = 0) {
+    return {static_cast<std::uint8_t>(rgb >> 16), static_cast<std::uint8_t>(rgb >> 8),
+            static_cast<std::uint8_t>(rgb), a};
+  }
+  colors shown() {
+    colors all;
+    for (std::size_t i = 0; i < zu_rng_scale_get_size(scale_) + 2; ++i)
+      all.push_back(number(zu_stl_prm_get_color(style(i), 0)));
+    return all;
+  }
+  void paint(const colors& with) {
+    ASSERT_EQ(with.size(), zu_rng_scale_get_size(scale_) + 2);
+    for (std::size_t i = 0; i < with.size(); ++i)
+      zu_stl_prm_clr_set_all(style(i), color(with[i]), 0);
+  }
+  static colors array(const char* name, std::size_t count, std::int32_t flag) {
+    std::vector<Tzu_color> made(count);
+    EXPECT_TRUE(zu_clr_arrays_generate_ex(zu_clr_arrays_find(name), count, made.data(), flag));
+    colors all;
+    for (Tzu_color c : made) all.push_back(number(c));
+    return all;
+  }
+  void build(std::int32_t classes) {
+    open();
+    type(count(0), classes);
+    EXPECT_TRUE(accept());
+  }
+};
+
+TEST_F(range_scale_colors, fewer_or_more_classes_show_the_whole_array) {
+  for (const char* name : {"blue_white_red", "rainbow", "height_depth"}) {
+    build(10);
+    paint(array(name, 12, 0));
+    for (std::int32_t classes : {3, 7, 10, 1}) {
+      build(classes);
+      EXPECT_EQ(shown(), array(name, static_cast<std::size_t>(classes) + 2, 0))
+          << name << ' ' << classes;
+    }
+  }
+}
+
+TEST_F(range_scale_colors, an_array_in_turn_goes_on_in_turn) {
+  build(3);
+  paint(array("mineral", 5, 1));
+  build(14);
+  EXPECT_EQ(shown(), array("mineral", 16, 1));
+}
+
+TEST_F(range_scale_colors, the_same_number_of_classes_leaves_colours_alone) {
+  colors odd{0xff0000, 0x00ff00, 0x123456, 0x0000ff, 0, 0xffffff};
+  paint(odd);
+  zu_rng_scale_set_max_value(scale_, 9);
+  build(4);
+  EXPECT_EQ(shown(), odd);
+}
+
+TEST_F(range_scale_colors, colours_of_a_persons_own_run_from_the_first_to_the_last) {
+  build(1);
+  paint({0x102030, 0x80ff00, 0xc0b0a0});
+  build(3);
+  colors after = shown();
+  ASSERT_EQ(after.size(), 5u);
+  EXPECT_EQ(after[0], 0x102030u);
+  EXPECT_EQ(after[2], 0x80ff00u) << "the middle";
+  EXPECT_EQ(after[4], 0xc0b0a0u);
+  EXPECT_NE(after[1], after[0]);
+  EXPECT_NE(after[1], after[2]) << "between them";
+}
+
+TEST_F(range_scale_colors, transparencies_run_along) {
+  build(3);
+  for (std::size_t i = 0; i < 5; ++i)
+    zu_stl_prm_clr_set_all(style(i), color(0x808080, static_cast<std::uint8_t>(i * 40)), 0);
+  build(1);
+  EXPECT_EQ(zu_stl_prm_get_color(style(0), 0).a, 0);
+  EXPECT_EQ(zu_stl_prm_get_color(style(1), 0).a, 80) << "the middle's";
+  EXPECT_EQ(zu_stl_prm_get_color(style(2), 0).a, 160);
+}
+
+TEST_F(range_scale_colors, the_first_classes_of_a_scale_get_the_colours_of_a_filled_one) {
+  zu_rng_scale_set_size(scale_, 0);
+  build(5);
+  EXPECT_EQ(shown(), array("blue_white_red", 7, 0));
 }
 
 TEST_F(range_scale_dialog, is_not_run_without_a_host_or_without_the_field) {

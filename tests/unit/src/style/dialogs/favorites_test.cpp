@@ -150,6 +150,28 @@ TEST_F(favorites, a_file_is_merged_and_what_is_held_stays) {
   EXPECT_EQ(styles.size(), 3u);
 }
 
+TEST_F(favorites, that_would_be_lost_are_told_of) {
+  std::vector<std::wstring> warnings;
+  const Tzu_message_hooks hooks{[](const wchar_t* text, void* user) {
+                                  static_cast<std::vector<std::wstring>*>(user)->emplace_back(text);
+                                },
+                                nullptr, &warnings};
+  zu_set_message_hooks(&hooks);
+  const std::filesystem::path own = folder_ / "zugrid" / "stylefav" / "line.2._ls";
+  { list untouched; }
+  std::filesystem::remove_all(own);
+  std::filesystem::create_directories(own / "in the way");
+  { list untouched; }
+  EXPECT_TRUE(warnings.empty()) << "nothing is lost";
+  {
+    list styles;
+    add(styles, {1});
+  }
+  zu_set_message_hooks(nullptr);
+  ASSERT_EQ(warnings.size(), 1u);
+  EXPECT_EQ(warnings[0], own.wstring() + L": is a folder");
+}
+
 TEST_F(favorites, tools_do_what_they_say) {
   list styles;
   styles.on_style = [this] { return line_.get(); };

@@ -29,18 +29,25 @@ class asking_host {
     zu_set_message_sink(
         [](const wchar_t* text, void* user) { static_cast<asking_host*>(user)->message = text; },
         this);
+    warning_hooks_.user = this;
+    warning_hooks_.warning = [](const wchar_t* text, void* user) {
+      static_cast<asking_host*>(user)->warning = text;
+    };
+    zu_set_message_hooks(&warning_hooks_);
   }
   asking_host(const asking_host&) = delete;
   asking_host& operator=(const asking_host&) = delete;
   ~asking_host() {
     zu_set_asking_hooks(nullptr);
     zu_set_message_sink(nullptr, nullptr);
+    zu_set_message_hooks(nullptr);
   }
 
   std::wstring path;  ///< what the person chooses; empty: nothing
   Tzu_color color{77, 0, 0, 0};
   bool accepts = true;
-  std::wstring filter, suggested, message;  ///< of the last question, and the last message
+  std::wstring filter, suggested;  ///< of the last question
+  std::wstring message, warning;   ///< the last ones
 
  private:
   bool file(const wchar_t* asked_filter, Tzu_string_adp* adapter) {
@@ -49,6 +56,7 @@ class asking_host {
     return !path.empty();
   }
   Tzu_asking_hooks hooks_{};
+  Tzu_message_hooks warning_hooks_{};
 };
 
 }  // namespace tests

@@ -417,6 +417,23 @@ TEST_F(value_page_tools, save_the_scale_and_load_it_again) {
   EXPECT_EQ(told, 1);
 }
 
+TEST_F(value_page_tools, say_which_scale_could_not_be_saved_and_why) {
+  asking_host host;
+  host.path = (std::filesystem::path(testing::TempDir()) / "no folder" / "a._vl").wstring();
+  act(L"zu_common_scale_tool_save");
+  EXPECT_EQ(host.warning, host.path + L": no such folder");
+  host.path = L"/dev/full";
+  act(L"zu_common_scale_tool_save");
+  EXPECT_EQ(host.warning, L"/dev/full: is not a regular file");
+}
+
+TEST_F(range_page_tools, say_which_scale_could_not_be_saved_and_why) {
+  asking_host host;
+  host.path = std::filesystem::path(testing::TempDir()).wstring();
+  act(L"zu_common_scale_tool_save");
+  EXPECT_EQ(host.warning, host.path + L": is a folder");
+}
+
 TEST_F(range_page_tools, suggest_the_name_by_which_the_scale_is_found_again) {
   asking_host host;
   m.source.name = L"/data/hills.tif";

@@ -75,6 +75,7 @@ int main(int argc, char** argv) {
     part->callback([&result, &running, &language, run, name = each.name] {
       running = name;
       zu::host::choose_language(language);
+      zu::host::apply_settings();
       result = run();
     });
   }

@@ -3,9 +3,10 @@
 #include <QApplication>
 #include <QIcon>
 #include <QPalette>
+#include <QProxyStyle>
 #include <QStandardPaths>
 #include <QStyle>
-#include <QStyleFactory>
+#include <QStyleOption>
 
 namespace zu::desktop {
 namespace {
@@ -37,6 +38,26 @@ QPalette dark() {
                     QColor(0x2f, 0x81, 0xd6), QColor(0x7c, 0x81, 0x86));
 }
 
+/// On a dark window the style draws the frames of check and radio buttons darker still: one that is
+/// not marked would not be seen.
+class framed_marks final : public QProxyStyle {
+ public:
+  framed_marks() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+    const auto* given = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if (given == nullptr || !is_dark() ||
+        (element != PE_IndicatorCheckBox && element != PE_IndicatorRadioButton))
+      return QProxyStyle::drawPrimitive(element, option, painter, widget);
+    QStyleOptionButton framed(*given);
+    // The frame is a darker shade of the window's colour.
+    framed.palette.setColor(QPalette::Window,
+                            option->palette.color(QPalette::Disabled, QPalette::Text).lighter(150));
+    QProxyStyle::drawPrimitive(element, &framed, painter, widget);
+  }
+};
+
 }  // namespace
 
 bool is_dark() {
@@ -57,7 +78,7 @@ void choose_appearance(appearance chosen) {
   static const QString system_style = QApplication::style()->name();
   static bool is_own = false;
   if (chosen != appearance::system) {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new framed_marks);
     QApplication::setPalette(chosen == appearance::dark ? dark() : light());
   } else if (is_own) {  // a palette that sets nothing brings back the system's
     QApplication::setStyle(system_style);

@@ -32,7 +32,7 @@ using zu::modal_dialog_runner;
 struct request {
   QStringList files;
   QString screenshot;
-  QSize size{1280, 800};
+  std::optional<QSize> size;
   std::optional<appearance> look;
   std::optional<language> speech;
   bool gallery = false;
@@ -83,7 +83,7 @@ request read_arguments(const QApplication& application) {
   if (parser.isSet(size)) {
     auto given = size_of(parser.value(size));
     if (!given) refuse(QStringLiteral("--size takes WxH in pixels, 200x150 to 10000x10000"));
-    wanted.size = *given;
+    wanted.size = given;
   }
   if (parser.isSet(look)) {
     QString name = parser.value(look);
@@ -114,6 +114,7 @@ void do_without_screen(int argc, char** argv) {
     if (QByteArray(argv[i]).startsWith("--screenshot")) qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
+constexpr QSize size_of_screenshot(1280, 800);
 constexpr int drawing_patience = 60000;  // milliseconds
 
 int take_picture(main_window& window, const QString& path) {
@@ -160,7 +161,8 @@ int run(const request& wanted) {
     return 0;
   }
   main_window window(services);
-  window.resize(wanted.size);
+  if (wanted.size || !wanted.screenshot.isEmpty())
+    window.resize(wanted.size.value_or(size_of_screenshot));
   window.show();
   window.open_paths(wanted.files);
   if (!wanted.screenshot.isEmpty()) return take_picture(window, wanted.screenshot);

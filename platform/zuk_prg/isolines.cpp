@@ -91,7 +91,6 @@ class line_taker final : public OGRLayer {
 std::unique_ptr<GDALDataset> dataset_of(const Tzu_mgrid2d& grid) {
   constexpr auto most = static_cast<std::uint64_t>(std::numeric_limits<std::int16_t>::max());
   if (grid.nx > most || grid.ny > most) return nullptr;
-  GDALAllRegister();
   GDALDriver* driver = GetGDALDriverManager()->GetDriverByName("MEM");
   if (driver == nullptr) return nullptr;
   int nx = static_cast<int>(grid.nx), ny = static_cast<int>(grid.ny);
@@ -138,6 +137,8 @@ bool trace_some(const Tzu_mgrid2d& grid, const std::vector<double>& levels, std:
 /// Levels know nothing of each other, so that every second one can be traced beside the others.
 bool trace(const Tzu_mgrid2d& grid, const std::vector<double>& levels, Tzu_cv_d2& out) {
   constexpr std::uint64_t worth_a_thread = 10'000;  // nodes
+  // Once and for all, since it writes what all threads share.
+  [[maybe_unused]] static const bool registered = (GDALAllRegister(), true);
   for (double level : levels) {
     out.sets.push_back(std::make_unique<Tzu_ov_d2>());
     out.sets.back()->level = level;

@@ -24,6 +24,19 @@ template <class work> void of_system(const wchar_t* text, work what) {
   });
 }
 
+// The part of a system that has its axes: without a height and without a shift to another datum.
+pj_ptr with_axes(proj_thread& thread, const PJ& system) {
+  PJ_CONTEXT* context = thread.context();
+  pj_ptr inner;
+  if (proj_get_type(&system) == PJ_TYPE_BOUND_CRS)
+    inner.reset(proj_get_source_crs(context, &system));
+  else if (proj_get_type(&system) == PJ_TYPE_COMPOUND_CRS)
+    inner.reset(proj_crs_get_sub_crs(context, &system, 0));
+  else
+    inner.reset(proj_clone(context, &system));
+  return inner;
+}
+
 // The code by which PROJ's database knows the system, if it is sure.
 int identified_code(proj_thread& thread, const PJ& system) {
   constexpr int sure = 90;
@@ -136,4 +149,19 @@ bool zu_pj_get_wkt_w(const wchar_t* text, Tzu_string_adp* wkt) {
     if (told) zu_string_adp_feed(wkt, from_utf8(written).c_str());
   });
   return told;
+}
+
+double zu_pj_get_unit_w(const wchar_t* text, bool* is_angle) {
+  double unit = 0;
+  of_system(text, [&](proj_thread& thread, const PJ& system) {
+    pj_ptr inner = with_axes(thread, system);
+    pj_ptr axes(inner ? proj_crs_get_coordinate_system(thread.context(), inner.get()) : nullptr);
+    if (axes == nullptr) return;
+    bool is_ellipsoidal = proj_cs_get_type(thread.context(), axes.get()) == PJ_CS_TYPE_ELLIPSOIDAL;
+    if (!proj_cs_get_axis_info(thread.context(), axes.get(), 0, nullptr, nullptr, nullptr, &unit,
+                               nullptr, nullptr, nullptr))
+      unit = 0;
+    if (is_angle != nullptr) *is_angle = is_ellipsoidal;
+  });
+  return unit;
 }

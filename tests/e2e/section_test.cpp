@@ -29,6 +29,18 @@ TEST_F(section, is_drawn_with_the_first_trace_at_the_left_and_the_first_sample_o
   EXPECT_FALSE(exists("a.sgy.ovr")) << "a picture does not wait for reduced copies";
 }
 
+TEST_F(section, gets_reduced_copies_where_the_settings_of_the_window_want_them) {
+  numbered_section(9, 9).save(path("a.sgy"));
+  std::filesystem::create_directories(path("config/zugrid"));
+  for (bool wanted : {false, true}) {
+    write("config/zugrid/settings.xml",
+          std::string("<zugrid_settings overviews=\"") + (wanted ? "1" : "0") + "\"/>");
+    outcome result = render(path("a.sgy"));
+    ASSERT_EQ(result.exit, 0) << result.err;
+    EXPECT_EQ(exists("a.sgy.ovr"), wanted);
+  }
+}
+
 TEST_F(section, tells_its_box_in_traces_and_milliseconds) {
   numbered_section(3, 4).save(path("a.segy"));
   outcome result = run({"info", path("a.segy"), "--json"});

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/core/texts.h"
 #include "host/desktop/words.h"
 #include "zu/platform/zuk_scn_2d.h"
 
@@ -312,17 +313,33 @@ void map_view::go_forward() {
   zu_viewer2d_redraw_slow(viewer());
 }
 
+double map_view::metres_a_unit() const {
+  Tzu_box_d2 shown;
+  if (!zu_viewer2d_get_box_cr_sml(viewer(), &shown)) return 1;
+  ground_.set_projection(host::narrow(host::text_of([this](Tzu_string_adp* adapter) {
+    zu_scn_2d_get_pj4wstr(zu_viewer2d_get_scn_2d(viewer()), adapter);
+  })));
+  return ground_.metres(zu_halfway(shown.y0, shown.y1));
+}
+
+double map_view::units_a_pixel() const {
+  double sx = 0, sy = 0;
+  if (box() && !wanted_) zu_viewer2d_get_scale(viewer(), &sx, &sy);
+  return sx * 0.0254 / (logicalDpiX() * devicePixelRatioF());
+}
+
 double map_view::map_scale() const {
   double sx = 0, sy = 0;
   if (box() && !wanted_) zu_viewer2d_get_scale(viewer(), &sx, &sy);
-  return sx;
+  return sx * metres_a_unit();
 }
 
 void map_view::set_map_scale(double denominator) {
   double sx = 0, sy = 0;
   zu_viewer2d_get_scale(viewer(), &sx, &sy);
   if (!(denominator > 0) || !std::isfinite(denominator) || !(sx > 0)) return;
-  zu_viewer2d_set_scale(viewer(), denominator, denominator / sx * sy);
+  const double wanted = denominator / metres_a_unit();
+  zu_viewer2d_set_scale(viewer(), wanted, wanted / sx * sy);
   zu_viewer2d_redraw_slow(viewer());
 }
 

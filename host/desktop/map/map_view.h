@@ -8,6 +8,7 @@
 #include <optional>
 #include <utility>
 
+#include "host/core/ground_unit.h"
 #include "host/desktop/map/frame_drawing.h"
 #include "host/desktop/map/map_pointer.h"
 #include "host/desktop/map/scene_watch.h"
@@ -43,8 +44,11 @@ class map_view : public QWidget {
   bool can_go_forward() const { return zu_viewer2d_zoomhist_has_next(viewer()); }
   void go_back();
   void go_forward();
-  double map_scale() const;  ///< denominator of the scale along x; 0 as long as there is none
+  /// Denominator of the scale along x in the middle of what is shown, for the ground that a unit of
+  /// the projection is; 0 as long as there is none.
+  double map_scale() const;
   void set_map_scale(double denominator);
+  double units_a_pixel() const;  ///< of the scene, along x; 0 as long as there is no scale
 
   /// Whether each axis has a scale of its own. Sections decide it by themselves until it is set.
   bool has_own_axes() const { return zu_viewer2d_is_anisotropic(viewer()); }
@@ -114,6 +118,7 @@ class map_view : public QWidget {
   void move_by(double parts_x, double parts_y);
   void show_box(const Tzu_box_d2& box);
   void show_cursor();
+  double metres_a_unit() const;
   QPointF pixel_at(QPointF position) const { return position * devicePixelRatioF(); }
 
   std::unique_ptr<Tzu_viewer2d, ended> viewer_;
@@ -140,6 +145,7 @@ class map_view : public QWidget {
   std::optional<bool> own_axes_;  ///< set by a person
   bool has_box_ = false;          ///< somebody chose what to show
   QSize followed_;
+  mutable host::ground_unit ground_;  ///< keeps what was looked up last
   std::optional<Tzu_box_d2> wanted_;  ///< chosen before the map had a size
 };
 

@@ -62,6 +62,7 @@ class canvas_widget final : public realised<canvas_impl, QWidget> {
     if (picture_.size() != pixels) draw(pixels);
     QPainter painter(this);
     if (!isEnabled()) painter.setOpacity(0.4);
+    painter.fillRect(rect(), Qt::white);  // as on a map
     painter.drawImage(QPoint(0, 0), picture_);
   }
   void mousePressEvent(QMouseEvent* event) override {

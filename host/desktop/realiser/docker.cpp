@@ -5,8 +5,12 @@
 #include <QScrollBar>
 #include <QStyle>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <map>
+#include <vector>
 
 #include "host/desktop/realiser/builders.h"
+#include "host/desktop/realiser/layouts.h"
 #include "host/desktop/realiser/pictures.h"
 #include "host/desktop/realiser/visitors.h"
 
@@ -76,6 +80,42 @@ void realised_docker::enabled_changed() { Q_EMIT wanted_changed(); }
 void realised_docker::changeEvent(QEvent* event) {
   QScrollArea::changeEvent(event);
   if (event->type() == QEvent::LanguageChange) heard(notice::language);
+}
+
+bool realised_docker::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == widget() && event->type() == QEvent::LayoutRequest) align_labels();
+  return QScrollArea::eventFilter(watched, event);
+}
+
+void realised_docker::resizeEvent(QResizeEvent* event) {
+  align_labels();
+  QScrollArea::resizeEvent(event);
+}
+
+void realised_docker::align_labels() {
+  if (!editor_ || widget() == nullptr) return;
+  std::map<int, std::vector<grid_layout_widget*>> by_place;
+  const QList<QWidget*> all = widget()->findChildren<QWidget*>();
+  for (QWidget* each : all) {
+    auto* grid = dynamic_cast<grid_layout_widget*>(each);
+    if (grid != nullptr && grid->isVisibleTo(widget()) && grid->label_width() > 0)
+      by_place[grid->mapTo(widget(), QPoint()).x()].push_back(grid);
+  }
+  for (const auto& [place, grids] : by_place) {
+    // In a narrow panel the controls need the room.
+    const int room = viewport()->width() - 2 * place;
+    int widest = 0, most = room;
+    for (const grid_layout_widget* grid : grids) {
+      widest = std::max(widest, grid->label_width());
+      most = std::min(most, room - grid->width_beside_labels());
+    }
+    for (grid_layout_widget* grid : grids) {
+      if (!grid->align_labels(std::clamp(most, 0, widest))) continue;
+      // What stands around it is to know before the panel gets its size.
+      for (QWidget* at = grid; at != widget(); at = at->parentWidget())
+        if (at->layout() != nullptr) at->layout()->activate();
+    }
+  }
 }
 
 QSize realised_docker::sizeHint() const {

@@ -37,11 +37,15 @@ class realised_docker final : public QScrollArea,
 
  protected:
   void changeEvent(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   void heard(notice) override;
   void enabled_changed() override;
   void fill();
+  /// Labels below each other, of whatever grid, get one width.
+  void align_labels();
 
   panel editor_;  // empty: not a panel of an editor
   QString title_;

@@ -2,8 +2,11 @@
 
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QHelpEvent>
 #include <QPointer>
 #include <QSignalBlocker>
+#include <QStylePainter>
+#include <QToolTip>
 #include <QWheelEvent>
 
 #include "host/desktop/realiser/builders.h"
@@ -36,6 +39,24 @@ class dropdown_widget final : public realised<dropdown_impl, QComboBox> {
     setToolTip(text_by<&dropdown_impl::hint>(element_));
     set_control_enabled(this, call<&dropdown_impl::enabled>(element_));
   }
+  /// A text that does not fit ends in dots.
+  void paintEvent(QPaintEvent*) override {
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    const QString elided = fontMetrics().elidedText(option.currentText, Qt::ElideRight, room());
+    option.currentText = elided;
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+  }
+  /// Such a text is said by the tip.
+  bool event(QEvent* event) override {
+    const bool is_cut = fontMetrics().horizontalAdvance(currentText()) > room();
+    if (event->type() != QEvent::ToolTip || !is_cut) return QComboBox::event(event);
+    const QString hint = toolTip().isEmpty() ? QString() : QLatin1Char('\n') + toolTip();
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), currentText() + hint, this);
+    return true;
+  }
   void wheelEvent(QWheelEvent* event) override {
     if (hasFocus())
       QComboBox::wheelEvent(event);
@@ -44,6 +65,16 @@ class dropdown_widget final : public realised<dropdown_impl, QComboBox> {
   }
 
  private:
+  /// For the text of what is chosen.
+  int room() const {
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const int picture = option.currentIcon.isNull() ? 0 : option.iconSize.width() + 4;
+    return style()
+               ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this)
+               .width() -
+           picture - 2;
+  }
   void choose(int index) {
     QPointer<QObject> alive(this);
     call<&dropdown_impl::set_current>(element_, std::int32_t(index));

@@ -97,6 +97,39 @@ bool grid_layout_widget::any_visible(const cell& placed) const {
   return column && row;
 }
 
+int grid_layout_widget::least_width(int column) const {
+  int size = bounded(call<&grid_layout_impl::column_size>(element_, std::uint32_t(column)));
+  return std::max(size * layout_unit(this), column == 0 ? aligned_ : 0);
+}
+
+int grid_layout_widget::label_width() const {
+  int width = 0;
+  for (const cell& placed : cells_) {
+    if (placed.column > 0 || placed.columns > 1 || placed.control->isHidden()) continue;
+    auto* label = qobject_cast<QLabel*>(placed.control);
+    if (label == nullptr || label->buddy() == nullptr) return 0;
+    width = std::max({width, label->sizeHint().width(), label->minimumWidth()});
+  }
+  return width;
+}
+
+int grid_layout_widget::width_beside_labels() const {
+  int labels = grid_->columnMinimumWidth(0);
+  for (const cell& placed : cells_)
+    if (placed.column == 0 && placed.columns == 1 && !placed.control->isHidden())
+      labels = std::max(
+          {labels, placed.control->minimumSizeHint().width(), placed.control->minimumWidth()});
+  return minimumSizeHint().width() - labels;
+}
+
+bool grid_layout_widget::align_labels(int width) {
+  if (width == aligned_) return false;
+  aligned_ = width;
+  if (call<&grid_layout_impl::column_visible>(element_, 0u))
+    grid_->setColumnMinimumWidth(0, least_width(0));
+  return true;
+}
+
 void grid_layout_widget::heard(notice what) {
   if (what == notice::language) return;
   for (const cell& placed : cells_)
@@ -108,8 +141,7 @@ void grid_layout_widget::heard(notice what) {
     bool shown = call<&grid_layout_impl::column_visible>(element_, c);
     bool stretches = shown && call<&grid_layout_impl::column_stretch>(element_, c);
     grid_->setColumnStretch(i, stretches ? 1 : 0);
-    int size = bounded(call<&grid_layout_impl::column_size>(element_, c));
-    grid_->setColumnMinimumWidth(i, shown ? size * unit : 0);
+    grid_->setColumnMinimumWidth(i, shown ? least_width(i) : 0);
     wide |= stretches;
   }
   for (int i = 0; i < rows_; ++i) {

@@ -18,6 +18,14 @@ class grid_layout_widget final : public realised<grid_layout_impl, QWidget> {
   grid_layout_widget(handle element, QWidget* parent);
   ~grid_layout_widget() override;
 
+  /// The width that the labels of the first column want; 0 if it has none, or not labels alone.
+  int label_width() const;
+  /// What the grid needs at least, but for that column.
+  int width_beside_labels() const;
+  /// Makes the column of labels at least so wide, that controls of several grids stand in line.
+  /// True if it was another width.
+  bool align_labels(int width);
+
  protected:
   void heard(notice) override;
 
@@ -29,9 +37,11 @@ class grid_layout_widget final : public realised<grid_layout_impl, QWidget> {
   void place(int column, int row);
   void name_controls();
   bool any_visible(const cell& placed) const;
+  int least_width(int column) const;
 
   QGridLayout* grid_;
   int columns_ = 0, rows_ = 0;
+  int aligned_ = 0;
   std::vector<cell> cells_;
 };
 

@@ -7,12 +7,14 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
+#include <QPointer>
 #include <QSpinBox>
 #include <QToolTip>
 
 #include "host/desktop/realiser/outline_editors.h"
 #include "host/desktop/realiser/pictures.h"
 #include "host/desktop/realiser/realised.h"
+#include "host/desktop/realiser/typed_line.h"
 #include "zu/platform/zuk_drwc.h"
 
 namespace zu::desktop {
@@ -189,6 +191,7 @@ void outline_delegate::paint_canvas(QPainter* painter, const QStyleOptionViewIte
   if (image.isNull() || !page || !model_->draw(index, page.get())) return;
   zu_drwc_get_pixels(page.get(), image.bits());  // a row of four bytes a pixel has no padding
   image.setDevicePixelRatio(scale);
+  painter->fillRect(inside, Qt::white);  // as on a map
   painter->drawImage(inside.topLeft(), image);
 }
 
@@ -238,7 +241,11 @@ void outline_delegate::setEditorData(QWidget* editor, const QModelIndex& index) 
 void outline_delegate::setModelData(QWidget* editor, QAbstractItemModel* model,
                                     const QModelIndex& index) const {
   const QVariant value = value_of_editor(editor);
-  if (value != starting_value(editor)) model->setData(index, value, Qt::EditRole);
+  if (value == starting_value(editor)) return;
+  // The rows, and the list itself, may be others once the outline has answered.
+  const QPointer<QWidget> cells = editor->parentWidget();
+  const QRect cell = editor->geometry();
+  if (!model->setData(index, value, Qt::EditRole) && cells) mark_refused_part(cells, cell);
 }
 
 void outline_delegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,

@@ -252,6 +252,8 @@ void flat_view::updateGeometries() {
   setViewportMargins(0, height, 0, 0);
   const QRect inside = viewport()->geometry();
   header_->setGeometry(inside.left(), inside.top() - height, inside.width(), height);
+  // While it is hidden it does not hear of its new width.
+  if (header_->isHidden()) QMetaObject::invokeMethod(header_, "updateGeometries");
   QScrollBar* bar = verticalScrollBar();
   bar->setPageStep(rows_that_fit());
   bar->setRange(0, std::max(row_count() - rows_that_fit(), 0));

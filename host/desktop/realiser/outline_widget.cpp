@@ -212,6 +212,12 @@ void outline_widget::show_columns() {
 }
 
 int outline_widget::spare_column() const {
+  const bool has_captions =
+      (call<&outline_impl::attributes>(element_) & outline_shows_captions) != 0;
+  const int last = model_->columnCount() - 1;
+  if (flat_ != nullptr && !has_captions && last >= 0 && !header()->isSectionHidden(last) &&
+      model_->column(last).kind == column_kind::string)
+    return last;
   int found = -1;
   bool any_wish = false;
   for (int i = 0; i < model_->columnCount(); ++i) {
@@ -277,6 +283,12 @@ void outline_widget::fit_columns() {
                                    : fitting_width(i);
     header()->resizeSection(i, std::max(width, header()->minimumSectionSize()));
   }
+  // The last one gives back what it got beyond its caption before anything scrolls sidewards.
+  const int last = header()->logicalIndex(header()->count() - 1);
+  const int excess = header()->length() - view_->viewport()->width();
+  if (header()->stretchLastSection() && excess > 0 &&
+      header()->sectionSize(last) - excess >= header()->sectionSizeHint(last))
+    header()->resizeSection(last, header()->sectionSize(last) - excess);
 }
 
 void outline_widget::showEvent(QShowEvent* event) {

@@ -41,7 +41,8 @@ class outline_widget final : public realised<outline_impl, QWidget> {
   void show_empty_text();
   void fit_columns();
   /// The column that takes what the others leave: the one of texts without a wish where there are
-  /// wishes; -1 if there is no such column, or more than one.
+  /// wishes, or the last one of texts where no captions let a person change a width; -1 if there is
+  /// no such column, or more than one.
   int spare_column() const;
   int fitting_width(int column) const;
   int fitting_row_height() const;

@@ -1,5 +1,6 @@
 #include "host/desktop/realiser/pictures.h"
 
+#include <QPainter>
 #include <algorithm>
 #include <cstring>
 #include <map>
@@ -43,6 +44,16 @@ void cut_out_ground(QImage& image) {
       if (image.pixel(x, y) == ground) image.setPixel(x, y, 0);
 }
 
+/// Samples of styles are looked at as on the map, whose ground is white: a black line on a dark
+/// window would not be seen.
+QImage on_paper(const QImage& sample) {
+  if (sample.isNull()) return sample;
+  QImage paper(sample.size(), QImage::Format_RGB32);
+  paper.fill(Qt::white);
+  QPainter(&paper).drawImage(0, 0, sample);
+  return paper;
+}
+
 // Pictures that all parts share, by what they mean.
 const std::map<std::int32_t, const char*> shared_pictures = {
     {-62, "edit-copy"},
@@ -69,6 +80,7 @@ void kept_picture::visit(bitmap shown) {
   pixel_reader reader;
   call<&bitmap_impl::pixels>(shown, bytes_visitor(handle_of<bytes_visitor_impl>(reader)));
   picture_ = {reader.image, call<&bitmap_impl::id>(shown)};
+  if (picture_.id == 0) picture_.image = on_paper(picture_.image);
   if (picture_.id < 0 && reader.is_opaque) cut_out_ground(picture_.image);
 }
 

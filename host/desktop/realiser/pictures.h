@@ -10,8 +10,8 @@ namespace zu::desktop {
 
 /// What an element shows as a picture.
 struct picture {
-  QImage image;         ///< null: none. Rows from the top, transparent where the element's is.
-  std::int32_t id = 0;  ///< below 0: one that all parts of the system share
+  QImage image;         ///< null: none. Rows from the top; a sample's ground is that of a map.
+  std::int32_t id = 0;  ///< below 0: one that all parts of the system share; 0: a sample
 };
 
 /// Keeps the picture that an operation visits.

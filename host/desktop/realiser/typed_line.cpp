@@ -14,15 +14,15 @@ namespace {
 
 const QString mark_name = QStringLiteral("refused_mark");
 
-/// Lies over a control and lets everything through.
+/// Lies over a control, or a part of one, and lets everything through.
 class refused_mark final : public QWidget {
  public:
-  explicit refused_mark(QWidget* control) : QWidget(control) {
+  refused_mark(QWidget* control, const QRect& place) : QWidget(control) {
     setObjectName(mark_name);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setFocusPolicy(Qt::NoFocus);
-    setGeometry(control->rect());
-    control->installEventFilter(this);
+    setGeometry(place);
+    if (place == control->rect()) control->installEventFilter(this);
     show();
     raise();
   }
@@ -63,8 +63,13 @@ void unmark_refused(QWidget* control) {
 void mark_refused(QWidget* control, bool for_a_moment) {
   auto* mark = dynamic_cast<refused_mark*>(
       control->findChild<QWidget*>(mark_name, Qt::FindDirectChildrenOnly));
-  if (mark == nullptr) mark = new refused_mark(control);
+  if (mark == nullptr) mark = new refused_mark(control, control->rect());
   mark->pass(for_a_moment);
+}
+
+void mark_refused_part(QWidget* control, const QRect& part) {
+  unmark_refused(control);
+  (new refused_mark(control, part))->pass(true);
 }
 
 typed_line::typed_line(QLineEdit* line, QWidget* owner, element_calls element)

@@ -6,6 +6,7 @@
 #include <functional>
 
 class QLineEdit;
+class QRect;
 class QWidget;
 
 namespace zu::desktop {
@@ -55,5 +56,7 @@ bool finish_typing(const QWidget* beside);
 /// Frames a control in red: for a moment, or as long as what stands in it is refused.
 void mark_refused(QWidget* control, bool for_a_moment);
 void unmark_refused(QWidget* control);
+/// Frames a part of a control, such as a cell of a list, for a moment.
+void mark_refused_part(QWidget* control, const QRect& part);
 
 }  // namespace zu::desktop

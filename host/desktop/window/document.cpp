@@ -4,6 +4,7 @@
 
 #include "host/core/failure.h"
 #include "host/core/layer_look.h"
+#include "host/desktop/reasons.h"
 #include "host/desktop/words.h"
 
 namespace zu::desktop {
@@ -113,7 +114,7 @@ QStringList document::add_sources(const QStringList& sources, host::open_as want
       } catch (const host::declined&) {
         continue;
       } catch (const host::failure& problem) {
-        failures += QString::fromUtf8(problem.what());
+        failures += reason_in_words(problem.what());
       }
     }
   });

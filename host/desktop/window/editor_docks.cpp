@@ -78,13 +78,17 @@ bool editor_docks::eventFilter(QObject* watched, QEvent* event) {
 
 void editor_docks::follow_layer() {
   host::layer* active = document_.active_layer();
+  is_telling_ = true;
   for (const layer_2d_editor_extension_service& service : services_)
     call<&layer_2d_editor_extension_service_impl::layer_changed>(
         service, active != nullptr ? active->entity() : nullptr);
+  is_telling_ = false;
   settle();
 }
 
 void editor_docks::settle() {
+  // A panel whose service has not heard of the layer yet would leave its place and come back.
+  if (is_telling_) return;
   // A layer that undo changes is let go of and taken again at once: the panels would leave their
   // place, and a person theirs in them.
   if (document_.active_layer() != nullptr)
@@ -101,7 +105,15 @@ void editor_docks::show_or_hide(QDockWidget* dock) {
 }
 
 void editor_docks::show_wanted() {
+  // Panels in tabs behind another are out of sight. Where none is in sight the last ones stay
+  // known.
+  QSet<QDockWidget*> in_front;
+  for (QDockWidget* dock : docks_)
+    if (!dock->visibleRegion().isEmpty()) in_front.insert(dock);
+  if (!in_front.isEmpty()) in_front_ = in_front;
   for (QDockWidget* dock : docks_) show_or_hide(dock);
+  for (QDockWidget* dock : docks_)
+    if (in_front_.contains(dock) && !dock->isHidden()) dock->raise();
 }
 
 void editor_docks::set_closed(const QStringList& ids) {

@@ -32,7 +32,8 @@ class editor_docks final : public QObject {
   /// Ids of the panels that a person closed, to be kept with the layout.
   QStringList closed() const { return closed_.values(); }
   void set_closed(const QStringList& ids);
-  /// Shows the docks that apply and hides the others, whatever a kept layout said.
+  /// Shows the docks that apply and hides the others, whatever a kept layout said. Those in front
+  /// stay in front, or come there again after a while without a layer.
   void show_wanted();
 
  protected:
@@ -51,6 +52,8 @@ class editor_docks final : public QObject {
   std::vector<layer_2d_editor_extension_service> services_;
   std::vector<QDockWidget*> docks_;
   QSet<QString> closed_;
+  QSet<QDockWidget*> in_front_;
+  bool is_telling_ = false;
   QTimer soon_;
 };
 

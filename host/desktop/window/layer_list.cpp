@@ -9,6 +9,7 @@
 #include "host/core/texts.h"
 #include "host/desktop/appearance.h"
 #include "host/desktop/window/legend_bar.h"
+#include "host/desktop/reasons.h"
 #include "host/desktop/words.h"
 
 namespace zu::desktop {
@@ -128,7 +129,7 @@ QStringList layer_list::problems_of(const host::project_layer& layer) {
     problems += words("It has no projection, and stands where its own coordinates say.",
                       "У слоя нет проекции; он стоит по своим координатам.");
   for (const std::string& reason : host::reasons(host::wide(layer.source())))
-    problems += QString::fromStdString(reason);
+    problems += reason_in_words(reason);
   return problems;
 }
 

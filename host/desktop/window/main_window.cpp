@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
+#include <QScreen>
 #include <QTabBar>
 #include <QTimer>
 #include <QUrl>
@@ -34,7 +35,7 @@ constexpr char geometry_name[] = "window_geometry", layout_name[] = "window_layo
                closed_name[] = "closed_panels";
 /// Docks and bars of another number are not those that a layout was kept of.
 constexpr int layout_version = 1;
-constexpr QSize first_size(1280, 800);
+constexpr QSize first_size(1280, 800), frame_of_window(16, 48);
 constexpr int patience = 300;  // milliseconds: a picture that takes longer is said to be drawn
 
 /// The name of a choice in the settings, which take letters and digits alone.
@@ -87,7 +88,7 @@ main_window::main_window(const host::bundle& services, prompts asked)
   show_recent();
   retranslate();
   show_view();
-  resize(first_size);
+  resize(first_size.boundedTo(screen()->availableSize() - frame_of_window));
   restore_layout();
 }
 
@@ -328,7 +329,7 @@ void main_window::show_state() {
 void main_window::show_view() {
   map_view& map = views_->current();
   bool is_empty = document_.scene().layers.empty();
-  status_->show_scale(is_empty ? 0 : map.map_scale());
+  status_->show_scale(is_empty ? 0 : map.map_scale(), map.units_a_pixel());
   status_->show_projection(QString::fromStdString(document_.scene().content->projection()));
   actions_->own_axes->setChecked(map.has_own_axes());
   actions_->zoom_back->setEnabled(!is_empty && map.can_go_back());

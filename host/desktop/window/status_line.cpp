@@ -116,15 +116,15 @@ void status_line::reserve_coordinates() {
 }
 
 void status_line::say_coordinates() {
-  double pixel = shown_scale_ * 0.0254 / 96;
   coordinates_->setText(pointer_
-                            ? QString::fromStdString(texts_.text(pointer_->x(), pointer_->y(),
-                                                                 pixel, units_, letters_in_force()))
+                            ? QString::fromStdString(texts_.text(
+                                  pointer_->x(), pointer_->y(), pixel_, units_, letters_in_force()))
                             : QString());
 }
 
-void status_line::show_scale(double scale) {
+void status_line::show_scale(double scale, double pixel) {
   shown_scale_ = scale;
+  pixel_ = pixel;
   scale_->setEnabled(scale > 0);
   if (!scale_->lineEdit()->hasFocus() || !scale_->lineEdit()->isModified())
     scale_->setEditText(text_of_scale(scale));
@@ -137,6 +137,7 @@ void status_line::show_projection(const QString& text) {
     say_coordinates();
   }
   shown_projection_ = text;
+  say_what_scale_is();
   QString name = QString::fromStdString(host::projection_name(text.toStdString()));
   if (name.size() > static_cast<qsizetype>(longest_projection))
     name = name.left(longest_projection - 1) + QChar(0x2026);
@@ -145,12 +146,19 @@ void status_line::show_projection(const QString& text) {
                           (text.isEmpty() ? QString() : QStringLiteral("\n") + text));
 }
 
+void status_line::say_what_scale_is() {
+  QString tip = words("Scale in the middle of the map; type another one",
+                      "Масштаб в середине карты; можно ввести другой");
+  if (shown_projection_.isEmpty())
+    tip += QLatin1Char('\n') + words("Without a projection a unit counts as a metre",
+                                     "Без проекции единица считается метром");
+  scale_->setToolTip(tip);
+}
+
 void status_line::show_busy(bool busy) { busy_->setVisible(busy); }
 
 void status_line::retranslate() {
   scale_title_->setText(words("Scale", "Масштаб"));
-  scale_->setToolTip(
-      words("Scale of the map; type another one", "Масштаб карты; можно ввести другой"));
   busy_->setToolTip(words("The map is being drawn", "Карта рисуется"));
   coordinates_->setToolTip(words("Coordinates under the pointer", "Координаты под указателем"));
   show_projection(shown_projection_);

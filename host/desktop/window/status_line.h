@@ -24,8 +24,9 @@ class status_line final : public QStatusBar {
   /// A point of the scene, in the units chosen.
   void show_coordinates(double x, double y, bool inside);
   void set_units(host::coordinate_units units);
-  /// The denominator of the map's scale; what is not above 0 shows none.
-  void show_scale(double scale);
+  /// The denominator of the map's scale, what is not above 0 shows none, and a pixel's size in
+  /// units of the scene, by which coordinates get their decimals.
+  void show_scale(double scale, double pixel);
   /// By its name; empty: none. Coordinates of another projection's scene go.
   void show_projection(const QString& text);
   /// Whether a picture is being drawn that takes its time.
@@ -43,6 +44,7 @@ class status_line final : public QStatusBar {
   void take_scale();
   void say_coordinates();
   void reserve_coordinates();
+  void say_what_scale_is();
 
   QLabel* coordinates_;
   QLabel* scale_title_;
@@ -52,7 +54,7 @@ class status_line final : public QStatusBar {
   host::coordinate_text texts_;
   host::coordinate_units units_ = host::coordinate_units::map;
   std::optional<QPointF> pointer_;  ///< where in the scene it is
-  double shown_scale_ = 0;
+  double shown_scale_ = 0, pixel_ = 0;
   QString shown_projection_;
 };
 

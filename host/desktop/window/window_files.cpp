@@ -11,6 +11,7 @@
 #include "host/desktop/window/main_window.h"
 #include "host/desktop/window/message_bar.h"
 #include "host/desktop/window/start_page.h"
+#include "host/desktop/reasons.h"
 #include "host/desktop/words.h"
 
 namespace zu::desktop {
@@ -38,7 +39,7 @@ bool main_window::attempt(const std::function<void()>& work) {
   try {
     work();
   } catch (const host::failure& problem) {
-    views_->messages().tell({QString::fromUtf8(problem.what())});
+    views_->messages().tell({reason_in_words(problem.what())});
     return false;
   }
   return true;

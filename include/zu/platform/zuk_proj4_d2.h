@@ -34,6 +34,9 @@ ZU_API void zu_pj_get_name_w(const wchar_t* text, Tzu_string_adp* name);
 ZU_API void zu_pj_get_authority_w(const wchar_t* text, Tzu_string_adp* code);
 /// The system as WKT; false if the text is not understood.
 ZU_API bool zu_pj_get_wkt_w(const wchar_t* text, Tzu_string_adp* wkt);
+/// A unit of the system's first axis in metres, or in radians where the axes are longitude and
+/// latitude, which `is_angle` tells (null: not asked for). 0 if the text is not understood.
+ZU_API double zu_pj_get_unit_w(const wchar_t* text, bool* is_angle);
 
 /// A system of PROJ's database, geographic or projected, with two axes.
 typedef struct Tzu_pj_system {

@@ -268,6 +268,19 @@ TEST_F(map_test, the_scale_stays_when_the_window_grows) {
   EXPECT_NEAR(map_->map_scale(), scale / 2, 1e-9);
 }
 
+TEST_F(map_test, the_scale_of_degrees_is_that_of_the_parallel_in_the_middle) {
+  scene_.set_projection("EPSG:4326");
+  map_->zoom_to({20, 59, 24, 61});
+  ASSERT_TRUE(show());
+  // 4 degrees of 55,800 m, the width of the map, on 400 pixels of 1/96 inch.
+  EXPECT_NEAR(map_->map_scale(), 4 * 55800 / (400 * 0.0254 / 96), 100);
+  EXPECT_NEAR(map_->units_a_pixel(), 0.01, 1e-9);
+  map_->set_map_scale(1e6);
+  EXPECT_NEAR(map_->map_scale(), 1e6, 1e-3);
+  Tzu_box_d2 shown = map_->box().value();
+  EXPECT_NEAR((shown.y0 + shown.y1) / 2, 60, 1e-9);
+}
+
 TEST_F(map_test, a_box_without_area_gets_some) {
   ASSERT_TRUE(show());
   map_->zoom_to({200, 100, 200, 100});

@@ -44,6 +44,19 @@ TEST(picture, that_all_share_loses_its_ground) {
   EXPECT_EQ(kept.get().image.pixelColor(1, 1), QColor(9, 9, 9));
 }
 
+TEST(picture, of_a_sample_lies_on_the_white_of_a_map_and_an_icon_on_nothing) {
+  fake_bitmap picture;  // half of red, and nothing
+  picture.bytes = {127, 0, 0, 127, 0, 0, 0, 0, 127, 0, 0, 127, 0, 0, 0, 0};
+  kept_picture kept;
+  picture.number = 1;
+  show(kept.visitor(), picture);
+  EXPECT_EQ(kept.get().image.pixelColor(1, 0).alpha(), 0);
+  picture.number = 0;
+  show(kept.visitor(), picture);
+  EXPECT_EQ(kept.get().image.pixelColor(0, 0), QColor(255, 128, 128));
+  EXPECT_EQ(kept.get().image.pixelColor(1, 0), QColor(255, 255, 255));
+}
+
 struct fake_canvas : faked<canvas_impl> {
   double width() override { return wide; }
   double height() override { return high; }

@@ -133,4 +133,21 @@ struct fake_outline : outline_impl {
   element_view view;
 };
 
+/// Whole numbers from 0 to 100; 13 is refused.
+struct whole_column : integer_outline_column_impl {
+  void caption(string_visitor v) override { give(v, L"Whole"); }
+  std::int32_t value(outline_item item) override { return values[row_of(item)]; }
+  bool is_editable(outline_item) override { return true; }
+  bool set_value(outline_item item, std::int32_t value) override {
+    ++sets;
+    if (value == 13) return false;
+    values[row_of(item)] = value;
+    return true;
+  }
+  std::int32_t minimum(outline_item) override { return 0; }
+  std::int32_t maximum(outline_item) override { return 100; }
+  std::vector<std::int32_t> values = {1, 2, 3};
+  int sets = 0;
+};
+
 }  // namespace zu::desktop

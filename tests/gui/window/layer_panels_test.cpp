@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSlider>
 #include <QStackedWidget>
 #include <QTabBar>
@@ -268,6 +269,60 @@ TEST_F(layer_panels, isolines_are_drawn) {
   expect_undone_to(lines);
   expect_undone_to(before);
   EXPECT_FALSE(control<QCheckBox>(panel, "Use")->isChecked());
+}
+
+TEST_F(layer_panels, the_one_in_front_stays_in_front_through_undo_and_redo) {
+  choose(control<QComboBox>(raise("style_editor"), "Method"), "Gray");
+  click(control<QCheckBox>(raise("hillshade"), "Use"));
+  click(control<QCheckBox>(raise("isoline"), "Use"));
+  for (const char* id : {"isoline", "hillshade", "style_editor"}) {
+    raise(id);
+    for (QAction* step : {actions().edit_undo, actions().edit_redo})
+      for (int i = 0; i < 2; ++i) {
+        step->trigger();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(front().toStdString(), id) << step->text().toStdString();
+      }
+  }
+}
+
+TEST_F(layer_panels, the_one_in_front_comes_there_again_with_the_next_layer) {
+  raise("isoline");
+  actions().edit_undo->trigger();  // the opening
+  ASSERT_TRUE(QTest::qWaitFor([&] { return dock("isoline")->isHidden(); }));
+  actions().edit_redo->trigger();
+  content().set_active_layer(content().scene().layers.back().shown);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(front().toStdString(), "isoline");
+}
+
+TEST_F(layer_panels, stay_where_they_were_scrolled_through_undo) {
+  QDockWidget* panel = raise("hillshade");
+  click(control<QCheckBox>(panel, "Use"));
+  window_->addDockWidget(Qt::BottomDockWidgetArea, panel);
+  window_->resizeDocks({panel}, {100}, Qt::Vertical);
+  QCoreApplication::processEvents();
+  auto* area = qobject_cast<QScrollArea*>(panel->widget());
+  ASSERT_GT(area->verticalScrollBar()->maximum(), 20);
+  area->verticalScrollBar()->setValue(20);
+  for (QAction* step : {actions().edit_undo, actions().edit_redo}) {
+    step->trigger();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(area->verticalScrollBar()->value(), 20);
+  }
+}
+
+TEST_F(layer_panels, keep_the_channel_in_front_through_undo) {
+  QDockWidget* panel = raise("style_editor");
+  choose(control<QComboBox>(panel, "Method"), "RGB");
+  auto* tabs = panel->findChild<QTabBar*>();
+  ASSERT_NE(tabs, nullptr);
+  tabs->setCurrentIndex(2);
+  choose(control<QComboBox>(panel, "Classification field"), "height");
+  actions().edit_undo->trigger();
+  EXPECT_EQ(tabs->currentIndex(), 2);
+  actions().edit_redo->trigger();
+  EXPECT_EQ(tabs->currentIndex(), 2);
 }
 
 TEST_F(layer_panels, a_click_on_the_sample_of_a_line_opens_its_dialog) {

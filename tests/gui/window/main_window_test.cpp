@@ -6,6 +6,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QScreen>
 #include <QTabBar>
 #include <QTimer>
 #include <QUrl>
@@ -264,6 +265,29 @@ TEST_F(main_window_test, the_status_bar_has_the_units_of_the_settings_at_once) {
   window_->findChild<status_line*>()->show_projection(QStringLiteral("EPSG:4326"));
   window_->findChild<status_line*>()->show_coordinates(1, 2, true);
   EXPECT_EQ(shown->text(), QStringLiteral("1°00′00.0″E 2°00′00.0″N"));
+}
+
+TEST_F(main_window_test, fits_into_the_screen_when_it_is_opened_for_the_first_time) {
+  main_window first(services_, answers_.as_prompts());
+  const QSize screen = first.screen()->availableSize();
+  EXPECT_LT(first.width(), screen.width());
+  EXPECT_LT(first.height(), screen.height());
+  EXPECT_GT(first.width(), 600);
+  window_->open_paths({grid("a.asc")});
+  for (language each : {language::english, language::russian}) {
+    choose_language(each);
+    QCoreApplication::processEvents();
+    EXPECT_LE(window_->minimumSizeHint().width(), 1024);
+    EXPECT_LE(window_->minimumSizeHint().height(), 600);
+  }
+}
+
+TEST_F(main_window_test, says_in_russian_why_a_file_does_not_open) {
+  choose_language(language::russian);
+  window_->open_paths({path("none.tif")});
+  ASSERT_EQ(messages().size(), 1);
+  EXPECT_TRUE(messages().front().endsWith(QString::fromUtf8("none.tif: файла нет")))
+      << messages().front().toStdString();
 }
 
 TEST_F(main_window_test, a_scale_that_is_typed_is_taken) {

@@ -11,6 +11,7 @@
 #include <QStackedWidget>
 #include <QToolBar>
 #include <QToolButton>
+#include <set>
 
 #include "host/desktop/map/map_view.h"
 #include "host/desktop/realiser/outline_flat_view.h"
@@ -134,6 +135,24 @@ TEST_F(scale_page, a_caption_of_a_person_s_own_stands_in_the_legend_too) {
   ASSERT_EQ(layer->childCount(), 12);
   EXPECT_EQ(layer->child(10)->text(0), QStringLiteral("shore"));
   EXPECT_EQ(layer->child(11)->text(0), QStringLiteral("up to 235"));
+}
+
+TEST_F(scale_page, has_its_controls_in_line_below_each_other) {
+  for (language each : {language::english, language::russian}) {
+    choose_language(each);
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents();
+    std::set<int> left;
+    int seen = 0;
+    for (auto* list : panel_->findChildren<QComboBox*>()) {
+      if (!list->isVisible()) continue;
+      ++seen;
+      left.insert(list->mapTo(panel_, QPoint()).x());
+    }
+    EXPECT_EQ(seen, 3) << "method, kind of scale, field";
+    EXPECT_EQ(left.size(), 1u);
+  }
+  choose_language(language::english);
 }
 
 TEST_F(scale_page, is_no_wider_than_its_dock) {

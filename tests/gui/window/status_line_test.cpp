@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QComboBox>
 #include <QLabel>
 
 #include "host/desktop/words.h"
@@ -27,6 +28,15 @@ TEST(status_line, writes_scales_without_fractions_but_for_small_ones) {
   EXPECT_EQ(text_of_scale(0), QString());
 }
 
+TEST(status_line, says_that_a_unit_is_taken_for_a_metre_where_nothing_says_what_it_is) {
+  choose_language(language::english);
+  status_line line;
+  auto tip = [&] { return line.findChild<QComboBox*>(QStringLiteral("status_scale"))->toolTip(); };
+  EXPECT_TRUE(tip().contains(QStringLiteral("counts as a metre")));
+  line.show_projection(QStringLiteral("EPSG:4326"));
+  EXPECT_FALSE(tip().contains(QStringLiteral("counts as a metre")));
+}
+
 class status_line_coordinates : public testing::Test {
  protected:
   status_line_coordinates() { choose_language(language::english); }
@@ -37,7 +47,7 @@ class status_line_coordinates : public testing::Test {
 
 TEST_F(status_line_coordinates, are_in_the_units_chosen) {
   line_.show_projection(QStringLiteral("EPSG:32637"));
-  line_.show_scale(50000);
+  line_.show_scale(50000, 50000 * 0.0254 / 96);
   line_.show_coordinates(350000, 6185000, true);
   EXPECT_EQ(shown(), QStringLiteral("350000; 6185000"));
   line_.set_units(host::coordinate_units::degrees);

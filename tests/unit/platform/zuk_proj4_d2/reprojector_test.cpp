@@ -207,6 +207,17 @@ TEST(coordinate_system, is_named_for_people_and_for_the_registry) {
   EXPECT_EQ(told(zu_pj_get_authority_w, L"+proj=tmerc +lon_0=12.34 +ellps=intl"), L"");
 }
 
+TEST(coordinate_system, has_axes_of_a_length_or_of_an_angle) {
+  bool is_angle = true;
+  EXPECT_EQ(zu_pj_get_unit_w(L"EPSG:32637", &is_angle), 1);
+  EXPECT_FALSE(is_angle);
+  EXPECT_NEAR(zu_pj_get_unit_w(L"EPSG:4326", &is_angle), std::acos(-1.0) / 180, 1e-15);
+  EXPECT_TRUE(is_angle);
+  EXPECT_GT(zu_pj_get_unit_w(L"EPSG:4326", nullptr), 0);
+  EXPECT_EQ(zu_pj_get_unit_w(L"sideways", nullptr), 0);
+  EXPECT_EQ(zu_pj_get_unit_w(nullptr, nullptr), 0);
+}
+
 TEST(coordinate_system, an_unknown_text_has_a_reason) {
   auto check = [](const wchar_t* text, Tzu_string_adp* reason) { zu_pj_check_w(text, reason); };
   EXPECT_EQ(told(check, L"EPSG:3857"), L"");

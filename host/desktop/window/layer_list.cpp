@@ -8,8 +8,8 @@
 #include "host/core/legend.h"
 #include "host/core/texts.h"
 #include "host/desktop/appearance.h"
-#include "host/desktop/window/legend_bar.h"
 #include "host/desktop/reasons.h"
+#include "host/desktop/window/legend_bar.h"
 #include "host/desktop/words.h"
 
 namespace zu::desktop {

@@ -7,11 +7,11 @@
 #include "host/core/failure.h"
 #include "host/core/layer_look.h"
 #include "host/desktop/dialogs/settings_file.h"
+#include "host/desktop/reasons.h"
 #include "host/desktop/window/layer_list.h"
 #include "host/desktop/window/main_window.h"
 #include "host/desktop/window/message_bar.h"
 #include "host/desktop/window/start_page.h"
-#include "host/desktop/reasons.h"
 #include "host/desktop/words.h"
 
 namespace zu::desktop {

@@ -69,6 +69,34 @@ TEST_F(outline_on_screen, shows_other_columns) {
             QStringLiteral("Name"));
 }
 
+TEST_F(outline_on_screen, widens_a_column_whose_contents_no_longer_fit_up_to_double) {
+  struct wished final : text_column {
+    std::uint32_t width() override { return 4; }
+  } bounds;
+  text_column second;
+  bounds.texts = {L"1", L"2", L"3"};
+  list.add(bounds);
+  list.add(second);
+  open();
+  auto* header = widget->findChild<QHeaderView*>();
+  ASSERT_NE(header, nullptr);
+  const int narrow = header->sectionSize(0);
+  bounds.texts = {L"1", L"642.25", L"1080.00"};
+  list.redraw();
+  settle();
+  const int wider = header->sectionSize(0);
+  EXPECT_GT(wider, narrow);
+  EXPECT_GE(wider, widget->fontMetrics().horizontalAdvance(QStringLiteral("1080.00")));
+  bounds.texts[1] = std::wstring(300, L'1');
+  list.redraw();
+  settle();
+  EXPECT_LE(header->sectionSize(0), 2 * 4 * layout_unit(widget.get()));
+  bounds.texts[1] = L"2";
+  list.redraw();
+  settle();
+  EXPECT_EQ(header->sectionSize(0), wider);
+}
+
 TEST_F(outline_on_screen, says_that_it_is_empty) {
   list.add(names);
   list.rows = 0;

@@ -60,9 +60,7 @@ range_scale::range_scale(Tzu_rng_scale* scale, Tzu_stat* stat, const data::open_
   method_.on_change = [this](std::int32_t type) { choose(type); };
   preview_.on_change = [this](const Tzu_rng_scale* dragged) { take_dragged(dragged); };
   buttons_.on_accept = [this] {
-    const style::detail::color_run colors(scale_);
-    pages_[static_cast<std::size_t>(type_)]->build(scale_);
-    colors.spread_over(scale_);
+    build(scale_);
     return true;
   };
   information_.place(minimum_).place(maximum_).place(mean_).place(deviation_);
@@ -112,10 +110,15 @@ void range_scale::choose(std::int32_t type) {
 }
 
 void range_scale::show_preview() {
-  Tzu_rng_scale* trial = zu_stl_mngr_get_rng_scale_ptr(trial_.get());
-  zu_rng_scale_assign(trial, scale_);
-  pages_[static_cast<std::size_t>(type_)]->build(trial);
-  preview_.assign(trial);
+  zu_rng_scale_assign(trial(), scale_);
+  build(trial());
+  preview_.assign(trial());
+}
+
+void range_scale::build(Tzu_rng_scale* to) {
+  const style::detail::color_run colors(to);
+  pages_[static_cast<std::size_t>(type_)]->build(to);
+  colors.spread_over(to);
 }
 
 void range_scale::build_natural(Tzu_rng_scale* to, const style::natural_params& params) {

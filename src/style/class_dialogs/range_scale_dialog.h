@@ -20,6 +20,8 @@ class range_scale : public toolkit::with_element {
               const std::wstring& field);
 
   handle element() override { return toolkit::handle_of_element(root_); }
+  /// What the preview shows and OK would make of the scale. Owned by this.
+  Tzu_rng_scale* trial() const { return zu_stl_mngr_get_rng_scale_ptr(trial_.get()); }
 
  private:
   static constexpr std::size_t methods = 7;
@@ -29,6 +31,8 @@ class range_scale : public toolkit::with_element {
   void choose(std::int32_t type);
   void show(std::int32_t type);
   void show_preview();
+  /// The classes of the page on show, in the colours that the scale has.
+  void build(Tzu_rng_scale* to);
   void build_natural(Tzu_rng_scale* to, const style::natural_params& params);
   void take_dragged(const Tzu_rng_scale* scale);
 

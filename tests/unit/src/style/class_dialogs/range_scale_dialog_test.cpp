@@ -409,24 +409,26 @@ class range_scale_colors : public range_scale_dialog {
  protected:
   using colors = std::vector<std::uint32_t>;
 
-  Tzu_stl_prm* style(std::size_t row) {
-    std::uint64_t size = zu_rng_scale_get_size(scale_);
-    Tzu_scale_prm* of = row == 0      ? zu_rng_scale_get_min_prm_ptr(scale_)
-                        : row <= size ? zu_rng_scale_get_scale_prm_ptr(scale_, row - 1)
-                                      : zu_rng_scale_get_max_prm_ptr(scale_);
+  static Tzu_stl_prm* style_in(Tzu_rng_scale* scale, std::size_t row) {
+    std::uint64_t size = zu_rng_scale_get_size(scale);
+    Tzu_scale_prm* of = row == 0      ? zu_rng_scale_get_min_prm_ptr(scale)
+                        : row <= size ? zu_rng_scale_get_scale_prm_ptr(scale, row - 1)
+                                      : zu_rng_scale_get_max_prm_ptr(scale);
     return zu_scale_prm_get_stl_prm_ptr(of);
   }
+  Tzu_stl_prm* style(std::size_t row) { return style_in(scale_, row); }
   static std::uint32_t number(Tzu_color c) { return (c.r * 256u + c.g) * 256u + c.b; }
   static Tzu_color color(std::uint32_t rgb, std::uint8_t a = 0) {
     return {static_cast<std::uint8_t>(rgb >> 16), static_cast<std::uint8_t>(rgb >> 8),
             static_cast<std::uint8_t>(rgb), a};
   }
-  colors shown() {
+  static colors of(Tzu_rng_scale* scale) {
     colors all;
-    for (std::size_t i = 0; i < zu_rng_scale_get_size(scale_) + 2; ++i)
-      all.push_back(number(zu_stl_prm_get_color(style(i), 0)));
+    for (std::size_t i = 0; i < zu_rng_scale_get_size(scale) + 2; ++i)
+      all.push_back(number(zu_stl_prm_get_color(style_in(scale, i), 0)));
     return all;
   }
+  colors shown() { return of(scale_); }
   void paint(const colors& with) {
     ASSERT_EQ(with.size(), zu_rng_scale_get_size(scale_) + 2);
     for (std::size_t i = 0; i < with.size(); ++i)
@@ -456,6 +458,19 @@ TEST_F(range_scale_colors, fewer_or_more_classes_show_the_whole_array) {
           << name << ' ' << classes;
     }
   }
+}
+
+TEST_F(range_scale_colors, are_in_the_preview_what_they_will_be) {
+  build(10);
+  paint(array("rainbow", 12, 0));
+  open();
+  for (std::int32_t classes : {4, 10, 6}) {
+    type(count(0), classes);
+    EXPECT_EQ(of(dialog_->trial()), array("rainbow", static_cast<std::size_t>(classes) + 2, 0));
+  }
+  EXPECT_EQ(shown().size(), 12u) << "not before it is accepted";
+  EXPECT_TRUE(accept());
+  EXPECT_EQ(shown(), array("rainbow", 8, 0));
 }
 
 TEST_F(range_scale_colors, an_array_in_turn_goes_on_in_turn) {

@@ -36,6 +36,39 @@ Tzu_color color_of(Tzu_stl_mngr* manager, double value) {
   return *zu_stl_prm_get_clr_style_ptr(zu_scale_prm_get_stl_prm_ptr(row), 0);
 }
 
+/// The line over the bars, from the axis to the axis: a white class would not be seen on paper.
+void draw_skyline(Izu_render* render, const histogram_state& state) {
+  constexpr Tzu_color gray{96, 96, 96, 128};
+  set_ptr set(zu_ov_d2_create());
+  Tzu_pv_d2* line = nullptr;
+  double end = 0;
+  auto to = [&](double x, double y) {
+    const Tzu_vtx_d2 at{x, y};
+    zu_pv_d2_add_vtx(line, &at);
+  };
+  auto come_down = [&] {
+    if (line != nullptr) to(end, 0);
+    line = nullptr;
+  };
+  for (const histogram_state::bar& bar : state.bars) {
+    if (!(bar.height > 0) || bar.low != end) come_down();
+    if (!(bar.height > 0)) continue;
+    if (line == nullptr) {
+      line = zu_ov_d2_add(set.get());
+      to(bar.low, 0);
+    }
+    to(bar.low, bar.height);
+    to(bar.high, bar.height);
+    end = bar.high;
+  }
+  come_down();
+  owned<zu_pln_style_destroy> style(zu_pln_style_create());
+  Tzu_bpln_style* pen = zu_pln_style_get_bpln_style_ptr(style.get());
+  zu_bpln_style_set_color(pen, gray);
+  zu_bpln_style_set_width(pen, 0.1);
+  zu_render_cr_pln(render, set.get(), style.get());
+}
+
 void draw_bars(Izu_render* render, histogram_state& state) {
   // Bars of one colour are one polygon: neighbours have no seam.
   std::map<std::tuple<int, int, int, int>, set_ptr> by_color;
@@ -59,6 +92,7 @@ void draw_bars(Izu_render* render, histogram_state& state) {
                             {part(r), part(g), part(b), part(a)});
     zu_render_cr_pgn(render, set.get(), style.get());
   }
+  draw_skyline(render, state);
 }
 
 void draw_uprights(Izu_render* render, upright_lines_state& state) {

@@ -143,7 +143,13 @@ void outline_delegate::paint_picture(QPainter* painter, const QStyleOptionViewIt
   option.features &= ~QStyleOptionViewItem::HasDecoration;
   paint_panel(painter, option);
   if (picture.isNull()) return;
-  if (is_sized) return painter->drawImage(inside.topLeft(), picture);
+  if (is_sized) {
+    painter->drawImage(inside.topLeft(), picture);
+    // A sample of the list's own colour would not be seen.
+    painter->setPen(QColor(128, 128, 128, 128));
+    painter->drawRect(inside.adjusted(0, 0, -1, -1));
+    return;
+  }
   QSize size = picture.size();
   if (size.width() > inside.width() || size.height() > inside.height())
     size.scale(inside.size(), Qt::KeepAspectRatio);

@@ -87,6 +87,25 @@ TEST(plot_layers, bars_have_the_colours_of_their_classes) {
   EXPECT_EQ(p.at(25, 50), (std::array<int, 3>{200, 0, 0}));
   EXPECT_EQ(p.at(75, 50), (std::array<int, 3>{0, 0, 200}));
 }
+TEST(plot_layers, a_line_over_the_bars_shows_those_of_a_white_class) {
+  layer bars(zu_lr2d_create(ZU_PLOT_HISTOGRAM_LR2D));
+  Tzu_stl_prm* style = zu_stl_mngr_get_simple_sp_ptr(zu_lr_get_style_mngr_ptr(bars.get()));
+  zu_bpgn_style_set_color(zu_pgn_style_get_bpgn_style_ptr(zu_stl_prm_get_pgn_style_ptr(style, 0)),
+                          {255, 255, 255, 0});
+  zu_plot_histogram_lr2d_set_histogramm(bars.get(), of_counts({1, 2, 0, 1}, 0, 4).get());
+  picture p({0, 0, 4, 1});
+  zu_plot_lr2d_draw(p.drawing.get(), bars.get());
+  auto has_line = [&](int x, int from, int to) {
+    for (int y = from; y < to; ++y)
+      if (p.at(x, y) != white) return true;
+    return false;
+  };
+  EXPECT_TRUE(has_line(12, 48, 52));
+  EXPECT_TRUE(has_line(37, 97, 100));
+  EXPECT_FALSE(has_line(37, 5, 90));
+  EXPECT_FALSE(has_line(62, 0, 100)) << "no bar";
+  EXPECT_TRUE(has_line(87, 48, 52));
+}
 TEST(plot_layers, lines_stand_upright_at_their_places) {
   layer lines(zu_lr2d_create(ZU_PLOT_LINE_LR2D));
   owned<zu_dbls_destroy> places(zu_dbls_create());

@@ -120,6 +120,17 @@ double height_of(const legend_part& part) {
   return row_height + rows + gap;
 }
 
+/// A hair line inside the sides: a white sample would not be seen on paper.
+void draw_frame(const Tzu_box_d2& box, Tzu_drwc* page) {
+  constexpr double hair = 0.1;  // mm
+  constexpr Tzu_color gray{128, 128, 128, 0};
+  const Tzu_box_d2 sides[] = {{box.x0, box.y0, box.x1, box.y0 + hair},
+                              {box.x0, box.y1 - hair, box.x1, box.y1},
+                              {box.x0, box.y0, box.x0 + hair, box.y1},
+                              {box.x1 - hair, box.y0, box.x1, box.y1}};
+  for (const Tzu_box_d2& side : sides) zu_drwc_fill_box(page, &side, gray);
+}
+
 /// Draws one part with its top at y; the x of its left side.
 void draw_part(const legend_part& part, Tzu_drwc* page, double x, double y) {
   zu_drwc_draw_text_w(page, x, y - row_height / 2, text_height, zu_anchor_middle_left, ink,
@@ -129,11 +140,13 @@ void draw_part(const legend_part& part, Tzu_drwc* page, double x, double y) {
   for (const legend_row& row : part.rows) {
     Tzu_box_d2 swatch{x, top - step + inset, x + swatch_width, top - inset};
     zu_drwc_fill_box(page, &swatch, row.color);
+    if (!part.bar) draw_frame(swatch, page);
     if (!row.text.empty())
       zu_drwc_draw_text_w(page, x + swatch_width + gap, part.bar ? top : top - step / 2,
                           text_height, zu_anchor_middle_left, ink, row.text.c_str());
     top -= step;
   }
+  if (part.bar) draw_frame({x, top, x + swatch_width, y - row_height}, page);
 }
 
 }  // namespace

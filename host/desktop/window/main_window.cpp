@@ -368,8 +368,9 @@ void main_window::ask_projection() {
 bool main_window::wait_until_drawn(int milliseconds) {
   QElapsedTimer timer;
   timer.start();
-  QCoreApplication::processEvents();
-  while (!views_->current().is_up_to_date()) {
+  // A panel's layout asks the one around it, which answers a round later.
+  constexpr int rounds = 5;
+  for (int round = 0; round < rounds || !views_->current().is_up_to_date(); ++round) {
     if (timer.elapsed() > milliseconds) return false;
     QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
   }

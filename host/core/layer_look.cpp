@@ -203,25 +203,29 @@ void set_channel(Tzu_clr_channel* channel, const layer_look& look, const source&
 }
 
 /// The first channels that a person finds who goes over to them: red, green and blue are the bands
-/// of these roles, else the first three. The limits of bytes are those of a new channel; others are
-/// so wide that the panel cuts them to the data when it has read them, which is not done here.
+/// of these roles, else the first three, gray that of its role, else the first. The limits of bytes
+/// are those of a new channel; others are so wide that the panel cuts them to the data when it has
+/// read them, which is not done here.
 void set_first_channels(const source& data, Tzu_rgb_channels* channels) {
   constexpr double widest = std::numeric_limits<float>::max();
   std::vector<const field*> bands;
   for (const field& f : data.fields())
     if (f.role != role_alpha) bands.push_back(&f);
   if (bands.empty()) return;
-  const std::pair<band_role, Tzu_clr_channel*> all[] = {
-      {role_red, zu_rgb_channels_get_red(channels)},
-      {role_green, zu_rgb_channels_get_green(channels)},
-      {role_blue, zu_rgb_channels_get_blue(channels)}};
-  for (std::size_t i = 0; i < 3; ++i) {
-    auto [role, channel] = all[i];
+  struct wish {
+    band_role role;
+    std::size_t band;  // without one of that role
+    Tzu_clr_channel* channel;
+  };
+  for (const wish& of : {wish{role_red, 0, zu_rgb_channels_get_red(channels)},
+                         wish{role_green, 1, zu_rgb_channels_get_green(channels)},
+                         wish{role_blue, 2, zu_rgb_channels_get_blue(channels)},
+                         wish{role_gray, 0, zu_rgb_channels_get_gray(channels)}}) {
     auto own = std::find_if(bands.begin(), bands.end(),
-                            [wanted = role](const field* f) { return f->role == wanted; });
-    const field& shown = own != bands.end() ? **own : *bands[std::min(i, bands.size() - 1)];
-    zu_clr_channel_set_prop_name_w(channel, wide(shown.name).c_str());
-    if (shown.info.type != element_uint8) zu_clr_channel_set_limits(channel, -widest, widest);
+                            [&](const field* f) { return f->role == of.role; });
+    const field& shown = own != bands.end() ? **own : *bands[std::min(of.band, bands.size() - 1)];
+    zu_clr_channel_set_prop_name_w(of.channel, wide(shown.name).c_str());
+    if (shown.info.type != element_uint8) zu_clr_channel_set_limits(of.channel, -widest, widest);
   }
 }
 

@@ -126,14 +126,14 @@ TEST_F(layer_panels, the_way_of_drawing_is_a_step_of_undo) {
   choose(control<QComboBox>(panel, "Method"), "Gray");
   EXPECT_EQ(content().undo_name(), QStringLiteral("Method"));
   expect_another_map();
-  QImage unlimited = shown_;
-  choose(control<QComboBox>(panel, "Classification field"), "height");
+  QImage gray = shown_;
+  type(control<QAbstractSpinBox>(panel, "Minimum"), "500");
   expect_another_map();
-  expect_undone_to(unlimited);
+  expect_undone_to(gray);
   expect_undone_to(by_scale);
   EXPECT_EQ(control<QComboBox>(panel, "Method")->currentText(), QStringLiteral("Scale"));
   actions().edit_redo->trigger();
-  EXPECT_EQ(map(), unlimited);
+  EXPECT_EQ(map(), gray);
   EXPECT_EQ(control<QComboBox>(panel, "Method")->currentText(), QStringLiteral("Gray"));
 }
 
@@ -157,7 +157,6 @@ TEST_F(layer_panels, the_map_follows_the_slider_of_transparency_while_it_moves) 
 TEST_F(layer_panels, handles_of_the_histogram_are_dragged) {
   QDockWidget* panel = raise("style_editor");
   choose(control<QComboBox>(panel, "Method"), "Gray");
-  choose(control<QComboBox>(panel, "Classification field"), "height");
   shown_ = map();
   QImage before = shown_;
   const QList<QWidget*> all = panel->findChildren<QWidget*>(QStringLiteral("histogram"));
@@ -216,6 +215,18 @@ TEST_F(layer_panels, bands_without_roles_are_red_green_and_blue_in_their_order) 
     EXPECT_EQ(control<QComboBox>(panel, "Classification field")->currentText(),
               QStringLiteral("abc").mid(tab, 1));
   }
+}
+
+TEST_F(layer_panels, gray_begins_with_the_first_band_between_its_extremes) {
+  QDockWidget* panel = raise("style_editor");
+  QImage before = shown_;
+  choose(control<QComboBox>(panel, "Method"), "Gray");
+  EXPECT_EQ(control<QComboBox>(panel, "Classification field")->currentText(),
+            QStringLiteral("height"));
+  EXPECT_EQ(control<QAbstractSpinBox>(panel, "Minimum")->text(), QStringLiteral("235"));
+  EXPECT_EQ(control<QAbstractSpinBox>(panel, "Maximum")->text(), QStringLiteral("1080"));
+  expect_another_map();
+  expect_undone_to(before);
 }
 
 TEST_F(layer_panels, a_picture_that_is_drawn_by_channels_begins_with_its_own_bands) {

@@ -49,7 +49,7 @@ std::vector<line_piece> cut_line(const Tzu_vtx_d2* vertices, std::size_t count,
   bool running = false, from_first = false, to_last = false;
   for (std::size_t i = 1; i < count; ++i) {
     const Tzu_vtx_d2 &a = vertices[i - 1], &b = vertices[i];
-    double length = std::hypot(b.x - a.x, b.y - a.y);
+    double dx = b.x - a.x, dy = b.y - a.y, length = std::sqrt(dx * dx + dy * dy);
     span inside;
     bool shows = cut_segment(a, b, box, inside);
     if (shows) {

@@ -75,6 +75,8 @@ int block_rows(GDALRasterBand& band) {
 
 bool scan_band(open_dataset& dataset, int band, const std::wstring& name,
                bool (*progress)(double, void*), void* user, const cell_taker& take) {
+  // The other thread may have read it all before this one asks for the first time.
+  if (progress != nullptr && !progress(0.0, user)) return false;
   gdal_messages said;
   GDALRasterBand& own_band = *dataset.gdal().GetRasterBand(band);
   block_row_scan own(own_band);

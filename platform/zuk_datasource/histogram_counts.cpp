@@ -17,7 +17,7 @@ std::uint64_t histogram_classes(std::int32_t type, double minimum, double maximu
   constexpr std::uint64_t most = 256;
   constexpr double too_many = 9e15;  // numbers that are not all told apart
   bool whole = type >= element_uint8 && type <= element_uint64;
-  if (!whole || !(maximum - minimum < too_many)) return most;
+  if (!whole || !(maximum >= minimum && maximum - minimum < too_many)) return most;
   double numbers = std::floor(maximum - minimum) + 1;
   double in_a_class = std::ceil(numbers / static_cast<double>(most));
   return std::max<std::uint64_t>(1, static_cast<std::uint64_t>(numbers / in_a_class));

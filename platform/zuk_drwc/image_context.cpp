@@ -47,12 +47,12 @@ void image_context::draw(const Tzu_dib_draw_record& record, const Tzu_dib& dib) 
 /// rows, so that a pixel gets the same ink as from the whole. Each has about half of the vertices.
 void image_context::stroke_lines(const strokes& lines) {
   constexpr std::size_t worth_a_thread = 500;  // vertices
+  bool plain = lines.thinned && lines.dashes.empty() && lines.color.a == 0;
+  if (!plain || clipped_ || region_ || ny_ < 2) return drawing_context::stroke_lines(lines);
   std::vector<double> heights;
   for (const line_piece& part : lines.parts)
     for (const Tzu_vtx_d2& v : part.vertices) heights.push_back(v.y);
-  bool plain = lines.thinned && lines.dashes.empty() && lines.color.a == 0;
-  if (!plain || clipped_ || region_ || heights.size() < worth_a_thread || ny_ < 2)
-    return drawing_context::stroke_lines(lines);
+  if (heights.size() < worth_a_thread) return drawing_context::stroke_lines(lines);
   auto middle = heights.begin() + static_cast<std::ptrdiff_t>(heights.size() / 2);
   std::nth_element(heights.begin(), middle, heights.end());
   auto border = static_cast<std::uint64_t>(std::clamp(*middle, 1.0, static_cast<double>(ny_ - 1)));

@@ -71,31 +71,32 @@ void add_levels(const Tzu_pgn_style& s, level_set& levels) {
 
 }  // namespace zu::platform
 
-using zu::platform::shown;
+using zu::platform::got;
+using zu::platform::put;
 
 int32_t zu_bpnt_style_get_render_level(const Tzu_bpnt_style* style) {
-  return shown(style).render_level;
+  return got(style, &Tzu_bpnt_style::render_level);
 }
 void zu_bpnt_style_set_render_level(Tzu_bpnt_style* style, int32_t level) {
-  if (style != nullptr) style->render_level = level;
+  put(style, &Tzu_bpnt_style::render_level, level);
 }
 int32_t zu_bpln_style_get_render_level(const Tzu_bpln_style* style) {
-  return shown(style).render_level;
+  return got(style, &Tzu_bpln_style::render_level);
 }
 void zu_bpln_style_set_render_level(Tzu_bpln_style* style, int32_t level) {
-  if (style != nullptr) style->render_level = level;
+  put(style, &Tzu_bpln_style::render_level, level);
 }
 int32_t zu_bpgn_style_get_render_level(const Tzu_bpgn_style* style) {
-  return shown(style).render_level;
+  return got(style, &Tzu_bpgn_style::render_level);
 }
 void zu_bpgn_style_set_render_level(Tzu_bpgn_style* style, int32_t level) {
-  if (style != nullptr) style->render_level = level;
+  put(style, &Tzu_bpgn_style::render_level, level);
 }
 int32_t zu_bnum_style_get_render_level(const Tzu_bnum_style* style) {
-  return shown(style).render_level;
+  return got(style, &Tzu_bnum_style::render_level);
 }
 void zu_bnum_style_set_render_level(Tzu_bnum_style* style, int32_t level) {
-  if (style != nullptr) style->render_level = level;
+  put(style, &Tzu_bnum_style::render_level, level);
 }
 
 bool zu_pnt_style_assign_level(Tzu_pnt_style* style, const Tzu_pnt_style* from, int32_t level) {

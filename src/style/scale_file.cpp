@@ -9,8 +9,6 @@
 namespace zu::style {
 namespace {
 
-constexpr std::int32_t first_colors = 5;  // from blue through white to red
-
 std::wstring place_of_user(const std::wstring& path, bool make) {
   return text_of([&](Tzu_string_adp* a) { zu_os_get_user_place_w(path.c_str(), make, a); });
 }
@@ -54,7 +52,7 @@ bool set_up_range_scale(Tzu_stl_mngr* manager, const data::open_reference& sourc
   }
   Tzu_rng_scale* scale = zu_stl_mngr_get_rng_scale_ptr(manager);
   if (!fill_from_data(scale, source, field)) return false;
-  spread_colors(scale, first_colors);
+  spread_colors(scale, default_colors);
   if (!path.empty() && !save_range_scale(path, manager))
     save_range_scale(place_of_user(path, true), manager);
   return true;

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "src/style/classes/builders.h"
 #include "src/style/scale_file.h"
 #include "src/style/scale_model.h"
 #include "zu/platform/zuk_palettes.h"
@@ -29,8 +30,6 @@ template <class model> std::vector<Tzu_stl_prm*> styles_of(const model& m, bool 
   for (std::int64_t row : rows_of(m, only_marked)) styles.push_back(m.get_style_prm(row));
   return styles;
 }
-
-inline constexpr std::int32_t default_colours = 5;  ///< array of scales that data have filled
 
 /// Gives the parameters, in order, the colours of a numbered array or, if it is not null, of a
 /// palette; their transparencies stay.
@@ -161,7 +160,7 @@ template <class model> void load_default_scale(model& m) {
     m.set_field(field);  // the file's own may be another
   } else {
     traits::fill(m.scale(), m.source, field);
-    detail::spread_colours(detail::styles_of(m, false), detail::default_colours, nullptr, 0);
+    detail::spread_colours(detail::styles_of(m, false), default_colors, nullptr, 0);
   }
   m.changed();
 }

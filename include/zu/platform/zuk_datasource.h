@@ -61,7 +61,7 @@ ZU_API bool zu_datasource_compute_histogram(Tzu_handle source, int64_t field, ui
                                             int64_t* counts);
 /// How many classes between the limits show a field best: 256, or, for whole numbers, one a number
 /// or one for so many numbers each, at most 256, so that no class is empty or full by its place
-/// alone. 256 if there is no such field.
+/// alone. 256 if there is no such field, and for limits that fall.
 ZU_API uint64_t zu_datasource_get_histogram_classes(Tzu_handle source, int64_t field,
                                                     double minimum, double maximum);
 

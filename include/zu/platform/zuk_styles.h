@@ -260,11 +260,11 @@ __attribute__((always_inline)) static inline Tzu_scale_prm* zu_scale_lookup_find
   const uint32_t* span = lookup.first_key + static_cast<uint32_t>(bucket);
   const double* key = lookup.keys + span[0];
   uint32_t count = span[1] - span[0];
-  if (__builtin_expect(count > 1, 0)) do {
-      uint32_t half = (count + 1) / 2;
-      key += half & -static_cast<uint32_t>(value > key[half - 1]);
-      count -= half;
-    } while (count > 1);
+  while (__builtin_expect(count > 1, 0)) {
+    uint32_t half = (count + 1) / 2;
+    key += half & -static_cast<uint32_t>(value > key[half - 1]);
+    count -= half;
+  }
   key += value > *key;  // never past the last one, which is infinite
   return lookup.rows[key - lookup.keys];
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "src/style/classes/builders.h"
 #include "zu/platform/zuk_palettes.h"
 
 namespace zu::style::detail {
@@ -10,18 +11,10 @@ namespace {
 
 using color_list = std::vector<Tzu_color>;
 
-constexpr std::int32_t primary = 0;        // the drawn style of a row
-constexpr std::int32_t default_array = 5;  // of scales that data have filled
+constexpr std::int32_t primary = 0;  // the drawn style of a row
 
 bool alike(const Tzu_color& a, const Tzu_color& b) {
   return a.r == b.r && a.g == b.g && a.b == b.b;
-}
-
-Tzu_stl_prm* style_of(Tzu_rng_scale* scale, std::size_t row) {
-  std::uint64_t size = zu_rng_scale_get_size(scale);
-  return zu_scale_prm_get_stl_prm_ptr(row == 0      ? zu_rng_scale_get_min_prm_ptr(scale)
-                                      : row <= size ? zu_rng_scale_get_scale_prm_ptr(scale, row - 1)
-                                                    : zu_rng_scale_get_max_prm_ptr(scale));
 }
 
 /// A numbered array, or a palette if it is not null, as a ramp or in turn.
@@ -70,8 +63,7 @@ void resample(const color_list& from, color_list& to) {
 }  // namespace
 
 color_run::color_run(Tzu_rng_scale* scale) {
-  std::size_t count = zu_rng_scale_get_size(scale) + 2;
-  for (std::size_t i = 0; i < count; ++i) rows_.emplace_back(zu_stl_prm_clone(style_of(scale, i)));
+  for (const Tzu_stl_prm* style : row_styles(scale)) rows_.emplace_back(zu_stl_prm_clone(style));
 }
 
 color_list color_run::colors() const {
@@ -81,25 +73,24 @@ color_list color_run::colors() const {
 }
 
 void color_run::spread_over(Tzu_rng_scale* scale) const {
-  std::size_t count = zu_rng_scale_get_size(scale) + 2;
+  const std::vector<Tzu_stl_prm*> styles = row_styles(scale);
+  const std::size_t count = styles.size();
   if (count == rows_.size()) return;
   const bool had_classes = rows_.size() > 2;
   color_list before = colors(), after;
   for (std::size_t i = 0; i < count; ++i) {
-    Tzu_stl_prm* style = style_of(scale, i);
     std::size_t same_share = (i * (rows_.size() - 1) + (count - 1) / 2) / (count - 1);
     if (had_classes && i > 0 && i + 1 < count)
       zu_rng_scale_set_stl_prm(scale, i - 1, rows_[same_share].get(), primary);
-    after.push_back(zu_stl_prm_get_color(style, primary));
+    after.push_back(zu_stl_prm_get_color(styles[i], primary));
   }
   if (std::optional<origin> known = origin_of(before))
     known->generate(after);
   else if (!had_classes && alike(before.front(), before.back()))
-    origin{default_array, nullptr, 0}.generate(after);
+    origin{default_colors, nullptr, 0}.generate(after);
   else
     resample(before, after);
-  for (std::size_t i = 0; i < count; ++i)
-    zu_stl_prm_clr_set_all(style_of(scale, i), after[i], primary);
+  for (std::size_t i = 0; i < count; ++i) zu_stl_prm_clr_set_all(styles[i], after[i], primary);
 }
 
 }  // namespace zu::style::detail

@@ -104,6 +104,10 @@ std::wstring upper_caption(const Tzu_rng_scale* scale);
 std::wstring class_caption(const Tzu_rng_scale* scale, std::uint64_t index,
                            caption_form form = caption_form::both);
 
+/// The array of scales that data have filled: from blue through white to red.
+inline constexpr std::int32_t default_colors = 5;
+/// Of lower tail, classes and upper tail; not owned.
+std::vector<Tzu_stl_prm*> row_styles(Tzu_rng_scale* scale);
 /// Spreads a numbered array of colours over lower tail, classes and upper tail, or gives them in
 /// turn if it is one of kinds; transparencies stay. False, and nothing changed, if there is no such
 /// array.

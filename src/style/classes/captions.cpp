@@ -10,17 +10,6 @@
 namespace zu::style {
 namespace {
 
-/// Style parameters from the lower tail to the upper one.
-std::vector<Tzu_stl_prm*> styles_of(Tzu_rng_scale* scale) {
-  std::vector<Tzu_stl_prm*> all;
-  auto add = [&](Tzu_scale_prm* row) { all.push_back(zu_scale_prm_get_stl_prm_ptr(row)); };
-  add(zu_rng_scale_get_min_prm_ptr(scale));
-  std::uint64_t size = zu_rng_scale_get_size(scale);
-  for (std::uint64_t i = 0; i < size; ++i) add(zu_rng_scale_get_scale_prm_ptr(scale, i));
-  add(zu_rng_scale_get_max_prm_ptr(scale));
-  return all;
-}
-
 // Texts that all parts of the system share.
 constexpr std::int32_t below_text = -621, above_text = -622, between_text = -623;
 
@@ -82,8 +71,18 @@ void captions(Tzu_rng_scale* scale, caption_form form) {
     zu_rng_scale_set_caption_w(scale, i, class_caption(scale, i, form).c_str());
 }
 
+std::vector<Tzu_stl_prm*> row_styles(Tzu_rng_scale* scale) {
+  std::vector<Tzu_stl_prm*> all;
+  auto add = [&](Tzu_scale_prm* row) { all.push_back(zu_scale_prm_get_stl_prm_ptr(row)); };
+  add(zu_rng_scale_get_min_prm_ptr(scale));
+  std::uint64_t size = zu_rng_scale_get_size(scale);
+  for (std::uint64_t i = 0; i < size; ++i) add(zu_rng_scale_get_scale_prm_ptr(scale, i));
+  add(zu_rng_scale_get_max_prm_ptr(scale));
+  return all;
+}
+
 bool spread_colors(Tzu_rng_scale* scale, std::int32_t array) {
-  std::vector<Tzu_stl_prm*> styles = styles_of(scale);
+  std::vector<Tzu_stl_prm*> styles = row_styles(scale);
   std::vector<Tzu_color> colors;
   colors.reserve(styles.size());
   for (Tzu_stl_prm* style : styles) colors.push_back(*zu_stl_prm_get_clr_style_ptr(style, 0));

@@ -48,6 +48,8 @@ TEST(histogram_counts, of_whole_numbers_have_as_many_numbers_in_each_class) {
   EXPECT_EQ(histogram_classes(element_uint16, 0, 65535), 256u);
   EXPECT_EQ(histogram_classes(element_int64, -9e18, 9e18), 256u);
   EXPECT_EQ(histogram_classes(element_uint8, NAN, 1), 256u);
+  EXPECT_EQ(histogram_classes(element_uint8, 1, 0), 256u) << "no limits at all";
+  EXPECT_EQ(histogram_classes(element_uint8, 0, -300), 256u);
   for (int count : {1, 2, 131, 256, 257, 300, 400, 512}) {
     std::vector<float> all;
     for (int i = 0; i < count; ++i) all.push_back(static_cast<float>(10 + i));

@@ -75,16 +75,18 @@ int block_rows(GDALRasterBand& band) {
 
 bool scan_band(open_dataset& dataset, int band, const std::wstring& name,
                bool (*progress)(double, void*), void* user, const cell_taker& take) {
-  // The other thread may have read it all before this one asks for the first time.
-  if (progress != nullptr && !progress(0.0, user)) return false;
   gdal_messages said;
   GDALRasterBand& own_band = *dataset.gdal().GetRasterBand(band);
   block_row_scan own(own_band);
   const int rows = block_rows(own_band);
-  std::atomic<int> next = 0;
+  // Row 0 is this thread's, so that it asks at least once, however quick the other one is.
+  std::atomic<int> next = 1;
   std::atomic<bool> stopped = false, all_read = true, any = false;
-  auto work = [&](block_row_scan& scan, int thread, auto after_row) {
-    for (int row; !stopped && (row = next++) < rows; after_row()) scan.read(row, thread, take);
+  auto work = [&](block_row_scan& scan, int thread, int row, auto after_row) {
+    for (; !stopped && row < rows; row = next++) {
+      scan.read(row, thread, take);
+      after_row();
+    }
     if (!scan.complete()) all_read = false;
     if (scan.any()) any = true;
   };
@@ -96,13 +98,13 @@ bool scan_band(open_dataset& dataset, int band, const std::wstring& name,
       gdal_messages heard;
       try {
         block_row_scan scan(*helper->gdal().GetRasterBand(band));
-        work(scan, 1, [] {});
+        work(scan, 1, next++, [] {});
         helper_said = heard.reason(dataset.path(), "");
       } catch (...) {
         stopped = true;
       }
     });
-  work(own, 0, [&] {
+  work(own, 0, 0, [&] {
     double share = std::min(1.0, static_cast<double>(next) / rows);
     if (progress != nullptr && !progress(share, user)) stopped = true;
   });
